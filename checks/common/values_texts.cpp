@@ -1,0 +1,133 @@
+#include "common/values/text.h"
+#include "common/values/unicode.h"
+
+#include <gtest/gtest.h>
+
+#include <locale.h>
+#include <wctype.h>
+
+namespace brx {
+namespace {
+
+using namespace std::string_literals;
+using Parts = std::vector<std::string>;
+
+TEST(Trim, TakesBlanksOnly) {
+    EXPECT_EQ("a b", trim("  a b "));
+    EXPECT_EQ("", trim("   "));
+    EXPECT_EQ("", trim(""));
+    EXPECT_EQ("\ta\n", trim(" \ta\n "));
+    EXPECT_EQ("\u00A0a", trim("\u00A0a "));
+}
+
+TEST(ToUpper, MapsTheWholeOfUnicode) {
+    EXPECT_EQ("ABC XYZ 123", to_upper("abc XYZ 123"));
+    EXPECT_EQ("ÄÖÜÉÇŸ", to_upper("äöüéçÿ"));
+    EXPECT_EQ("ΑΒΓΣΣ", to_upper("αβγσς"));
+    EXPECT_EQ("ПРИВЕТ", to_upper("привет"));
+    EXPECT_EQ("STRAßE", to_upper("straße")) << "one letter stays one letter";
+    EXPECT_EQ("IIİ", to_upper("iıİ")) << "no locale changes it";
+    EXPECT_EQ("\U00010400", to_upper("\U00010428"));
+}
+
+TEST(ToUpper, LeavesMalformedBytesAndSurrogatesAlone) {
+    EXPECT_EQ("A\xFF"s
+              "B\xC3"s,
+              to_upper("a\xFF"s
+                       "b\xC3"s));
+    EXPECT_EQ("\xED\xA0\x80"s
+              "A",
+              to_upper("\xED\xA0\x80"s
+                       "a"));
+    EXPECT_EQ("A\0B"s, to_upper("a\0b"s));
+}
+
+TEST(ToUpper, AgreesWithTheCLibraryForEveryCodePoint) {
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    ASSERT_TRUE(locale);
+    int different = 0;
+    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+        if (to_upper(c) != static_cast<char32_t>(towupper_l(static_cast<wint_t>(c), locale))) ++different;
+    }
+    EXPECT_EQ(0, different);
+    freelocale(locale);
+}
+
+TEST(EqualIgnoringCase, ComparesCapitals) {
+    EXPECT_TRUE(equal_ignoring_case("Plant.Server.1", "PLANT.server.1"));
+    EXPECT_TRUE(equal_ignoring_case("ÄÖ", "äö"));
+    EXPECT_TRUE(equal_ignoring_case("", ""));
+    EXPECT_FALSE(equal_ignoring_case("a", "b"));
+    EXPECT_FALSE(equal_ignoring_case("a", "a "));
+    EXPECT_FALSE(equal_ignoring_case("e", "é"));
+    EXPECT_FALSE(equal_ignoring_case("ss", "ß"));
+}
+
+TEST(Split, GivesOnePartMoreThanSeparators) {
+    EXPECT_EQ((Parts{"a", "b", "c"}), split("a.b.c", "."));
+    EXPECT_EQ((Parts{"a"}), split("a", "."));
+    EXPECT_EQ((Parts{"", "a", "", ""}), split(".a..", "."));
+    EXPECT_EQ((Parts{"a", "b"}), split("a::b", "::"));
+    EXPECT_EQ(Parts{}, split("", "."));
+    EXPECT_EQ((Parts{"a.b"}), split("a.b", ""));
+}
+
+TEST(Utf16, KeepsEveryText) {
+    const std::u16string text = u"a\u00E4\u20AC\U0001F600\0z"s;
+    EXPECT_EQ("aä€\U0001F600\0z"s, to_utf8(text));
+    EXPECT_EQ(text, to_utf16(to_utf8(text)));
+    EXPECT_EQ(u"", to_utf16(""));
+}
+
+TEST(Utf16, KeepsUnpairedSurrogates) {
+    const std::u16string high(1, char16_t{0xD83D});
+    const std::u16string low(1, char16_t{0xDE00});
+    EXPECT_EQ("\xED\xA0\xBD", to_utf8(high));
+    for (const std::u16string& text : {high, low, low + high, high + high + low, u"a" + high + u"b" + low}) {
+        EXPECT_EQ(text, to_utf16(to_utf8(text)));
+    }
+}
+
+TEST(Utf16, KeepsEveryPairOfUnits) {
+    const char16_t edges[] = {0,      0x7F,   0x80,   0x7FF,  0x800,  0xD7FF,
+                              0xD800, 0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFFFF};
+    for (const char16_t a : edges) {
+        for (const char16_t b : edges) {
+            for (const char16_t c : edges) {
+                const std::u16string text = {a, b, c};
+                EXPECT_EQ(text, to_utf16(to_utf8(text)));
+            }
+        }
+    }
+}
+
+TEST(Utf16, ReplacesEachMalformedByte) {
+    EXPECT_EQ(u"a\uFFFDb", to_utf16("a\xFF"s
+                                    "b"));
+    EXPECT_EQ(u"\uFFFD", to_utf16("\xC3")) << "cut off";
+    EXPECT_EQ(u"\uFFFD\uFFFD", to_utf16("\xE2\x82")) << "cut off";
+    EXPECT_EQ(u"\uFFFD\uFFFD", to_utf16("\xC0\x80")) << "longer than need be";
+    EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD", to_utf16("\xE0\x80\x80")) << "longer than need be";
+    EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD", to_utf16("\xF4\x90\x80\x80")) << "beyond Unicode";
+    EXPECT_EQ(u"\uFFFD(", to_utf16("\xC3("));
+    EXPECT_EQ(u"\uFFFDä", to_utf16("\xC3ä"));
+}
+
+TEST(Utf16, CountsUnits) {
+    EXPECT_EQ(0U, utf16_length(""));
+    EXPECT_EQ(3U, utf16_length("aä€"));
+    EXPECT_EQ(2U, utf16_length("\U0001F600"));
+    EXPECT_EQ(1U, utf16_length("\xED\xA0\xBD"));
+    EXPECT_EQ(2U, utf16_length("\xFF\xFE"));
+}
+
+TEST(CodePoints, BecomeReplacementsOutsideUnicode) {
+    std::string text;
+    append_code_point(text, 0x110000);
+    append_code_point(text, malformed_byte);
+    EXPECT_EQ("\uFFFD\uFFFD", text);
+    EXPECT_EQ(U"a\uFFFD€", to_code_points("a\xFF€"));
+}
+
+} // namespace
+} // namespace brx

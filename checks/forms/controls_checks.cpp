@@ -1,0 +1,210 @@
+#include "forms/list_tools.h"
+#include "one_form.h"
+
+#include <gtest/gtest.h>
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+struct Controls : testing::Test, OpenForm {};
+} // namespace
+
+TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {
+    while_open([&] {
+        form.box.set_text("new");
+        EXPECT_EQ(form.notes, (Notes{"box_Change"}));
+        form.box.set_text("new");
+        EXPECT_EQ(form.notes, (Notes{"box_Change"})) << "The same text changes nothing.";
+        EXPECT_TRUE(form.box.user_text("typed"));
+        EXPECT_EQ(form.notes, (Notes{"box_Change", "box_Change"}));
+        EXPECT_TRUE(form.box.user_text("typed"));
+        EXPECT_EQ(form.notes.size(), 2U) << "An echo of what is there changes nothing.";
+    });
+}
+
+TEST_F(Controls, AKeyPressHandlerCanChangeOrDiscardTheCharacter) {
+    while_open([&] {
+        form.on_key = [](std::int32_t& key) { key = key == 'a' ? 'b' : 0; };
+        EXPECT_EQ(form.box.user_key_press('a'), 'b');
+        EXPECT_EQ(form.box.user_key_press('c'), 0);
+    });
+}
+
+TEST_F(Controls, ADisplayOnlyBoxRefusesAPersonsTextButNotTheCodes) {
+    struct Display : Form {
+        explicit Display(Environment& environment)
+            : Form(environment, {.name = "Display", .caption = "", .size = {}}) {}
+        TextBox box{*this, "box", {.place = {}, .display_only = true}};
+    };
+    Display display(environment);
+    engine.while_open = [&](Form&) {
+        EXPECT_FALSE(display.box.user_text("typed"));
+        EXPECT_EQ(display.box.text(), "");
+        display.box.set_text("shown");
+        EXPECT_EQ(display.box.text(), "shown");
+    };
+    display.show_modal();
+}
+
+TEST_F(Controls, ADisabledOrHiddenControlTakesNoInputFromAPersonButCodeCanSetIt) {
+    while_open([&] {
+        form.box.set_enabled(false);
+        EXPECT_FALSE(form.box.user_text("typed"));
+        form.box.set_text("set");
+        EXPECT_EQ(form.box.text(), "set");
+        form.box.set_enabled(true);
+        form.frame.set_visible(false);
+        EXPECT_FALSE(form.box.user_text("typed")) << "Its frame is hidden.";
+        EXPECT_FALSE(form.box.shows());
+        form.frame.set_visible(true);
+        form.frame.set_enabled(false);
+        EXPECT_FALSE(form.box.user_text("typed")) << "Its frame is disabled.";
+        form.button.set_enabled(false);
+        EXPECT_FALSE(form.button.user_click());
+        form.check.set_visible(false);
+        EXPECT_FALSE(form.check.user_toggle());
+    });
+}
+
+TEST_F(Controls, SettingEnabledVisibleOrColoursFiresNothing) {
+    while_open([&] {
+        form.list.set_enabled(false);
+        form.list.set_visible(false);
+        form.list.set_back_color(color::red);
+        form.list.set_fore_color(color::red);
+        EXPECT_TRUE(form.notes.empty());
+    });
+}
+
+TEST_F(Controls, AListFiresClickWhenAnotherLineIsSelectedByCodeOrAPerson) {
+    while_open([&] {
+        form.list.add_line("one");
+        form.list.add_line("two");
+        EXPECT_TRUE(form.notes.empty());
+        form.list.select(0);
+        EXPECT_TRUE(form.list.user_select(1));
+        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click"}));
+        EXPECT_TRUE(form.list.user_select(1));
+        form.list.select(1);
+        EXPECT_EQ(form.notes.size(), 2U) << "The same line again is no change.";
+    });
+}
+
+TEST_F(Controls, ClearingAListSelectsNothingWithoutClick) {
+    while_open([&] {
+        form.combo.add_line("one", 7);
+        form.combo.select(0);
+        form.notes.clear();
+        form.combo.clear();
+        EXPECT_EQ(form.combo.selected(), -1);
+        EXPECT_EQ(form.combo.count(), 0);
+        EXPECT_EQ(form.combo.text(), "");
+        form.combo.add_line("two");
+        form.combo.select(0);
+        form.combo.select(-1);
+        EXPECT_EQ(form.notes, (Notes{"combo_Click"}));
+    });
+}
+
+TEST_F(Controls, LinesKeepTheirItemDataWhenOthersAreInserted) {
+    while_open([&] {
+        form.list.add_line("a", 1);
+        form.list.add_line("c", INT32_MAX);
+        form.list.select(1);
+        form.list.insert_line(1, "b", -2);
+        EXPECT_EQ(form.list.text(1), "b");
+        EXPECT_EQ(form.list.data(1), -2);
+        EXPECT_EQ(form.list.data(2), INT32_MAX);
+        EXPECT_EQ(form.list.selected(), 2) << "The selection stays on its line.";
+    });
+}
+
+TEST_F(Controls, AbsentLinesAreAnInvalidArgument) {
+    while_open([&] {
+        for (const auto& deed : std::vector<std::function<void()>>{
+                 [&] { form.list.select(0); }, [&] { form.list.select(-2); },
+                 [&] { static_cast<void>(form.list.text(0)); },
+                 [&] { static_cast<void>(form.list.data(-1)); }, [&] { form.list.insert_line(1, "x"); }}) {
+            try {
+                deed();
+                ADD_FAILURE() << "No error.";
+            } catch (const Error& error) {
+                EXPECT_EQ(error.number(), error::invalid_procedure_call);
+            }
+        }
+        EXPECT_FALSE(form.list.user_select(0));
+    });
+}
+
+TEST_F(Controls, ListToolsAddReadAndSelectByItemData) {
+    while_open([&] {
+        EXPECT_EQ(hlxListTools::selected_data(form.combo), 0);
+        hlxListTools::add(form.combo, "one", 11);
+        hlxListTools::add(form.combo, "two", 22);
+        hlxListTools::add(form.combo, "none");
+        hlxListTools::select_data(form.combo, 22);
+        EXPECT_EQ(form.combo.text(), "two");
+        EXPECT_EQ(hlxListTools::selected_data(form.combo), 22);
+        hlxListTools::select_data(form.combo, 33);
+        EXPECT_EQ(form.combo.text(), "two") << "No line has it.";
+        form.combo.select(2);
+        EXPECT_EQ(hlxListTools::selected_data(form.combo), 0);
+    });
+}
+
+TEST_F(Controls, ACheckBoxFiresClickWhenItsValueBecomesDifferent) {
+    while_open([&] {
+        form.check.set_value(2);
+        EXPECT_TRUE(form.check.user_toggle());
+        EXPECT_EQ(form.check.value(), 0);
+        EXPECT_TRUE(form.check.user_toggle());
+        EXPECT_EQ(form.check.value(), 1);
+        form.check.set_value(1);
+        EXPECT_EQ(form.notes, (Notes{"check_Click", "check_Click", "check_Click"}));
+    });
+}
+
+TEST_F(Controls, ATimerTicksOnlyWhileItIsEnabledAndItsFormLoaded) {
+    EXPECT_FALSE(form.timer.tick());
+    while_open([&] {
+        EXPECT_TRUE(form.timer.tick());
+        form.timer.set_enabled(false);
+        EXPECT_FALSE(form.timer.tick());
+        EXPECT_EQ(form.notes, (Notes{"timer_Timer"}));
+    });
+    EXPECT_FALSE(form.timer.tick());
+}
+
+TEST_F(Controls, ATimerDoesNotTickDuringAnotherHandlerUnlessAMessageIsUp) {
+    while_open([&] {
+        form.on_click = [&] {
+            EXPECT_FALSE(form.timer.tick()) << "The handler runs.";
+            engine.while_asking = [&](const Message&) {
+                EXPECT_TRUE(form.timer.tick()) << "The handler waits in a modal loop.";
+                return message::ok;
+            };
+            form.show_message({"Hello", 0, "Greeting"});
+            EXPECT_FALSE(form.timer.tick());
+        };
+        form.button.user_click();
+        EXPECT_EQ(form.notes, (Notes{"button_Click", "timer_Timer"}));
+    });
+}
+
+TEST_F(Controls, NothingAPersonDoesGetsThroughWhileAHandlerRunsOrAMessageIsUp) {
+    while_open([&] {
+        form.on_click = [&] {
+            EXPECT_FALSE(form.check.user_toggle());
+            EXPECT_FALSE(form.user_close());
+            engine.while_asking = [&](const Message&) {
+                EXPECT_FALSE(form.check.user_toggle());
+                EXPECT_FALSE(form.user_close());
+                return message::ok;
+            };
+            form.show_message({"Hello", 0, "Greeting"});
+        };
+        form.button.user_click();
+        EXPECT_EQ(form.check.value(), 0);
+    });
+}

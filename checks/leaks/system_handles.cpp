@@ -1,0 +1,42 @@
+#include "leaks/system_handles.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr std::size_t handful = 64;
+
+/// The index in a handle: its low 16 bits.
+int index_of(HANDLE handle) { return static_cast<int>(reinterpret_cast<ULONG_PTR>(handle) & 0xFFFFU); }
+
+template <class Handle, class Create, class Destroy> int highest_index(Create&& create, Destroy&& destroy) {
+    std::vector<Handle> taken;
+    int highest = 0;
+    for (std::size_t i = 0; i < handful; ++i) {
+        taken.push_back(create());
+        highest = std::max(highest, index_of(taken.back()));
+    }
+    for (Handle each : taken) destroy(each);
+    return highest;
+}
+
+} // namespace
+
+SystemHandles system_handles() {
+    SystemHandles handles;
+    handles.user = highest_index<HWND>(
+        [] {
+            return CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, HWND_MESSAGE, nullptr, nullptr,
+                                   nullptr);
+        },
+        DestroyWindow);
+    handles.gdi = highest_index<HPEN>([] { return CreatePen(PS_SOLID, 1, RGB(1, 2, 3)); }, DeleteObject);
+    return handles;
+}
+
+} // namespace brx::checks

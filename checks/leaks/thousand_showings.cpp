@@ -1,0 +1,70 @@
+#include "leaks/system_handles.h"
+#include "scenario.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+// What a host does all day must leave nothing behind: objects, windows, fonts, brushes, names.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+constexpr int showings = 1000;
+/// Fewer than one handle for every ten showings: what the system keeps for itself, not what showings leave
+/// behind.
+constexpr int slack = showings / 10;
+
+void show_again_and_again(Play& its, const std::string& class_name, const ObjectPtr& object) {
+    Showing dialog(*its.stage, class_name);
+    const auto show_once = [&] {
+        dialog.show(object);
+        its.person.closes_the_window();
+        dialog.result();
+    };
+    for (int i = 0; i < 20; ++i) show_once(); // what the system makes once is made now
+    SystemHandles before;
+    its.stage->start([&] { before = system_handles(); });
+    for (int i = 0; i < showings; ++i) show_once();
+    SystemHandles after;
+    its.stage->start([&] { after = system_handles(); });
+    EXPECT_LT(after.user - before.user, slack) << "Windows or other USER objects stayed.";
+    EXPECT_LT(after.gdi - before.gdi, slack) << "Fonts, brushes or other GDI objects stayed.";
+    for (const wchar_t* name : {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation"})
+        EXPECT_EQ(GlobalFindAtomW(name), 0) << "The name of a window stayed.";
+}
+
+} // namespace
+
+SCENARIO(AThousandShowings, OfTheServerSelectionLeaveNothingBehind) {
+    its.host.servers->has("Matrix");
+    its.host.servers->has("Sim", "PC7");
+    show_again_and_again(its, "ServerSelect", its.host.servers);
+}
+
+SCENARIO(AThousandShowings, OfTheAddServerDialogLeaveNothingBehind) {
+    show_again_and_again(its, "ServerAdd", its.host.servers);
+}
+
+SCENARIO(AThousandShowings, OfTheServerInformationLeaveNothingBehind) {
+    show_again_and_again(its, "ServerInformation", its.host.enumerator);
+}
+
+TEST(SystemHandlesCheck, NoticesWindowsAndPensThatStay) {
+    const SystemHandles before = system_handles();
+    std::vector<HPEN> pens;
+    std::vector<HWND> windows;
+    for (int i = 0; i < showings; ++i) {
+        pens.push_back(CreatePen(PS_SOLID, 1, RGB(1, 2, 3)));
+        windows.push_back(CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, HWND_MESSAGE, nullptr,
+                                          nullptr, nullptr));
+    }
+    const SystemHandles after = system_handles();
+    EXPECT_GE(after.gdi - before.gdi, slack);
+    EXPECT_GE(after.user - before.user, slack);
+    for (HPEN pen : pens) DeleteObject(pen);
+    for (HWND window : windows) DestroyWindow(window);
+}

@@ -1,0 +1,120 @@
+#include "sample/windows/fake_wrapper.h"
+
+#include "com/adapters/opc_unused.h"
+#include "com/bstr.h"
+#include "com/com_ptr.h"
+
+#include <memory>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr CLSID wrapper_class{0x5F0B3C44, 0x21D7, 0x4C4E, {0x9A, 0x30, 0x6C, 0x3B, 0x51, 0x77, 0x90, 0x12}};
+constexpr const wchar_t* wrapper_class_text = L"{5F0B3C44-21D7-4C4E-9A30-6C3B51779012}";
+constexpr const wchar_t* wrapper_key = L"Software\\Classes\\OPC.Automation";
+/// Some systems look for names in the machine's classes only, and not everybody may write there.
+const HKEY roots[] = {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE};
+
+/// References of an object that lives on the heap.
+template <class Interface, class Base> class Counted : public Base {
+public:
+    virtual ~Counted() = default;
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        const bool known = iid == __uuidof(IUnknown) || iid == __uuidof(Interface) || iid == also_;
+        *object = known ? static_cast<Interface*>(this) : nullptr;
+        if (known) AddRef();
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --references_;
+        if (left == 0) std::unique_ptr<Counted>(this).reset();
+        return left;
+    }
+
+protected:
+    IID also_ = __uuidof(Interface);
+
+private:
+    ULONG references_ = 0;
+};
+
+class FakeServer final : public Counted<::IOPCAutoServer, UnusedOfOPCServer> {
+public:
+    FakeServer() { also_ = __uuidof(IDispatch); }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP get_StartTime(DATE*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_CurrentTime(DATE*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_LastUpdateTime(DATE*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_MajorVersion(SHORT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_MinorVersion(SHORT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_BuildNumber(SHORT*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_VendorInfo(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_ServerState(LONG* state) override {
+        *state = server_.empty() ? 6 : 1;
+        return S_OK;
+    }
+    STDMETHODIMP get_ServerName(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_ServerNode(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_ClientName(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_Bandwidth(LONG*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_OPCGroups(IOPCGroups**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetOPCServers(VARIANT, VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP CreateBrowser(::OPCBrowser**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetErrorString(LONG, BSTR*) override { return E_NOTIMPL; }
+
+    STDMETHODIMP Connect(BSTR program_id, VARIANT node) override {
+        const std::string name = text_of(program_id);
+        const std::string computer = V_VT(&node) == VT_BSTR ? text_of(V_BSTR(&node)) : "this computer";
+        FakeWrapper::diary.push_back("connect " + name + " on " + computer);
+        if (name == "Broken") return static_cast<HRESULT>(0x80080005);
+        server_ = name;
+        return S_OK;
+    }
+    STDMETHODIMP Disconnect() override {
+        FakeWrapper::diary.push_back("disconnect " + server_);
+        server_.clear();
+        return S_OK;
+    }
+
+private:
+    std::string server_;
+};
+
+class FakeFactory final : public Counted<IClassFactory, IClassFactory> {
+public:
+    STDMETHODIMP CreateInstance(IUnknown*, REFIID iid, void** object) override {
+        const com_ptr<IUnknown> made(
+            static_cast<::IOPCAutoServer*>(std::make_unique<FakeServer>().release()));
+        return made->QueryInterface(iid, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+};
+
+} // namespace
+
+std::vector<std::string> FakeWrapper::diary;
+
+FakeWrapper::FakeWrapper() {
+    diary.clear();
+    const std::wstring key = std::wstring(wrapper_key) + L"\\CLSID";
+    const std::wstring text = wrapper_class_text;
+    const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    for (HKEY root : roots) RegSetKeyValueW(root, key.c_str(), nullptr, REG_SZ, text.c_str(), size);
+    const com_ptr<IUnknown> factory(static_cast<IUnknown*>(std::make_unique<FakeFactory>().release()));
+    CoRegisterClassObject(wrapper_class, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
+                          &registered_);
+}
+
+FakeWrapper::~FakeWrapper() {
+    CoRevokeClassObject(registered_);
+    for (HKEY root : roots) RegDeleteTreeW(root, wrapper_key);
+}
+
+} // namespace brx::checks

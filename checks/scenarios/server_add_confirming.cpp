@@ -1,0 +1,180 @@
+#include "scenarios/adding.h"
+
+using namespace brx;
+using namespace brx::checks;
+
+// Confirming the chosen server, and everything else that ends the dialog or not.
+
+namespace {
+
+const Message already_there{
+    .text = "SERVER ALREADY EXISTS!\r\n\r\nServer already exists and cannot be selected a second time.",
+    .style = message::information,
+    .title = "Servers Exists"};
+
+} // namespace
+
+SCENARIO(AddingAServer, AServerAlreadyConnectedOnTheNodeIsRefused) {
+    its.host.servers->has_connected("SIM", "pc7");
+    its.host.servers_on(" PC7 ", {"Sim"});
+    Adding dialog(its);
+    dialog.lists_node(" PC7 ");
+    its.person.picks("lstOPCServers", "Sim");
+    its.person.presses("bnOK");
+    its.person.answers(already_there);
+    its.person.is_at("dlgServerAdd");
+    EXPECT_TRUE(its.host.servers->additions().empty());
+    EXPECT_EQ(its.person.reads("txtNode"), " PC7 ") << "Nothing typed is lost.";
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, TheSameNameOnAnotherNodeIsNoDuplicate) {
+    its.host.servers->has_connected("Sim", "PC9");
+    its.host.servers_on("PC7", {"Sim"});
+    Adding dialog(its);
+    dialog.lists_node("PC7");
+    its.person.picks("lstOPCServers", "Sim");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 2);
+}
+
+SCENARIO(AddingAServer, AnEntryWithoutAConnectionIsNoDuplicate) {
+    its.host.servers->has("Plant.Simulation.1");
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 2);
+}
+
+SCENARIO(AddingAServer, AFailedConnectionIsToldAndTheDialogStays) {
+    its.host.servers->refuses("Class not registered");
+    its.host.servers_on("PC7", {"Sim"});
+    Adding dialog(its);
+    dialog.lists_node("PC7");
+    its.person.picks("lstOPCServers", "Sim");
+    its.person.presses("bnOK");
+    its.person.answers(
+        {.text = "UNABLE TO CONNECT!\r\n\r\nServer: Sim\r\nNode: PC7\r\nError: Class not registered"
+                 "\r\n\r\nSelect another Server or try again.",
+         .style = message::exclamation,
+         .title = "Unable to Connect"});
+    its.person.is_at("dlgServerAdd");
+    EXPECT_TRUE(its.host.servers->entries().empty());
+    EXPECT_EQ(its.person.reads("lblSelectedServer"), "PC7.Sim");
+    its.person.presses("cmdRefreshList");
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines{"Sim"}) << "The list can still be refreshed.";
+    its.host.servers->refuses("");
+    its.person.picks("lstOPCServers", "Sim");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 1);
+}
+
+SCENARIO(AddingAServer, ClosingByOtherMeansAddsNothingAndKeepsTheIndex) {
+    Showing add(*its.stage, "ServerAdd");
+    add.set_ServerIndex(5);
+    add.show(its.host.servers);
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.person.closes_the_window();
+    EXPECT_FALSE(add.result());
+    add.show(its.host.servers);
+    its.person.hits(Key::escape);
+    EXPECT_FALSE(add.result());
+    EXPECT_EQ(add.ServerIndex(), 5);
+    EXPECT_TRUE(its.host.servers->additions().empty());
+}
+
+SCENARIO(AddingAServer, TheNodeBoxHasTheFocusFirstAndItsTextIsSelectedWhenSheComesBack) {
+    its.host.servers_on("PC7", {"Sim"});
+    Adding dialog(its);
+    EXPECT_TRUE(its.person.has_focus("txtNode"));
+    its.person.types("PC9");
+    its.person.hits(Key::tab);
+    EXPECT_TRUE(its.person.has_focus("cmdRefreshList"));
+    its.person.uses_accelerator('A');
+    EXPECT_TRUE(its.person.has_focus("txtNode"));
+    its.person.types("PC7");
+    EXPECT_EQ(its.person.reads("txtNode"), "PC7") << "The selected text was replaced.";
+    its.person.uses_accelerator('B');
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines{"Sim"});
+    its.person.uses_accelerator('C');
+    EXPECT_TRUE(its.person.has_focus("lstOPCServers"))
+        << "Alt+C names the list and the button; the list comes next.";
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, AHostWithoutServerEntriesIsReported) {
+    its.host.can_create_entries = false;
+    Adding dialog(its);
+    its.expect_report(error::cannot_create_object, "dlgServerAdd.Form_Load");
+    its.person.is_at("dlgServerAdd");
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, AFreshEntryWithoutAnOpcServerIsReported) {
+    its.host.fresh_connection = nullptr;
+    Adding dialog(its);
+    its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCServer");
+    its.expect_report(error::object_not_set, "dlgServerAdd.cmdRefreshList_Click");
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, TheHostsOwnMessageServiceShowsTheMessages) {
+    its.host.message_service = std::make_shared<FakeMessageService>(its.host.calls);
+    its.host.servers->has_connected("Plant.Simulation.1");
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.host.message_service->shown, std::vector<Message>{already_there});
+    its.person.is_at("dlgServerAdd");
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, ALineWithoutANameCannotBeChosen) {
+    its.host.local_servers({"", "Sim"});
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    EXPECT_EQ(its.person.reads("lblSelectedServer"), "");
+    its.person.picks("lstOPCServers", "Sim");
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, ARefreshKeepsTheServerChosenBefore) {
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("cmdRefreshList");
+    EXPECT_EQ(its.person.sees("lstOPCServers").selected, -1);
+    EXPECT_EQ(its.person.reads("lblSelectedServer"), "Line.Server.2");
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(its.host.servers->additions(), (std::vector<Addition>{{"Line.Server.2", "", true}}));
+}
+
+SCENARIO(AddingAServer, TheLabelShowsNamesWithAnAmpersandAsTheyAre) {
+    its.host.local_servers({"Salt&Pepper"});
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Salt&Pepper");
+    EXPECT_EQ(its.person.reads("lblSelectedServer"), "Salt&Pepper");
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, NothingIsReportedAndOpensNoDialog) {
+    Showing add(*its.stage, "ServerAdd");
+    add.show(nullptr);
+    its.person.is_at("");
+    EXPECT_FALSE(add.result());
+    its.expect_report(error::type_mismatch, "ServerAdd.ResolvehlxOPCServers");
+}
+
+SCENARIO(AddingAServer, AWrongObjectIsReportedAndOpensNoDialog) {
+    Showing add(*its.stage, "ServerAdd");
+    add.show(its.host.enumerator);
+    its.person.is_at("");
+    EXPECT_FALSE(add.result());
+    its.expect_report(error::type_mismatch, "ServerAdd.ResolvehlxOPCServers");
+}

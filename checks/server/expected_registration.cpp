@@ -1,0 +1,77 @@
+#include "server/expected_registration.h"
+
+namespace brx::checks {
+
+namespace {
+
+constexpr const wchar_t* library_id = L"{438E101D-A88C-4F38-BC9F-703D56A00BBB}";
+
+#ifdef _WIN64
+constexpr const wchar_t* platform = L"win64";
+#else
+constexpr const wchar_t* platform = L"win32";
+#endif
+
+class Lines {
+public:
+    void key(const std::wstring& key) { lines_.insert(key_line(key)); }
+    void text(const std::wstring& in_key, const std::wstring& name, const std::wstring& text) {
+        key(in_key);
+        lines_.insert(value_line(in_key, name, text));
+    }
+
+    void of_class(const std::wstring& name, const std::wstring& id, const std::wstring& help,
+                  const std::wstring& path) {
+        const std::wstring in = L"CLSID\\" + id;
+        text(in, L"", help);
+        text(in + L"\\InprocServer32", L"", path);
+        text(in + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+        text(in + L"\\ProgID", L"", name);
+        text(in + L"\\TypeLib", L"", library_id);
+        text(in + L"\\Version", L"", L"6.0");
+        text(name, L"", help);
+        text(name + L"\\CLSID", L"", id);
+    }
+
+    void of_interface(const std::wstring& name, const std::wstring& id) {
+        const std::wstring in = L"Interface\\" + id;
+        text(in, L"", name);
+        text(in + L"\\ProxyStubClsid32", L"", L"{00020424-0000-0000-C000-000000000046}");
+        text(in + L"\\TypeLib", L"", library_id);
+        text(in + L"\\TypeLib", L"Version", L"6.0");
+    }
+
+    void of_library(const std::wstring& path) {
+        const std::wstring in = std::wstring(L"TypeLib\\") + library_id;
+        key(in);
+        text(in + L"\\6.0", L"", L"brxOpcDlgs6 OPC collection dialogs");
+        key(in + L"\\6.0\\0");
+        text(in + L"\\6.0\\0\\" + platform, L"", path);
+        text(in + L"\\6.0\\FLAGS", L"", L"0");
+        text(in + L"\\6.0\\HELPDIR", L"", path.substr(0, path.rfind(L'\\')));
+    }
+
+    RegistrySnapshot take() { return std::move(lines_); }
+
+private:
+    RegistrySnapshot lines_;
+};
+
+} // namespace
+
+RegistrySnapshot expected_registration(const std::wstring& path) {
+    Lines lines;
+    lines.of_class(L"brxOpcDlgs6.ServerSelect", L"{FFF1633C-31EE-4CFE-BE2F-C0E070EC992B}",
+                   L"Lets a person choose one of the configured OPC servers", path);
+    lines.of_class(L"brxOpcDlgs6.ServerAdd", L"{45815F10-1C01-4DF1-99FC-2070887B3645}",
+                   L"Lets a person find an OPC server on a network node and add it", path);
+    lines.of_class(L"brxOpcDlgs6.ServerInformation", L"{26B35663-08AC-4A8B-8777-8D4976EFA5FD}",
+                   L"Shows the status of a connected OPC server", path);
+    lines.of_interface(L"_ServerSelect", L"{D497772F-7523-4AE5-813E-D8E1B101DB16}");
+    lines.of_interface(L"_ServerAdd", L"{D39D5860-BDBE-44D0-A783-8546DEFB1A03}");
+    lines.of_interface(L"_ServerInformation", L"{BC765970-03C7-46B7-B24A-66850C251B6D}");
+    lines.of_library(path);
+    return lines.take();
+}
+
+} // namespace brx::checks

@@ -1,0 +1,61 @@
+#include "scenario.h"
+
+#include <gtest/gtest-spi.h>
+
+#include <vector>
+
+namespace brx::checks {
+
+namespace {
+
+/// Plays the story whatever becomes of it: with a failing host nothing in it needs to come true.
+void play_loosely(const Story& story, Play& its) {
+    testing::TestPartResultArray ignored;
+    const testing::ScopedFakeTestPartResultReporter ignore(
+        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &ignored);
+    try {
+        story(its);
+    } catch (const GaveUp&) {
+    }
+}
+
+/// The reports that tell of the failing call, which there must be exactly one of, or none where errors are
+/// ignored.
+void expect_the_right_report(const Play& its, const HostCall& call, const std::string& text) {
+    std::vector<Report> tellers;
+    for (const Report& report : its.host.all_reports)
+        if (report.what.description == text) tellers.push_back(report);
+    if (call.location.empty()) {
+        EXPECT_TRUE(tellers.empty()) << "Errors are ignored there.";
+        return;
+    }
+    ASSERT_EQ(tellers.size(), 1U);
+    EXPECT_EQ(tellers[0].what.number, CallLog::failure_number);
+    EXPECT_EQ(tellers[0].what.source, CallLog::failure_source);
+    EXPECT_EQ(tellers[0].what.location, call.location);
+}
+
+} // namespace
+
+std::set<std::string> play_with_failing_calls(const Story& story) {
+    std::set<std::string> places;
+    for (int n = 1;; ++n) {
+        Play its;
+        its.host.calls.fail_at(n);
+        play_loosely(story, its);
+        if (static_cast<int>(its.host.calls.made().size()) < n) break; // no call is left to fail
+        const HostCall call = its.host.calls.made()[static_cast<std::size_t>(n - 1)];
+        const std::string text = CallLog::failure_text(n, call.member);
+        SCOPED_TRACE(text);
+        its.close_everything();
+        if (!call.failed) continue; // the story lets another call fail
+        expect_the_right_report(its, call, text);
+        EXPECT_EQ(its.host.servers->damage(), "");
+        EXPECT_EQ(its.host.still_held(), "");
+        EXPECT_EQ(its.stage->leaks(), "");
+        places.insert(call.member + " in " + (call.location.empty() ? "nobody's trap" : call.location));
+    }
+    return places;
+}
+
+} // namespace brx::checks

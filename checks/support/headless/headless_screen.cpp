@@ -1,0 +1,119 @@
+#include "headless/headless_stage.h"
+
+#include "forms/form.h"
+
+namespace brx::checks {
+
+std::string HeadlessScreen::front() {
+    return there([&]() -> std::string {
+        if (engine_.message()) return "message";
+        return engine_.front() ? engine_.front()->form().name() : std::string();
+    });
+}
+
+std::string HeadlessScreen::caption() {
+    return there([&] { return engine_.front() ? engine_.front()->caption() : std::string(); });
+}
+
+Sight HeadlessScreen::look(const std::string& control) {
+    return there([&]() -> Sight {
+        const HeadlessWindow* window = engine_.windows().empty() ? nullptr : engine_.windows().back();
+        const HeadlessPeer* peer = window ? window->find(control) : nullptr;
+        if (!peer) return {};
+        const Shown& shown = peer->shown();
+        const bool ticked = peer->control().kind() == Kind::check_box;
+        return {.exists = true,
+                .text = shown.text,
+                .lines = shown.lines,
+                .selected = ticked ? shown.value : shown.selected,
+                .enabled = shown.enabled,
+                .visible = shown.visible,
+                .focused = window->focused() == &peer->control()};
+    });
+}
+
+std::optional<Message> HeadlessScreen::message() {
+    return there([&] { return engine_.message(); });
+}
+
+bool HeadlessScreen::hourglass() {
+    return there([&] { return engine_.hourglasses() > 0; });
+}
+
+bool HeadlessScreen::press(const std::string& button) {
+    return deed([=, this] { return user_.click(button); });
+}
+bool HeadlessScreen::choose(const std::string& list, int line) {
+    return deed([=, this] { return user_.choose(list, line); });
+}
+bool HeadlessScreen::double_click(const std::string& list, int line) {
+    return deed([=, this] { return user_.double_click(list, line); });
+}
+bool HeadlessScreen::toggle(const std::string& check_box) {
+    return deed([=, this] { return user_.click(check_box); });
+}
+bool HeadlessScreen::focus(const std::string& control) {
+    return deed([=, this] { return user_.focus(control); });
+}
+bool HeadlessScreen::type(const std::string& text) {
+    return deed([=, this] { return user_.type(text); });
+}
+bool HeadlessScreen::paste(const std::string& text) {
+    return deed([=, this] { return user_.paste(text); });
+}
+
+bool HeadlessScreen::key(Key key) {
+    return deed([=, this] {
+        switch (key) {
+        case Key::enter:
+            return user_.enter();
+        case Key::escape:
+            return user_.escape();
+        case Key::tab:
+            return user_.tab(false);
+        case Key::back_tab:
+            return user_.tab(true);
+        case Key::space:
+            return user_.space();
+        case Key::up:
+            return user_.move(-1);
+        case Key::down:
+            return user_.move(1);
+        case Key::f1:
+            return user_.help();
+        case Key::backspace:
+            return user_.backspace();
+        }
+        return false;
+    });
+}
+
+bool HeadlessScreen::accelerator(char letter) {
+    return deed([=, this] { return user_.accelerator(letter); });
+}
+
+bool HeadlessScreen::close_box() {
+    return deed([=, this] { return user_.close_box(); });
+}
+
+bool HeadlessScreen::answer(std::int32_t button) {
+    return deed([=, this] {
+        if (!engine_.message()) return false;
+        engine_.answer(button);
+        return true;
+    });
+}
+
+void HeadlessScreen::pass_ticks(int times) {
+    for (int i = 0; i < times; ++i)
+        deed([this] {
+            user_.tick();
+            return true;
+        });
+}
+
+std::string HeadlessScreen::help() {
+    return there([&] { return engine_.help_shown(); });
+}
+
+} // namespace brx::checks

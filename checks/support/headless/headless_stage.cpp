@@ -1,0 +1,61 @@
+#include "headless/headless_stage.h"
+
+#include "classes/ServerAdd.h"
+#include "classes/ServerInformation.h"
+#include "classes/ServerSelect.h"
+
+namespace brx::checks {
+
+namespace {
+
+template <class Class> class Portable : public PublicClass {
+public:
+    explicit Portable(Environment& environment) : class_(environment) {}
+
+    std::int16_t ServerIndex() override {
+        if constexpr (requires { class_.ServerIndex; })
+            return class_.ServerIndex;
+        else
+            return 0;
+    }
+    void set_ServerIndex(std::int16_t index) override {
+        if constexpr (requires { class_.ServerIndex; }) class_.ServerIndex = index;
+    }
+    bool Show(const ObjectPtr& object) override { return class_.Show(object); }
+
+private:
+    Class class_;
+};
+
+} // namespace
+
+HeadlessStage::HeadlessStage(FakeHost& host) : environment_(engine_, host, host, Locale::us_english()) {
+    thread_ = std::thread([&] { baton_.serve([&] { return over_.load(); }); });
+    screen_.forms_thread(thread_.get_id());
+}
+
+HeadlessStage::~HeadlessStage() {
+    baton_.hand_over_last([&] { over_ = true; });
+    thread_.join();
+}
+
+void HeadlessStage::start(std::function<void()> job) {
+    busy_ = true;
+    baton_.hand_over([this, job = std::move(job)] {
+        job();
+        busy_ = false;
+    });
+}
+
+std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
+    if (name == "ServerSelect") return std::make_unique<Portable<ServerSelect>>(environment_);
+    if (name == "ServerAdd") return std::make_unique<Portable<ServerAdd>>(environment_);
+    if (name == "ServerInformation") return std::make_unique<Portable<ServerInformation>>(environment_);
+    throw Error(error::cannot_create_object);
+}
+
+std::string HeadlessStage::leaks() { return engine_.hourglasses() == 0 ? "" : "The hourglass was left on. "; }
+
+std::unique_ptr<Stage> make_stage(FakeHost& host) { return std::make_unique<HeadlessStage>(host); }
+
+} // namespace brx::checks

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "common/error.h"
+
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// One call that a dialog made to the host.
+struct HostCall {
+    std::string member;   ///< interface, full stop, member
+    std::string location; ///< whose trap a failure would go to; "" where errors are ignored
+    bool failed = false;  ///< because a check said so
+};
+
+/// Every call to the host's objects, in order. One of them can be made to fail.
+class CallLog {
+public:
+    static constexpr std::int32_t failure_number = -2147220501; // 0x800403EB, a code of no other meaning
+    static constexpr const char* failure_source = "FakeHost";
+
+    /// The description of the failure of the n-th call.
+    static std::string failure_text(int n, const std::string& member) {
+        return "The host failed at call " + std::to_string(n) + ", " + member;
+    }
+
+    /// Notes the call; throws when it is the one to fail.
+    void note(const std::string& member) {
+        made_.push_back({member, current_location_text()});
+        made_.back().failed = static_cast<int>(made_.size()) == fail_at_;
+        if (made_.back().failed) throw Error(failure_number, failure_text(fail_at_, member), failure_source);
+    }
+
+    /// The n-th call from now on (from 1) fails; 0 for none.
+    void fail_at(int n) { fail_at_ = n == 0 ? 0 : static_cast<int>(made_.size()) + n; }
+
+    const std::vector<HostCall>& made() const { return made_; }
+    std::vector<std::string> members() const {
+        std::vector<std::string> members;
+        for (const HostCall& call : made_) members.push_back(call.member);
+        return members;
+    }
+    int count(const std::string& member) const {
+        int count = 0;
+        for (const HostCall& call : made_) count += call.member == member ? 1 : 0;
+        return count;
+    }
+
+private:
+    static std::string current_location_text();
+
+    std::vector<HostCall> made_;
+    int fail_at_ = 0;
+};
+
+} // namespace brx::checks

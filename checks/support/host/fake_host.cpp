@@ -1,0 +1,42 @@
+#include "host/fake_host.h"
+
+namespace brx::checks {
+
+FakeHost::FakeHost()
+    : servers(std::make_shared<FakeServers>(calls)),
+      enumerator(std::make_shared<FakeOPCServer>(calls)),
+      fresh_connection(enumerator),
+      help_service(std::make_shared<FakeHelpService>(calls)) {
+    local_servers({"Plant.Simulation.1", "Line.Server.2"});
+}
+
+void FakeHost::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
+    reports.push_back({library, report});
+    all_reports.push_back({library, report});
+}
+
+ObjectPtr FakeHost::create(const std::string& name) {
+    if (name == class_name::hlxHelp && help_service) return help_service;
+    if (name == class_name::hlxMessage && message_service) return message_service;
+    if (name == class_name::hlxOPCServer && can_create_entries) {
+        calls.note("create hlxOPCServer");
+        const auto entry = std::make_shared<FakeServer>(calls, "", "");
+        entry->connection = fresh_connection;
+        created_.push_back(entry);
+        return entry;
+    }
+    throw Error(error::cannot_create_object);
+}
+
+std::string FakeHost::still_held() const {
+    std::string held;
+    if (servers.use_count() > 1) held += "The servers collection is still referred to. ";
+    for (const auto& entry : servers->entries())
+        if (entry.use_count() > 1) held += "A server entry is still referred to. ";
+    if (enumerator.use_count() > 2) held += "The enumerating server is still referred to. ";
+    for (const auto& created : created_)
+        if (!created.expired()) held += "A created server entry is still referred to. ";
+    return held;
+}
+
+} // namespace brx::checks

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "common/model/factory.h"
+#include "common/model/services.h"
+#include "common/trap.h"
+#include "forms/engine.h"
+#include "host/fake_servers.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// A report as it arrived, with the library that it went to.
+struct Report {
+    ErrorLibrary library = ErrorLibrary::brxError6;
+    ErrorReport what;
+};
+
+/// A message service of the host's own: it notes the message and presses OK.
+class FakeMessageService : public hlxMessage {
+public:
+    explicit FakeMessageService(CallLog& calls) : calls_(calls) {}
+    std::vector<Message> shown;
+    std::int32_t Show(const std::string& text, std::int32_t style, const std::string& title,
+                      const Variant&) override {
+        calls_.note("hlxMessage.Show");
+        shown.push_back({text, style, title});
+        return message::ok;
+    }
+
+private:
+    CallLog& calls_;
+};
+
+class FakeHelpService : public hlxHelp {
+public:
+    explicit FakeHelpService(CallLog& calls) : calls_(calls) {}
+    std::string HelpFile() override {
+        calls_.note("hlxHelp.HelpFile");
+        return "C:\\Plant\\collection.chm";
+    }
+
+private:
+    CallLog& calls_;
+};
+
+/// The host of the scenarios: its objects, the classes that the component creates, and where its reports go.
+class FakeHost : public ErrorReporter, public ObjectFactory {
+public:
+    FakeHost();
+
+    CallLog calls;
+    std::shared_ptr<FakeServers> servers;
+    /// What a fresh server entry's connection enumerates; the same object for every entry.
+    std::shared_ptr<FakeOPCServer> enumerator;
+    /// What a fresh entry gives as its OPCServer; the enumerator unless a scenario says otherwise.
+    ObjectPtr fresh_connection;
+    bool can_create_entries = true;
+    std::shared_ptr<FakeMessageService> message_service; ///< null: the host has none
+    std::shared_ptr<FakeHelpService> help_service;       ///< null: the host has none
+
+    /// The reports that no one has looked at yet.
+    std::vector<Report> reports;
+    /// All that ever came.
+    std::vector<Report> all_reports;
+
+    /// The local computer has these servers.
+    void local_servers(std::vector<std::string> names) {
+        enumerator->registered[""] = StringArray{std::move(names)};
+    }
+    void servers_on(const std::string& node, std::vector<std::string> names) {
+        enumerator->registered[node] = StringArray{std::move(names)};
+    }
+
+    /// Which of the host's objects something still refers to, "" for none.
+    std::string still_held() const;
+
+    void Show(ErrorLibrary library, const ErrorReport& report) noexcept override;
+    ObjectPtr create(const std::string& name) override;
+
+private:
+    std::vector<std::weak_ptr<Object>> created_;
+};
+
+} // namespace brx::checks

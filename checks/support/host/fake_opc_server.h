@@ -1,0 +1,67 @@
+#pragma once
+
+#include "common/model/opc_automation.h"
+#include "host/call_log.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace brx::checks {
+
+/// A simulated connection to an OPC server. What it answers is in its fields.
+class FakeOPCServer : public OPCServer {
+public:
+    explicit FakeOPCServer(CallLog& calls) : calls_(calls) {}
+
+    std::string server_name;
+    std::string server_node;
+    Date start_time{46000.25};
+    Date current_time{46001.5};
+    Date last_update_time{46001.25};
+    std::int16_t major_version = 3;
+    std::int16_t minor_version = 0;
+    std::string vendor_info = "Plant Simulations";
+    /// What is registered on each node; "" is the local computer. A node that is not listed fails.
+    std::map<std::string, Variant> registered;
+    /// Runs inside each enumeration.
+    std::function<void()> while_enumerating = [] {};
+
+    Date StartTime() override { return answer("OPCServer.StartTime", start_time); }
+    Date CurrentTime() override { return answer("OPCServer.CurrentTime", current_time); }
+    Date LastUpdateTime() override { return answer("OPCServer.LastUpdateTime", last_update_time); }
+    std::int16_t MajorVersion() override { return answer("OPCServer.MajorVersion", major_version); }
+    std::int16_t MinorVersion() override { return answer("OPCServer.MinorVersion", minor_version); }
+    std::int16_t BuildNumber() override { return answer("OPCServer.BuildNumber", std::int16_t{17}); }
+    std::string VendorInfo() override { return answer("OPCServer.VendorInfo", vendor_info); }
+    std::int32_t ServerState() override { return answer("OPCServer.ServerState", 1); }
+    std::string ServerName() override { return answer("OPCServer.ServerName", server_name); }
+    std::string ServerNode() override { return answer("OPCServer.ServerNode", server_node); }
+    std::string ClientName() override { return answer("OPCServer.ClientName", std::string()); }
+    std::int32_t Bandwidth() override { return answer("OPCServer.Bandwidth", 4); }
+    OPCGroupsPtr OPCGroups() override { return answer("OPCServer.OPCGroups", OPCGroupsPtr()); }
+    OPCBrowserPtr CreateBrowser() override { return answer("OPCServer.CreateBrowser", OPCBrowserPtr()); }
+    std::string GetErrorString(std::int32_t) override {
+        return answer("OPCServer.GetErrorString", std::string("The item is not known to the server."));
+    }
+
+    Variant GetOPCServers(const std::optional<std::string>& node) override {
+        calls_.note(node ? "OPCServer.GetOPCServers(" + *node + ")" : "OPCServer.GetOPCServers()");
+        while_enumerating();
+        const auto found = registered.find(node.value_or(""));
+        if (found == registered.end())
+            throw Error(-2147023174, "The RPC server is unavailable.", "OPCServer");
+        return found->second;
+    }
+
+private:
+    template <class Value> Value answer(const char* member, const Value& value) {
+        calls_.note(member);
+        return value;
+    }
+
+    CallLog& calls_;
+};
+
+} // namespace brx::checks

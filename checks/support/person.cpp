@@ -1,0 +1,89 @@
+#include "person.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace brx::checks {
+
+namespace {
+
+[[noreturn]] void give_up(const std::string& why) {
+    ADD_FAILURE() << why;
+    throw GaveUp(why);
+}
+
+} // namespace
+
+void Person::must(bool done, const std::string& deed) {
+    if (done) return;
+    std::string front = screen_.front();
+    if (const auto box = screen_.message()) front += " \"" + box->title + "\": " + box->text;
+    give_up("She could not " + deed + "; in front is: " + (front.empty() ? "nothing" : front));
+}
+
+void Person::is_at(const std::string& form) {
+    must(screen_.front() == form, "see " + (form.empty() ? "nothing" : form) + " in front");
+}
+
+Sight Person::sees(const std::string& control) {
+    const Sight sight = screen_.look(control);
+    must(sight.exists, "see " + control);
+    return sight;
+}
+
+bool Person::can_press(const std::string& button) {
+    const Sight sight = sees(button);
+    return sight.enabled && sight.visible;
+}
+
+void Person::presses(const std::string& button) { must(screen_.press(button), "press " + button); }
+
+int Person::find_line(const std::string& list, const std::string& line) {
+    const Lines lines = lines_of(list);
+    const auto found = std::find(lines.begin(), lines.end(), line);
+    must(found != lines.end(), "find \"" + line + "\" in " + list);
+    return static_cast<int>(found - lines.begin());
+}
+
+void Person::picks(const std::string& list, const std::string& line) {
+    must(screen_.choose(list, find_line(list, line)), "pick \"" + line + "\" in " + list);
+}
+
+void Person::double_clicks(const std::string& list, const std::string& line) {
+    must(screen_.double_click(list, find_line(list, line)), "double-click \"" + line + "\" in " + list);
+}
+
+void Person::ticks(const std::string& check_box) { must(screen_.toggle(check_box), "tick " + check_box); }
+
+void Person::goes_to(const std::string& control) { must(screen_.focus(control), "go to " + control); }
+
+void Person::enters(const std::string& box, const std::string& text) {
+    goes_to(box);
+    const std::string before = sees(box).text;
+    for (std::size_t i = 0; i < before.size() && !reads(box).empty(); ++i) hits(Key::backspace);
+    types(text);
+}
+
+void Person::types(const std::string& text) { must(screen_.type(text), "type \"" + text + "\""); }
+
+void Person::pastes(const std::string& text) { must(screen_.paste(text), "paste \"" + text + "\""); }
+
+void Person::hits(Key key) { must(screen_.key(key), "hit key " + std::to_string(static_cast<int>(key))); }
+
+void Person::uses_accelerator(char letter) {
+    must(screen_.accelerator(letter), std::string("use Alt+") + letter);
+}
+
+void Person::closes_the_window() { must(screen_.close_box(), "close the window"); }
+
+void Person::answers(const Message& expected, std::int32_t button) {
+    const auto box = screen_.message();
+    must(box.has_value(), "see the message \"" + expected.text + "\"");
+    EXPECT_EQ(box->text, expected.text);
+    EXPECT_EQ(box->title, expected.title);
+    EXPECT_EQ(box->style, expected.style);
+    must(screen_.answer(button), "answer the message");
+}
+
+} // namespace brx::checks

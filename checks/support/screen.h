@@ -1,0 +1,61 @@
+#pragma once
+
+#include "forms/engine.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// What a person sees of one control.
+struct Sight {
+    bool exists = false;
+    std::string text;               ///< caption, text, or the selected line's text
+    std::vector<std::string> lines; ///< of a list
+    int selected = -1;              ///< line of a list, -1 for none; value of a check box
+    bool enabled = false;
+    bool visible = false;
+    bool focused = false;
+};
+
+enum class Key { enter, escape, tab, back_tab, space, up, down, f1, backspace };
+
+/// A screen with dialogs on it, and the hands of a person before it. Deeds return when everything that they
+/// led to is done and the program waits for input again; false when a person could not do it (no such
+/// control, disabled, hidden, another window in front). Names are those of forms and controls.
+class Screen {
+public:
+    virtual ~Screen() = default;
+
+    /// The form that takes input, "message" for a message box, "" for none.
+    virtual std::string front() = 0;
+    /// The caption of the form in front.
+    virtual std::string caption() = 0;
+    virtual Sight look(const std::string& control) = 0;
+    /// The message box in front, if there is one. The style is 0 where the platform does not tell it.
+    virtual std::optional<Message> message() = 0;
+    /// Whether the hourglass shows for the form in front.
+    virtual bool hourglass() = 0;
+
+    virtual bool press(const std::string& button) = 0; ///< with the mouse
+    virtual bool choose(const std::string& list, int line) = 0;
+    virtual bool double_click(const std::string& list, int line) = 0;
+    virtual bool toggle(const std::string& check_box) = 0;
+    virtual bool focus(const std::string& control) = 0; ///< by clicking into it
+    virtual bool type(const std::string& text) = 0;     ///< into the control that has the focus
+    virtual bool paste(const std::string& text) = 0;
+    virtual bool key(Key key) = 0;
+    virtual bool accelerator(char letter) = 0;
+    virtual bool close_box() = 0;
+    virtual bool answer(std::int32_t button) = 0; ///< the message box, by one of its buttons
+
+    /// The help that was opened last, as "file at topic"; "" for none, or where the platform does not tell.
+    virtual std::string help() = 0;
+
+    /// Lets the dialogs' timers tick `times` times.
+    virtual void pass_ticks(int times) = 0;
+};
+
+} // namespace brx::checks

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "com/com_object.h"
+#include "com/com_ptr.h"
+#include "com/failure.h"
+#include "stage.h"
+
+#include <utility>
+
+namespace brx::checks {
+
+/// A public class through its interface's table, as a compiled host calls it.
+template <class Interface> class EarlyBound : public PublicClass {
+public:
+    explicit EarlyBound(com_ptr<Interface> object) : object_(std::move(object)) {
+        check(object_ ? S_OK : E_NOINTERFACE);
+    }
+
+    std::int16_t ServerIndex() override {
+        SHORT index = 0;
+        if constexpr (requires { object_->get_ServerIndex(&index); }) check(object_->get_ServerIndex(&index));
+        return index;
+    }
+    void set_ServerIndex(std::int16_t index) override {
+        if constexpr (requires { object_->put_ServerIndex(index); }) check(object_->put_ServerIndex(index));
+    }
+    bool Show(const ObjectPtr& object) override {
+        const com_ptr<IDispatch> argument = to_dispatch(object);
+        VARIANT_BOOL result = VARIANT_FALSE;
+        if constexpr (requires(IDispatch * *reference) { object_->Show(reference, &result); }) {
+            IDispatch* reference = argument.get();
+            check(object_->Show(&reference, &result));
+            // It may look at the host's variable, not change it.
+            check(reference == argument.get() ? S_OK : E_UNEXPECTED);
+        } else {
+            check(object_->Show(argument.get(), &result));
+        }
+        return result != VARIANT_FALSE;
+    }
+
+private:
+    com_ptr<Interface> object_;
+};
+
+/// A public class by the names of its members, as a script calls it.
+class LateBound : public PublicClass {
+public:
+    /// Scripts pass a variable by reference, and by value when it stands in brackets.
+    LateBound(com_ptr<IDispatch> object, bool by_reference)
+        : object_(std::move(object)), by_reference_(by_reference) {}
+
+    std::int16_t ServerIndex() override;
+    void set_ServerIndex(std::int16_t index) override;
+    bool Show(const ObjectPtr& object) override;
+
+private:
+    com_ptr<IDispatch> object_;
+    bool by_reference_;
+};
+
+} // namespace brx::checks

@@ -1,0 +1,125 @@
+#include "windows/described.h"
+
+#include "com/bstr.h"
+#include "common/values/text.h"
+#include "windows/native.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr std::size_t field_count = 7;
+
+std::string plain(const std::string& escaped) {
+    std::string text;
+    for (std::size_t i = 0; i < escaped.size(); ++i) {
+        if (escaped[i] != '\\' || i + 1 == escaped.size()) {
+            text += escaped[i];
+            continue;
+        }
+        switch (escaped[++i]) {
+        case 't':
+            text += '\t';
+            break;
+        case 'r':
+            text += '\r';
+            break;
+        case 'n':
+            text += '\n';
+            break;
+        default:
+            text += escaped[i];
+        }
+    }
+    return text;
+}
+
+Described described_in(const std::string& line) {
+    const std::vector<std::string> fields = split(line, "\t");
+    if (fields.size() != field_count) throw std::runtime_error("brx.Describe answers \"" + line + "\"");
+    return {.name = fields[0],
+            .kind = fields[1],
+            .enabled = fields[2] == "1",
+            .visible = fields[3] == "1",
+            .number = std::stoi(fields[4]),
+            .lines = std::stoi(fields[5]),
+            .text = plain(fields[6])};
+}
+
+/// Gathers what differs, a line each.
+class Differences {
+public:
+    explicit Differences(std::string form) : form_(std::move(form)) {}
+
+    template <class Value>
+    void compare(const std::string& name, const char* what, const Value& shown, const Value& held) {
+        if (shown != held)
+            add(name, std::string(what) + " is " + told(shown) + ", but should be " + told(held));
+    }
+    void add(const std::string& name, const std::string& what) {
+        all_ += form_ + (name == form_ ? "" : "." + name) + ": " + what + "\n";
+    }
+    const std::string& all() const { return all_; }
+
+private:
+    static std::string told(const std::string& text) { return "\"" + text + "\""; }
+    static std::string told(bool value) { return value ? "true" : "false"; }
+    static std::string told(int value) { return std::to_string(value); }
+
+    std::string form_;
+    std::string all_;
+};
+
+void compare_control(HWND form, const Described& held, Differences& differences) {
+    const HWND window = find_control(form, held.name);
+    if (!window) return differences.add(held.name, "it has no window");
+    const Sight shown = sight_of(window, nullptr);
+    differences.compare(held.name, "the text", shown.text, held.text);
+    // With something over the form, its controls hold the same and take no input.
+    if (IsWindowEnabled(form)) differences.compare(held.name, "enabled", shown.enabled, held.enabled);
+    differences.compare(held.name, "visible", shown.visible, held.visible);
+    if (held.kind == "list_box" || held.kind == "combo_box")
+        differences.compare(held.name, "the number of lines", count_lines(window), held.lines);
+    if (held.kind == "list_box" || held.kind == "combo_box" || held.kind == "check_box")
+        differences.compare(held.name, "the selected line or value", shown.selected, held.number);
+}
+
+bool is_child(HWND window) { return (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0; }
+
+/// Every other window of the thread has to wait, but for what belongs to the form: tips, lists that dropped
+/// down.
+void compare_modality(HWND form, Differences& differences) {
+    if (!IsWindowEnabled(form)) return;
+    for (const HWND other : windows_of(GetWindowThreadProcessId(form, nullptr)))
+        if (other != form && IsWindowEnabled(other) && GetWindow(other, GW_OWNER) != form && !is_child(other))
+            differences.add(name_of(form), "\"" + text_of(other) + "\" takes input at the same time");
+}
+
+} // namespace
+
+std::vector<Described> described(HWND form) {
+    static const UINT describe = RegisterWindowMessageW(L"brx.Describe");
+    std::wstring answer(static_cast<std::size_t>(SendMessageW(form, describe, 0, 0)), L'\0');
+    if (answer.empty()) throw std::runtime_error(name_of(form) + " does not answer brx.Describe");
+    SendMessageW(form, describe, answer.size(), reinterpret_cast<LPARAM>(answer.data()));
+    std::vector<Described> all;
+    for (const std::string& line : split(brx::text_of(answer.c_str(), answer.size() - 1), "\n"))
+        if (!line.empty()) all.push_back(described_in(line));
+    return all;
+}
+
+std::string differences_in(HWND form) {
+    const std::vector<Described> all = described(form);
+    Differences differences(all.front().name);
+    differences.compare(all.front().name, "the name", name_of(form), all.front().name);
+    differences.compare(all.front().name, "the caption", text_of(form), all.front().text);
+    for (const Described& each : all)
+        if (each.kind != "form" && each.kind != "timer") compare_control(form, each, differences);
+    compare_modality(form, differences);
+    return differences.all();
+}
+
+} // namespace brx::checks

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// What a form or one of its controls holds, as the form's window tells it in answer to "brx.Describe".
+struct Described {
+    std::string name;
+    std::string kind;
+    bool enabled = false;
+    bool visible = false;
+    int number = -1; ///< the selected line, or the value of a check box
+    int lines = 0;
+    std::string text;
+};
+
+/// The form first, then its controls. On the form's thread.
+std::vector<Described> described(HWND form);
+
+/// Where the windows show something else than the form and its controls hold, a line each. On the form's
+/// thread.
+std::string differences_in(HWND form);
+
+} // namespace brx::checks

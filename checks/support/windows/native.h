@@ -1,0 +1,53 @@
+#pragma once
+
+#include "screen.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+// Reading windows as any user-interface test can, its own program's or another's: by the names that they
+// carry and by what the system's controls tell.
+
+/// How long a window may take to answer, in milliseconds; checks of these tools themselves have less.
+inline UINT patience = 20'000;
+
+/// Sends a message. 0 when the window is not there or does not answer.
+LRESULT ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
+
+/// The name of the form or control that the window belongs to; "" when it is nobody's.
+std::string name_of(HWND window);
+
+std::string text_of(HWND window);
+
+/// The visible top-level windows of a thread, uppermost first.
+std::vector<HWND> windows_of(DWORD thread);
+
+/// The control's window within a form's window, or null.
+HWND find_control(HWND form, const std::string& name);
+
+enum class NativeKind { push_button, check_box, group, text_box, list_box, combo_box, label, other };
+NativeKind kind_of(HWND control);
+
+/// Whether a control and everything around it takes input.
+bool takes_input(HWND window);
+
+/// The lines of a list; none for other kinds of control.
+int count_lines(HWND control);
+std::vector<std::string> lines_of(HWND control);
+
+/// What is to be seen of a control, but for its lines. `focused` is the window with the keyboard focus.
+Sight sight_of(HWND control, HWND focused);
+
+/// Whether it is one of the system's message boxes.
+bool is_message_box(HWND window);
+
+/// What a message box says. Its style is put together from its icon, as far as the icons of this process
+/// tell, and its buttons.
+Message message_in(HWND box);
+
+} // namespace brx::checks

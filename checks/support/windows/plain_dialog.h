@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// A dialog made of the system's controls alone, with names as the component's windows have them, that notes
+/// what happens to it:
+///
+///   lblBox "&Text:", txtBox, chkBox "Tic&k", lstBox and cboBox with the lines "Line 0" to "Line 49",
+///   bnMessage
+///   "&Message...", bnChain (posts itself messages, one after the other), bnOff (disabled), bnHidden
+///   (hidden), bnUnder (something lies over it), bnOK (default), bnCancel; a timer of one second
+class PlainDialog {
+public:
+    explicit PlainDialog(HWND owner) : owner_(owner) {}
+    PlainDialog(const PlainDialog&) = delete;
+    PlainDialog& operator=(const PlainDialog&) = delete;
+
+    /// Shows it over the owner and comes back when it has closed.
+    void run();
+
+    /// How it answers "brx.Describe".
+    std::wstring description;
+
+    /// What happened, in order, since the last time.
+    std::vector<std::string> take_events();
+
+private:
+    static INT_PTR CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+    static LRESULT CALLBACK box_procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                          DWORD_PTR self) noexcept;
+    INT_PTR describe(WPARAM capacity, LPARAM buffer) const;
+    void make_controls();
+    HWND add(const wchar_t* window_class, const wchar_t* text, DWORD style, RECT place, WORD id,
+             const wchar_t* name);
+    void happened(WORD id, WORD code);
+    void note(std::string event) { events_.push_back(std::move(event)); }
+
+    HWND owner_;
+    HWND handle_ = nullptr;
+    std::vector<std::string> events_;
+};
+
+} // namespace brx::checks

@@ -1,0 +1,314 @@
+#include "windows/windows_screen.h"
+
+#include "com/bstr.h"
+#include "windows/native.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr int most_tabs = 100;
+
+bool is_within(HWND window, HWND hit) { return hit == window || IsChild(window, hit); }
+
+/// Whether a click there would reach the window.
+bool can_be_hit(HWND window, POINT client) {
+    return window && IsWindowVisible(window) && takes_input(window) &&
+           is_within(window, window_at(window, client));
+}
+
+bool click_into(HWND window, POINT client) {
+    if (!can_be_hit(window, client)) return false;
+    click(window, client);
+    return true;
+}
+
+/// Scrolls the line into view where needed, as a person would first. False when there is no such line.
+bool bring_into_view(HWND list_box, int line) {
+    if (line < 0 || line >= SendMessageW(list_box, LB_GETCOUNT, 0, 0)) return false;
+    RECT client{};
+    GetClientRect(list_box, &client);
+    if (PtInRect(&client, centre_of_line(list_box, line))) return true;
+    SendMessageW(list_box, LB_SETTOPINDEX, static_cast<WPARAM>(line), 0);
+    return PtInRect(&client, centre_of_line(list_box, line)) != FALSE;
+}
+
+bool click_line(HWND list_box, int line) {
+    return list_box && kind_of(list_box) == NativeKind::list_box && takes_input(list_box) &&
+           bring_into_view(list_box, line) && click_into(list_box, centre_of_line(list_box, line));
+}
+
+HWND dropped_list_of(HWND combo_box) {
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    return GetComboBoxInfo(combo_box, &info) ? info.hwndList : nullptr;
+}
+
+/// Behind the text, so that the caret stands at its end.
+POINT end_of_text_box(HWND box) {
+    RECT client{};
+    GetClientRect(box, &client);
+    return {client.right - 2, client.bottom / 2};
+}
+
+bool copy_to_clipboard(HWND owner, const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+    if (!memory) return false;
+    std::memcpy(GlobalLock(memory), text.c_str(), bytes);
+    GlobalUnlock(memory);
+    if (OpenClipboard(owner)) {
+        const bool taken = EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, memory);
+        CloseClipboard();
+        if (taken) return true;
+    }
+    GlobalFree(memory);
+    return false;
+}
+
+} // namespace
+
+/// Does a deed, given as what posts its input and says whether a person could do it.
+template <class Deed> bool WindowsScreen::done(Deed&& deed) {
+    if (!asked(deed)) return false;
+    ui_.settle();
+    if (ui_.is_this()) return false;
+    note_differences();
+    return true;
+}
+
+HWND WindowsScreen::top_window() const {
+    for (const HWND window : windows_of(ui_.id()))
+        if (IsWindowEnabled(window) && (is_message_box(window) || !name_of(window).empty())) return window;
+    return nullptr;
+}
+
+HWND WindowsScreen::top_form() const {
+    for (const HWND window : windows_of(ui_.id()))
+        if (!name_of(window).empty()) return window;
+    return nullptr;
+}
+
+HWND WindowsScreen::form_in_front() const {
+    const HWND window = top_window();
+    return window && !is_message_box(window) ? window : nullptr;
+}
+
+HWND WindowsScreen::reachable(const std::string& control) const {
+    const HWND form = form_in_front();
+    return form ? find_control(form, control) : nullptr;
+}
+
+HWND WindowsScreen::focused_in_front() const {
+    const HWND focused = GetFocus();
+    const HWND front = top_window();
+    return focused && front && is_within(front, focused) ? focused : nullptr;
+}
+
+std::string WindowsScreen::front() {
+    return asked([&] {
+        const HWND window = top_window();
+        if (!window) return std::string();
+        return is_message_box(window) ? "message" : name_of(window);
+    });
+}
+
+std::string WindowsScreen::caption() {
+    return asked([&] {
+        const HWND form = form_in_front();
+        return form ? text_of(form) : std::string();
+    });
+}
+
+Sight WindowsScreen::look(const std::string& control) {
+    return asked([&] {
+        const HWND form = top_form();
+        const HWND window = form ? find_control(form, control) : nullptr;
+        Sight sight = sight_of(window, GetFocus());
+        if (window) sight.lines = lines_of(window);
+        return sight;
+    });
+}
+
+std::optional<Message> WindowsScreen::message() {
+    return asked([&]() -> std::optional<Message> {
+        const HWND window = top_window();
+        if (!window || !is_message_box(window)) return std::nullopt;
+        return message_in(window);
+    });
+}
+
+bool WindowsScreen::hourglass() {
+    return asked([&] { return GetCursor() == LoadCursorW(nullptr, IDC_WAIT); });
+}
+
+bool WindowsScreen::press(const std::string& button) {
+    return done([&] {
+        const HWND window = reachable(button);
+        return window && click_into(window, centre_of(window));
+    });
+}
+
+bool WindowsScreen::choose(const std::string& list, int line) {
+    const bool drops_down =
+        asked([&] { return reachable(list) && kind_of(reachable(list)) == NativeKind::combo_box; });
+    if (drops_down) return choose_in_combo_box(list, line);
+    return done([&] { return click_line(reachable(list), line); });
+}
+
+bool WindowsScreen::choose_in_combo_box(const std::string& list, int line) {
+    const auto there_is_the_line = [&] {
+        return line >= 0 && line < SendMessageW(reachable(list), CB_GETCOUNT, 0, 0);
+    };
+    if (!asked(there_is_the_line) || !press(list)) return false;
+    return done([&] { return click_line(dropped_list_of(reachable(list)), line); });
+}
+
+bool WindowsScreen::double_click(const std::string& list, int line) {
+    if (!choose(list, line)) return false;
+    return done([&] {
+        const HWND window = reachable(list);
+        const POINT point = window ? centre_of_line(window, line) : POINT();
+        if (!can_be_hit(window, point)) return false;
+        click_again(window, point);
+        return true;
+    });
+}
+
+bool WindowsScreen::focus(const std::string& control) {
+    // A click would do more than that to any other control.
+    const auto is_text_box = [&] {
+        const HWND window = reachable(control);
+        return window && kind_of(window) == NativeKind::text_box;
+    };
+    if (!asked(is_text_box)) return go_to_by_tab(control);
+    return done([&] {
+        const HWND box = reachable(control);
+        return box && click_into(box, end_of_text_box(box));
+    });
+}
+
+bool WindowsScreen::go_to_by_tab(const std::string& control) {
+    for (int i = 0; i < most_tabs; ++i) {
+        const Sight sight = look(control);
+        if (!sight.enabled || !sight.visible) return false;
+        if (sight.focused) return true;
+        if (!key(Key::tab)) return false;
+    }
+    return false;
+}
+
+bool WindowsScreen::stroke(const Stroke& stroke) {
+    const Stroke alt_key{.key = VK_MENU, .alt = true};
+    const bool down = done([&] {
+        const HWND focused = focused_in_front();
+        if (!focused) return false;
+        hold_down(stroke);
+        if (stroke.alt) press_down(focused, alt_key);
+        press_down(focused, stroke);
+        return true;
+    });
+    // Wherever the focus has gone.
+    done([&] {
+        const HWND focused = GetFocus();
+        if (focused) let_go(focused, stroke);
+        if (focused && stroke.alt) let_go(focused, {.key = VK_MENU});
+        return focused != nullptr;
+    });
+    ui_.call(hold_nothing);
+    return down;
+}
+
+bool WindowsScreen::type(const std::string& text) {
+    const auto in_a_text_box = [&] {
+        const HWND focused = focused_in_front();
+        return focused && kind_of(focused) == NativeKind::text_box;
+    };
+    return std::ranges::all_of(strokes_for(text),
+                               [&](const Stroke& each) { return asked(in_a_text_box) && stroke(each); });
+}
+
+bool WindowsScreen::paste(const std::string& text) {
+    return done([&] {
+        const HWND focused = focused_in_front();
+        if (!focused || kind_of(focused) != NativeKind::text_box) return false;
+        if ((GetWindowLongW(focused, GWL_STYLE) & ES_READONLY) != 0) return false;
+        if (!copy_to_clipboard(ui_.window(), brx::wide(text))) return false;
+        PostMessageW(focused, WM_PASTE, 0, 0);
+        return true;
+    });
+}
+
+bool WindowsScreen::key(Key key) {
+    switch (key) {
+    case Key::enter:
+        return stroke({.key = VK_RETURN});
+    case Key::escape:
+        return stroke({.key = VK_ESCAPE});
+    case Key::tab:
+        return stroke({.key = VK_TAB});
+    case Key::back_tab:
+        return stroke({.key = VK_TAB, .shift = true});
+    case Key::space:
+        return stroke({.key = VK_SPACE});
+    case Key::up:
+        return stroke({.key = VK_UP});
+    case Key::down:
+        return stroke({.key = VK_DOWN});
+    case Key::f1:
+        return stroke({.key = VK_F1});
+    case Key::backspace:
+        return stroke({.key = VK_BACK});
+    }
+    return false;
+}
+
+bool WindowsScreen::accelerator(char letter) {
+    std::vector<Stroke> strokes = strokes_for(std::string(1, letter));
+    strokes.front().shift = false;
+    strokes.front().alt = true;
+    return stroke(strokes.front());
+}
+
+bool WindowsScreen::close_box() {
+    return done([&] {
+        const HWND form = form_in_front();
+        if (!form || (GetWindowLongW(form, GWL_STYLE) & WS_SYSMENU) == 0) return false;
+        PostMessageW(form, WM_SYSCOMMAND, SC_CLOSE, 0);
+        return true;
+    });
+}
+
+bool WindowsScreen::answer(std::int32_t button) {
+    return done([&] {
+        const HWND box = top_window();
+        if (!box || !is_message_box(box)) return false;
+        const HWND window = GetDlgItem(box, button);
+        return window && click_into(window, centre_of(window));
+    });
+}
+
+void WindowsScreen::pass_ticks(int times) {
+    for (int i = 0; i < times; ++i) ui_.tick();
+    note_differences();
+}
+
+void WindowsScreen::note_differences() {
+    if (!compare_) return;
+    const std::string found = asked([&] {
+        const HWND form = top_form();
+        return form ? compare_(form) : std::string();
+    });
+    // Told once, although they stay.
+    if (!found.empty() && differences_.find(found) == std::string::npos) differences_ += found;
+}
+
+std::string WindowsScreen::differences() {
+    note_differences();
+    return differences_;
+}
+
+} // namespace brx::checks

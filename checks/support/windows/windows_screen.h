@@ -1,0 +1,72 @@
+#pragma once
+
+#include "screen.h"
+#include "windows/hands.h"
+#include "windows/ui_thread.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace brx::checks {
+
+/// The windows of a user-interface thread, and a person before them, whose input reaches them as messages in
+/// the thread's queue.
+///
+/// Deeds on that thread itself, as from a host's object while a handler runs, come to nothing and return
+/// false: the input is handled at once, while it is the code's turn.
+class WindowsScreen : public Screen {
+public:
+    /// After every deed `compare` is asked, on the thread, what is wrong with the form on top; "" for
+    /// nothing.
+    using Compare = std::function<std::string(HWND form)>;
+    explicit WindowsScreen(UiThread& ui, Compare compare = {}) : ui_(ui), compare_(std::move(compare)) {}
+
+    std::string front() override;
+    std::string caption() override;
+    Sight look(const std::string& control) override;
+    std::optional<Message> message() override;
+    bool hourglass() override;
+
+    bool press(const std::string& button) override;
+    bool choose(const std::string& list, int line) override;
+    bool double_click(const std::string& list, int line) override;
+    bool toggle(const std::string& check_box) override { return press(check_box); }
+    bool focus(const std::string& control) override;
+    bool type(const std::string& text) override;
+    bool paste(const std::string& text) override;
+    bool key(Key key) override;
+    bool accelerator(char letter) override;
+    bool close_box() override;
+    bool answer(std::int32_t button) override;
+    std::string help() override { return {}; }
+    void pass_ticks(int times) override;
+
+    /// What was found wrong after any deed, or is so now; "" for nothing.
+    std::string differences();
+
+private:
+    template <class Question> auto asked(Question&& question) {
+        decltype(question()) answer{};
+        ui_.call([&] { answer = question(); });
+        return answer;
+    }
+    template <class Deed> bool done(Deed&& deed);
+    bool stroke(const Stroke& stroke);
+    bool choose_in_combo_box(const std::string& list, int line);
+    bool go_to_by_tab(const std::string& control);
+    void note_differences();
+
+    // On the thread only.
+    HWND top_window() const;
+    HWND top_form() const;
+    HWND form_in_front() const;
+    HWND reachable(const std::string& control) const;
+    HWND focused_in_front() const;
+
+    UiThread& ui_;
+    Compare compare_;
+    std::string differences_;
+};
+
+} // namespace brx::checks

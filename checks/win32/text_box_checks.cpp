@@ -1,0 +1,262 @@
+#include "desk.h"
+
+#include "forms/button.h"
+#include "forms/focus.h"
+#include "forms/text_box.h"
+#include "forms/win32/wide.h"
+
+namespace brx::checks {
+
+namespace {
+
+class TextBoxTest : public OnWindows {};
+
+/// A form with boxes that note what happens to them.
+class Boxes : public Form {
+public:
+    explicit Boxes(Environment& on) : Form(on, {.name = "Boxes", .caption = "Boxes", .size = {300, 150}}) {}
+
+    std::string events;
+    std::function<void(std::int32_t&)> on_key_press;
+    std::function<void()> on_change;
+    std::function<void()> on_load;
+    std::string initial = "start";
+
+    // clang-format off
+    TextBox Box  {*this, "Box",   {.place = {10, 10, 200, 23}, .tab = 1,
+                                   .Change = [this] { events += "Change "; if (on_change) on_change(); },
+                                   .KeyDown = [this](std::int32_t key) { events += "Down" + std::to_string(key) + " "; },
+                                   .KeyPress = [this](std::int32_t& key) {
+                                       events += "Press" + std::to_string(key) + " ";
+                                       if (on_key_press) on_key_press(key);
+                                   },
+                                   .KeyUp = [this](std::int32_t key) { events += "Up" + std::to_string(key) + " "; }}};
+    TextBox Fixed{*this, "Fixed", {.place = {10, 40, 200, 23}, .tab = 2, .text = "fixed", .display_only = true,
+                                   .Change = [this] { events += "FixedChange "; }}};
+    TextBox Other{*this, "Other", {.place = {10, 70, 200, 23}, .tab = 3, .text = "other text",
+                                   .GotFocus = [this] { hlxFocus::select_text(Other); }}};
+    // clang-format on
+
+    void Form_Load() override {
+        Box.set_text(initial);
+        if (on_load) on_load();
+        events.clear();
+    }
+};
+
+std::pair<DWORD, DWORD> selection_of(HWND box) {
+    DWORD from = 0;
+    DWORD to = 0;
+    SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+    return {from, to};
+}
+
+const std::pair<DWORD, DWORD> nowhere{0, 0};
+
+void put_on_clipboard(const std::wstring& text) {
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    EmptyClipboard();
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+    text.copy(static_cast<wchar_t*>(GlobalLock(memory)), text.size());
+    static_cast<wchar_t*>(GlobalLock(memory))[text.size()] = L'\0';
+    GlobalUnlock(memory);
+    SetClipboardData(CF_UNICODETEXT, memory);
+    CloseClipboard();
+}
+
+} // namespace
+
+TEST_F(TextBoxTest, ATypedCharacterGoesDownPressChangeUp) {
+    Boxes form(environment);
+    form.initial = "";
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.type("a");
+        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"a");
+    });
+    EXPECT_EQ(form.events, "Down65 Press97 Change Up65 ");
+    EXPECT_EQ(form.Box.text(), "a");
+}
+
+TEST_F(TextBoxTest, AHandlerDiscardsOrReplacesTheTypedCharacter) {
+    Boxes form(environment);
+    form.initial = "";
+    form.on_key_press = [](std::int32_t& key) {
+        if (key == 'b') key = 0;
+        if (key == 'c') key = 'C';
+        if (key == 'e') key = 0x20AC;
+    };
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.type("abcde");
+        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"aCd\u20AC");
+    });
+    EXPECT_EQ(form.Box.text(), "aCd\u20AC");
+}
+
+TEST_F(TextBoxTest, PastingChangesTheTextWithoutKeyPressOfItsCharacters) {
+    put_on_clipboard(L"pasted \u4E2D\u6587");
+    Boxes form(environment);
+    form.initial = "";
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        SendMessageW(hands.control("Boxes", "Box"), WM_PASTE, 0, 0);
+    });
+    EXPECT_EQ(form.events, "Change ");
+    EXPECT_EQ(form.Box.text(), "pasted \u4E2D\u6587");
+}
+
+TEST_F(TextBoxTest, ControlAndVPastesAndControlAndASelectsEverything) {
+    put_on_clipboard(L"new");
+    Boxes form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.keys({VK_CONTROL, 'A'});
+        EXPECT_EQ(selection_of(hands.focus()), (std::pair<DWORD, DWORD>{0, 5}));
+        hands.keys({VK_CONTROL, 'V'});
+        hands.run([&] { EXPECT_EQ(form.Box.text(), "new"); });
+        hands.keys({VK_CONTROL, 'Z'});
+        hands.run([&] { EXPECT_EQ(form.Box.text(), "start"); });
+    });
+}
+
+TEST_F(TextBoxTest, TextSetByCodeIsShownAndTheWindowTellsNothingBack) {
+    Boxes form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.run([&] { form.run_event([&] { form.Box.set_text("by code"); }); });
+        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"by code");
+    });
+    EXPECT_EQ(form.events, "Change ");
+}
+
+TEST_F(TextBoxTest, AHandlerCorrectsWhatIsTypedAndTheCaretStays) {
+    Boxes form(environment);
+    form.initial = "";
+    form.on_change = [&] {
+        std::string upper = form.Box.text();
+        for (char& each : upper)
+            if (each >= 'a' && each <= 'z') each = static_cast<char>(each - 'a' + 'A');
+        form.Box.set_text(upper);
+    };
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.type("abc");
+        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"ABC");
+    });
+    EXPECT_EQ(form.Box.text(), "ABC");
+}
+
+TEST_F(TextBoxTest, ADisplayOnlyBoxTakesTheFocusButNoText) {
+    put_on_clipboard(L"pasted");
+    Boxes form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        const HWND box = hands.control("Boxes", "Fixed");
+        hands.key(VK_TAB);
+        EXPECT_EQ(hands.focus(), box);
+        hands.type("a");
+        hands.key(VK_DELETE);
+        SendMessageW(box, WM_PASTE, 0, 0);
+        EXPECT_EQ(Hands::text(box), L"fixed");
+        // Programs can set it past its style, which is no person's doing either.
+        SendMessageW(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"forced"));
+        hands.wait_until_idle();
+        EXPECT_EQ(Hands::text(box), L"fixed");
+        SendMessageW(box, EM_SETSEL, 0, -1);
+        SendMessageW(box, WM_COPY, 0, 0);
+        ASSERT_TRUE(OpenClipboard(nullptr));
+        EXPECT_STREQ(static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT))), L"fixed");
+        CloseClipboard();
+    });
+    EXPECT_EQ(form.Fixed.text(), "fixed");
+    EXPECT_EQ(form.events, "");
+}
+
+TEST_F(TextBoxTest, WhatAnotherProgramSetsCountsAsTyped) {
+    Boxes form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        SendMessageW(hands.control("Boxes", "Box"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"automated"));
+    });
+    EXPECT_EQ(form.Box.text(), "automated");
+    EXPECT_EQ(form.events, "Change ");
+}
+
+TEST_F(TextBoxTest, TextOfAnyLengthAndAnyCharactersComesThroughWhole) {
+    const std::wstring wide =
+        L"\xD83D\xDE00 \xD800 lone \xDC00 \u202Eright to left\u202C a&b\t" + std::wstring(100'000, L'x');
+    Boxes form(environment);
+    form.initial = from_wide(wide);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        const HWND box = hands.control("Boxes", "Box");
+        EXPECT_EQ(Hands::text(box), wide);
+        hands.key(VK_END);
+        hands.type("y");
+        EXPECT_EQ(Hands::text(box), wide + L"y");
+    });
+    EXPECT_EQ(form.Box.text(), from_wide(wide) + "y");
+}
+
+TEST_F(TextBoxTest, ATextThatTheWindowCannotHoldStaysWholeInTheControl) {
+    const std::string with_nul("before\0after", 12);
+    Boxes form(environment);
+    form.initial = with_nul;
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"before");
+        hands.key(VK_TAB);
+        hands.keys({VK_SHIFT, VK_TAB});
+        hands.run([&] { form.run_event([&] { form.Fixed.set_enabled(false); }); });
+        hands.run([&] { EXPECT_EQ(form.Box.text(), with_nul); });
+    });
+    EXPECT_EQ(form.events.find("Change"), std::string::npos) << form.events;
+}
+
+TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhereTheFormSelectedIt) {
+    for (const bool selected : {true, false}) {
+        Boxes form(environment);
+        form.on_load = [&] {
+            if (selected) form.Box.select_all();
+        };
+        show(form, [&](Hands& hands) {
+            hands.form("Boxes");
+            const auto expected = selected ? std::pair<DWORD, DWORD>{0, 5} : nowhere;
+            EXPECT_EQ(selection_of(hands.control("Boxes", "Box")), expected);
+        });
+    }
+}
+
+TEST_F(TextBoxTest, AClickIntoABoxThatSelectsItsTextLeavesItSelected) {
+    Boxes form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        const HWND other = hands.control("Boxes", "Other");
+        hands.click(other, 30, 5);
+        EXPECT_EQ(hands.focus(), other);
+        EXPECT_EQ(selection_of(other), (std::pair<DWORD, DWORD>{0, 10}));
+        hands.click(other, 30, 5);
+        const auto [from, to] = selection_of(other);
+        EXPECT_EQ(from, to);
+    });
+}
+
+TEST_F(TextBoxTest, ABoxThatAHandlerDisablesPassesTheFocusOn) {
+    Boxes form(environment);
+    form.initial = "";
+    form.on_change = [&] {
+        form.Box.set_enabled(false);
+        form.Fixed.set_visible(false);
+    };
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        hands.type("a");
+        EXPECT_EQ(hands.focus(), hands.control("Boxes", "Other"));
+        hands.run([&] { EXPECT_EQ(form.focused(), &form.Other); });
+        EXPECT_FALSE(IsWindowEnabled(hands.control("Boxes", "Box")));
+        EXPECT_FALSE(IsWindowVisible(hands.control("Boxes", "Fixed")));
+    });
+}
+
+} // namespace brx::checks

@@ -1,0 +1,66 @@
+# Interface definitions: from one IDL file come the C++ header, the identifiers and the type library.
+#
+# brx_idl(NAME IDL file.idl [IMPORTS library...]) makes for file.idl:
+#   ${CMAKE_BINARY_DIR}/idl/file.h, file_i.c, file.tlb
+#   NAME      a library to link: #include "file.h" as a platform header, the identifiers compiled in
+#   NAME_tlb  a target that stands for the three files
+# and sets BRX_TLB of NAME to the full name of the type library. IMPORTS are brx_idl libraries whose IDL this one
+# imports or whose type library it refers to with importlib.
+#
+# A resource script takes the type library with `1 TYPELIB "file.tlb"`: call brx_typelib_resource(TARGET x.rc NAME).
+
+if(NOT WIN32)
+    return()
+endif()
+
+# stdole2.tlb: Wine ships it on Linux, the system itself has it on Windows. Only references to it are stored, so the
+# 64-bit one serves both.
+find_program(BRX_WIDL NAMES ${BRX_MINGW_TRIPLE}-widl widl REQUIRED)
+find_file(BRX_STDOLE stdole2.tlb NO_CMAKE_FIND_ROOT_PATH REQUIRED
+    PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows /usr/lib/wine/x86_64-windows "$ENV{SystemRoot}/System32")
+find_path(BRX_IDL_INCLUDES oaidl.idl NO_CMAKE_FIND_ROOT_PATH REQUIRED
+    PATHS /usr/include/wine/wine/windows PATH_SUFFIXES include)
+mark_as_advanced(BRX_WIDL BRX_STDOLE BRX_IDL_INCLUDES)
+set(BRX_IDL_DIR "${CMAKE_BINARY_DIR}/idl")
+file(MAKE_DIRECTORY "${BRX_IDL_DIR}")
+
+function(brx_idl name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "IDL" "IMPORTS")
+    cmake_path(ABSOLUTE_PATH arg_IDL NORMALIZE OUTPUT_VARIABLE source)
+    cmake_path(GET source STEM stem)
+    cmake_path(GET source PARENT_PATH folder)
+    set(made "${BRX_IDL_DIR}/${stem}.h" "${BRX_IDL_DIR}/${stem}_i.c" "${BRX_IDL_DIR}/${stem}.tlb")
+    cmake_path(GET BRX_STDOLE PARENT_PATH stdole_folder)
+    set(bits "$<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,--win64,--win32>")
+
+    # widl tells no dependencies, so any IDL file or include beside this one counts.
+    file(GLOB neighbours CONFIGURE_DEPENDS "${folder}/*.idl" "${folder}/*.idh")
+    set(imported_tlbs)
+    foreach(import IN LISTS arg_IMPORTS)
+        list(APPEND imported_tlbs "$<TARGET_PROPERTY:${import},BRX_TLB>")
+    endforeach()
+    add_custom_command(
+        OUTPUT ${made}
+        COMMAND "${BRX_WIDL}" ${bits} "-I${BRX_IDL_INCLUDES}" "-I${folder}" "-I${CMAKE_SOURCE_DIR}/src"
+                "-L${stdole_folder}" "-L${BRX_IDL_DIR}"
+                -h -H "${stem}.h" -u -U "${stem}_i.c" -t -T "${stem}.tlb" "${source}"
+        WORKING_DIRECTORY "${BRX_IDL_DIR}"
+        DEPENDS "${source}" ${neighbours} ${imported_tlbs} "${CMAKE_SOURCE_DIR}/src/common/version.h"
+        COMMENT "widl ${stem}.idl"
+        VERBATIM)
+    add_custom_target(${name}_tlb DEPENDS ${made})
+    set_property(GLOBAL APPEND PROPERTY BRX_IDL_TARGETS ${name}_tlb)
+    add_library(${name} STATIC "${BRX_IDL_DIR}/${stem}_i.c")
+    add_dependencies(${name} ${name}_tlb)
+    target_include_directories(${name} SYSTEM PUBLIC "${BRX_IDL_DIR}")
+    target_link_libraries(${name} PUBLIC ${arg_IMPORTS})
+    set_target_properties(${name} PROPERTIES BRX_TLB "${BRX_IDL_DIR}/${stem}.tlb")
+endfunction()
+
+# brx_typelib_resource(TARGET script.rc NAME): `script.rc` of TARGET includes the type library of brx_idl(NAME).
+function(brx_typelib_resource target script name)
+    get_target_property(tlb ${name} BRX_TLB)
+    set_property(SOURCE ${script} APPEND PROPERTY OBJECT_DEPENDS "${tlb}")
+    set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES "${BRX_IDL_DIR}" "${CMAKE_SOURCE_DIR}/src")
+    add_dependencies(${target} ${name}_tlb)
+endfunction()

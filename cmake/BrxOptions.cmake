@@ -1,0 +1,51 @@
+# What every target of the project is compiled with: link brx_options.
+
+option(BRX_SANITIZE "Address and undefined behaviour sanitizers, first finding ends the program" OFF)
+
+# Where what is slow to make lies, the same for every checkout; the scripts use the same folder.
+if(DEFINED ENV{XDG_CACHE_HOME})
+    set(BRX_CACHE "$ENV{XDG_CACHE_HOME}/brxopcdlgs6")
+elseif(DEFINED ENV{HOME})
+    set(BRX_CACHE "$ENV{HOME}/.cache/brxopcdlgs6")
+else()
+    file(TO_CMAKE_PATH "$ENV{USERPROFILE}/.cache/brxopcdlgs6" BRX_CACHE)
+endif()
+
+find_program(BRX_CCACHE ccache)
+mark_as_advanced(BRX_CCACHE)
+if(BRX_CCACHE)
+    # Paths relative to the checkout, so that a second checkout profits from the first one's work.
+    foreach(language C CXX)
+        set(CMAKE_${language}_COMPILER_LAUNCHER
+            "${CMAKE_COMMAND}" -E env "CCACHE_DIR=${BRX_CACHE}/ccache" "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}"
+            CCACHE_NOHASHDIR=1 "${BRX_CCACHE}")
+    endforeach()
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+# The debug information is for reading call stacks, Wine's too, which know nothing newer than DWARF 4; more of it only
+# makes linking slow.
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g1 -gdwarf-4 -DNDEBUG")
+set(CMAKE_C_FLAGS_RELWITHDEBINFO "-O2 -g1 -gdwarf-4 -DNDEBUG")
+
+# The same file from the same source, wherever the checkout lies.
+add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+
+if(BRX_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+add_library(brx_options INTERFACE)
+target_include_directories(brx_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_features(brx_options INTERFACE cxx_std_20)
+set(warnings -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Wold-style-cast -Woverloaded-virtual -Werror)
+target_compile_options(brx_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${warnings}>")
+if(WIN32)
+    # Windows 7 is the oldest system that hosts still run on.
+    target_compile_definitions(brx_options INTERFACE
+        UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+endif()

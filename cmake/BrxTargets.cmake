@@ -1,0 +1,48 @@
+# The few ways in which the folders declare what they build. The word SOURCES may be left out everywhere.
+
+# brx_folders(FOLDER...): adds the folders that have something to build.
+function(brx_folders)
+    foreach(folder IN LISTS ARGN)
+        if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
+            add_subdirectory(${folder})
+        endif()
+    endforeach()
+endfunction()
+
+# brx_library(NAME [SOURCES] file... [LINK library...]): a static library; who links it also gets what it links.
+function(brx_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    add_library(${name} STATIC ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC brx_options ${arg_LINK})
+endfunction()
+
+# brx_program(NAME [WINDOWED] [WIDE_MAIN] [SOURCES] file... [LINK library...]): a program. On Windows it starts in
+# wWinMain and has no console when WINDOWED, in wmain when WIDE_MAIN, in main otherwise.
+function(brx_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOWED;WIDE_MAIN" "" "SOURCES;LINK")
+    add_executable(${name} ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE brx_options ${arg_LINK})
+    if(arg_WINDOWED)
+        set_target_properties(${name} PROPERTIES WIN32_EXECUTABLE ON)
+    endif()
+    if(MINGW AND (arg_WINDOWED OR arg_WIDE_MAIN))
+        target_link_options(${name} PRIVATE -municode)
+    endif()
+endfunction()
+
+# brx_com_dll(NAME DEF file [SOURCES] file... [LINK library...]): an in-process COM server, NAME.dll. The definition
+# file lists the exports by their plain names, which are what every caller asks for in 32 bits too. The debug
+# information goes to NAME.dll.debug.
+function(brx_com_dll name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DEF" "SOURCES;LINK")
+    add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES} "${arg_DEF}")
+    cmake_path(ABSOLUTE_PATH arg_DEF OUTPUT_VARIABLE def)
+    set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS "${def}")
+    target_link_libraries(${name} PRIVATE brx_options ${arg_LINK})
+    target_link_options(${name} PRIVATE -Wl,--enable-stdcall-fixup,--kill-at,--exclude-all-symbols)
+    add_custom_command(TARGET ${name} POST_BUILD
+        COMMAND "${CMAKE_OBJCOPY}" --only-keep-debug "$<TARGET_FILE:${name}>" "$<TARGET_FILE:${name}>.debug"
+        COMMAND "${CMAKE_OBJCOPY}" --strip-unneeded "--add-gnu-debuglink=$<TARGET_FILE:${name}>.debug"
+                "$<TARGET_FILE:${name}>"
+        VERBATIM)
+endfunction()

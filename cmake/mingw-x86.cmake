@@ -1,0 +1,7 @@
+set(CMAKE_SYSTEM_PROCESSOR i686)
+set(BRX_MINGW_TRIPLE i686-w64-mingw32)
+include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")
+
+# 32-bit hosts call in with a stack aligned to 4 bytes, the compiler counts on 16.
+set(CMAKE_C_FLAGS_INIT "-mstackrealign")
+set(CMAKE_CXX_FLAGS_INIT "-mstackrealign")

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "common/model/object.h"
+
+#include <string>
+
+namespace brx::host {
+
+/// Where the host's OPC automation servers come from.
+class OpcSource {
+public:
+    OpcSource() = default;
+    OpcSource(const OpcSource&) = delete;
+    OpcSource& operator=(const OpcSource&) = delete;
+    virtual ~OpcSource() = default;
+
+    /// An automation server that is not connected: it can list the servers of a node.
+    virtual ObjectPtr make() = 0;
+    /// A connected one. Fails with the reason why it could not be connected.
+    virtual ObjectPtr connect(const std::string& program_id, const std::string& node) = 0;
+    /// Drops the connection of one that `connect` gave.
+    virtual void disconnect(const ObjectPtr& server) noexcept = 0;
+};
+
+} // namespace brx::host

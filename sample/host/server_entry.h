@@ -1,0 +1,65 @@
+#pragma once
+
+#include "common/model/collection.h"
+#include "host/opc_source.h"
+#include "host/server_store.h"
+
+#include <memory>
+
+namespace brx::host {
+
+class Servers;
+
+/// One configured server. Taken out of the collection it is no longer connected and has no parent.
+class ServerEntry final : public hlxOPCServer {
+public:
+    ServerEntry(Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source);
+    ~ServerEntry() override { disconnect(); }
+
+    std::string ServerName() override { return stored_.program_id; }
+    std::string Node() override { return stored_.node; }
+    ObjectPtr Parent() override;
+    ObjectPtr OPCServer() override { return server_; }
+
+    std::int64_t id() const { return stored_.id; }
+    void set_id(std::int64_t id) { stored_.id = id; }
+    std::string display_text() const;
+    /// What the server is doing, or why it is not connected, in a few words.
+    std::string state_text() const;
+
+    /// Takes over a connection that has just been made.
+    void set_connected(ObjectPtr server);
+    /// True when it is connected afterwards; state_text says why not.
+    bool connect();
+    void disconnect() noexcept;
+    /// Disconnects; the next connection comes from here.
+    void set_source(std::shared_ptr<OpcSource> source);
+    void leave() { servers_ = nullptr; }
+
+private:
+    Servers* servers_; ///< null once taken out
+    StoredServer stored_;
+    std::shared_ptr<OpcSource> source_;
+    ObjectPtr server_;
+    std::string failure_ = "not connected yet";
+};
+
+/// An entry of no collection, through which the servers of a node can be listed.
+class FreshEntry final : public hlxOPCServer {
+public:
+    explicit FreshEntry(std::shared_ptr<OpcSource> source) : source_(std::move(source)) {}
+
+    std::string ServerName() override { return {}; }
+    std::string Node() override { return {}; }
+    ObjectPtr Parent() override { return nullptr; }
+    ObjectPtr OPCServer() override;
+
+private:
+    std::shared_ptr<OpcSource> source_;
+    ObjectPtr server_;
+};
+
+/// An error in one line: its description and, of a failure code, the code.
+std::string in_one_line(const Error& error);
+
+} // namespace brx::host

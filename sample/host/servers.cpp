@@ -1,0 +1,112 @@
+#include "host/servers.h"
+
+#include "common/common_tools.h"
+#include "common/values/text.h"
+#include "host/host.h"
+#include "plant/keep.h"
+
+#include <cmath>
+
+namespace brx::host {
+
+namespace {
+
+std::int32_t position_in(const Variant& index) {
+    if (const auto* word = std::get_if<std::int16_t>(&index)) return *word;
+    if (const auto* number = std::get_if<std::int32_t>(&index)) return *number;
+    if (const auto* real = std::get_if<double>(&index))
+        if (std::abs(*real) < 1e9) return static_cast<std::int32_t>(std::lrint(*real));
+    throw Error(error::type_mismatch);
+}
+
+} // namespace
+
+Servers::Servers(Host& host, SqliteFile& file, std::shared_ptr<OpcSource> source)
+    : host_(host), store_(file), source_(std::move(source)) {
+    for (StoredServer& stored : store_.all()) entries_.push_back(entry_for(std::move(stored)));
+}
+
+Servers::~Servers() {
+    for (const auto& entry : entries_) entry->leave();
+}
+
+std::shared_ptr<Servers> Servers::self() { return host_.servers(); }
+
+ObjectPtr Servers::Parent() { return host_.shared_from_this(); }
+
+std::shared_ptr<ServerEntry> Servers::entry_for(StoredServer stored) {
+    return std::make_shared<ServerEntry>(*this, std::move(stored), source_);
+}
+
+hlxOPCServerPtr Servers::with_host(const std::shared_ptr<ServerEntry>& entry) {
+    return keep_with(host_.shared_from_this(), entry);
+}
+
+hlxOPCServerPtr Servers::Add(const std::string& server_name, const std::string& node, bool connect) {
+    const std::string wanted_node = trim(node);
+    const std::string text = server_display_text(wanted_node, server_name);
+    last_error_.clear();
+    try {
+        if (trim(server_name).empty()) throw Error(error::invalid_procedure_call, "The server has no name.");
+        ObjectPtr server = connect ? source_->connect(server_name, wanted_node) : nullptr;
+        auto entry = entry_for({0, server_name, wanted_node});
+        if (server) entry->set_connected(std::move(server));
+        entries_.reserve(entries_.size() + 1); // nothing may fail once it is stored
+        entry->set_id(store_.add(server_name, wanted_node));
+        entries_.push_back(entry);
+        host_.log().add("Added " + text + ".");
+        return with_host(entry);
+    } catch (const Error& error) {
+        last_error_ = in_one_line(error);
+        host_.log().add("Could not add " + text + ": " + last_error_);
+        return nullptr;
+    }
+}
+
+hlxOPCServerPtr Servers::Item(const Variant& index) {
+    return with_host(entries_[index_of(position_in(index))]);
+}
+
+ServerEntry& Servers::at(std::int32_t position) { return *entries_[index_of(position)]; }
+
+std::size_t Servers::index_of(std::int32_t position) const {
+    if (position < 1 || static_cast<std::size_t>(position) > entries_.size())
+        throw Error(error::subscript_out_of_range);
+    return static_cast<std::size_t>(position - 1);
+}
+
+std::int32_t Servers::find(const std::string& display_text) const {
+    for (std::size_t i = 0; i < entries_.size(); ++i)
+        if (equal_ignoring_case(entries_[i]->display_text(), display_text))
+            return static_cast<std::int32_t>(i + 1);
+    return 0;
+}
+
+bool Servers::connect(std::int32_t position) {
+    ServerEntry& entry = at(position);
+    const bool connected = entry.connect();
+    host_.log().add(entry.display_text() + ": " + (connected ? "Connected." : entry.state_text()));
+    return connected;
+}
+
+void Servers::connect_all() {
+    for (std::int32_t position = 1; position <= Count(); ++position) connect(position);
+}
+
+void Servers::remove(std::int32_t position) {
+    const std::size_t index = index_of(position);
+    const std::shared_ptr<ServerEntry> entry = entries_[index];
+    store_.remove(entry->id());
+    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+    entry->leave();
+    entry->disconnect();
+    host_.log().add("Removed " + entry->display_text() + ".");
+}
+
+void Servers::set_source(std::shared_ptr<OpcSource> source) {
+    source_ = std::move(source);
+    for (const auto& entry : entries_) entry->set_source(source_);
+    connect_all();
+}
+
+} // namespace brx::host

@@ -1,0 +1,151 @@
+#include "objects/host_object.h"
+
+#include "com/com_object.h"
+#include "com/dual.h"
+#include "com/wire.h"
+#include "host/host.h"
+#include "objects/site.h"
+#include "objects/wrapper_source.h"
+
+#include <shlobj.h>
+
+#include <array>
+#include <filesystem>
+
+#include "brxSample.h"
+
+namespace brx::host {
+
+namespace {
+
+constexpr const char* source_setting = "source";
+constexpr const char* wrapper_value = "wrapper";
+
+/// Beside the other data that programs keep for the user.
+std::string default_file() {
+    std::array<wchar_t, MAX_PATH> folder{};
+    check(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder.data()));
+    return to_utf8((std::filesystem::path(folder.data()) / "brxSample" / "host.db").u16string());
+}
+
+class HostObject final : public Dual<_Host> {
+public:
+    STDMETHODIMP get_DatabaseFile(BSTR* result) override {
+        return give(result, [&] { return file_.empty() ? default_file() : file_; });
+    }
+    STDMETHODIMP put_DatabaseFile(BSTR value) override {
+        return run([&] {
+            const std::string name = text_of(value);
+            const std::filesystem::path path(wide(name));
+            file_ = name.empty() ? name : to_utf8(std::filesystem::absolute(path).u16string());
+            host_ = nullptr;
+        });
+    }
+    STDMETHODIMP get_Servers(IDispatch** result) override {
+        return give(result, [&] { return ObjectPtr(servers()); });
+    }
+    STDMETHODIMP get_Server(BSTR name, IDispatch** result) override {
+        return give(result, [&] { return server_called(text_of(name)); });
+    }
+    STDMETHODIMP get_Application(IDispatch** result) override {
+        return give(result, [&] { return ObjectPtr(open()); });
+    }
+    STDMETHODIMP get_StateText(LONG position, BSTR* result) override {
+        return give(result, [&] { return servers()->at(position).state_text(); });
+    }
+    STDMETHODIMP Connect(LONG position, VARIANT_BOOL* result) override {
+        return give(result, [&] { return servers()->connect(position); });
+    }
+    STDMETHODIMP Remove(LONG position) override {
+        return run([&] { servers()->remove(position); });
+    }
+    STDMETHODIMP get_Source(OpcServerSource* result) override {
+        if (!result) return E_POINTER;
+        return run([&] {
+            static_cast<void>(open());
+            *result = site().source == site().wrapper ? AutomationWrapper : SimulatedPlant;
+        });
+    }
+    STDMETHODIMP put_Source(OpcServerSource value) override {
+        return run([&] { use(value == AutomationWrapper); });
+    }
+    STDMETHODIMP get_WrapperInstalled(VARIANT_BOOL* result) override {
+        return give(result, [] { return WrapperSource::is_installed(); });
+    }
+    STDMETHODIMP Log(BSTR text) override {
+        return run([&] { site().log.add(text_of(text)); });
+    }
+    STDMETHODIMP get_LogCount(LONG* result) override {
+        return give(result, [] { return static_cast<std::int32_t>(site().log.count()); });
+    }
+    STDMETHODIMP get_LogLine(LONG number, BSTR* result) override {
+        return give(result, [&] {
+            return number < 1 ? std::string() : site().log.line(static_cast<std::size_t>(number));
+        });
+    }
+
+private:
+    template <class Body> static HRESULT run(Body&& body) noexcept { return guard(__uuidof(_Host), body); }
+    template <class Raw, class Body> static HRESULT give(Raw* result, Body&& body) noexcept {
+        if (!result) return E_POINTER;
+        *result = Raw{};
+        return run([&] { *result = Wire<std::remove_cvref_t<decltype(body())>>::own(body()).detach(); });
+    }
+
+    const std::shared_ptr<Host>& open() {
+        if (host_) return host_;
+        Site& shared = site();
+        auto opened = Host::open(file_.empty() ? default_file() : file_, shared.plant, shared.log);
+        shared.source = shared.plant;
+        if (opened->settings().get(source_setting) == wrapper_value) {
+            if (WrapperSource::is_installed())
+                shared.source = shared.wrapper;
+            else
+                shared.log.add(
+                    "No OPC automation wrapper is installed any more: the simulated plant is used.");
+        }
+        opened->servers()->set_source(shared.source);
+        host_ = std::move(opened);
+        return host_;
+    }
+
+    std::shared_ptr<Servers> servers() { return open()->servers(); }
+
+    ObjectPtr server_called(const std::string& name) {
+        const auto all = servers();
+        const std::int32_t position = all->find(name);
+        if (position == 0)
+            throw Error(error::element_not_found, "No configured server is called " + name + ".");
+        if (!all->at(position).OPCServer() && !all->connect(position))
+            throw failed_call(name + ": " + all->at(position).state_text());
+        return all->at(position).OPCServer();
+    }
+
+    void use(bool wrapper) {
+        if (wrapper && !WrapperSource::is_installed())
+            throw failed_call(
+                "No OPC automation wrapper (OPC.Automation) is installed for programs of these bits.");
+        Site& shared = site();
+        const auto opened = open();
+        const auto& wanted = wrapper ? shared.wrapper : shared.plant;
+        if (shared.source == wanted) return;
+        opened->settings().set(source_setting, wrapper ? wrapper_value : "");
+        shared.source = wanted;
+        shared.log.add(wrapper ? "OPC servers come from the automation wrapper."
+                               : "OPC servers are simulated.");
+        opened->servers()->set_source(wanted);
+    }
+
+    static Error failed_call(const std::string& description) {
+        return {static_cast<std::int32_t>(E_FAIL), description, "brxSample"};
+    }
+
+    std::string file_; ///< "" for the default
+    std::shared_ptr<Host> host_;
+};
+
+} // namespace
+
+com_ptr<IDispatch> new_host_object() { return make_com<HostObject>(); }
+
+} // namespace brx::host

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/opc_source.h"
+
+namespace brx::host {
+
+/// Real servers, through the OPC automation wrapper that is installed on this computer.
+class WrapperSource final : public OpcSource {
+public:
+    static bool is_installed();
+
+    ObjectPtr make() override;
+    ObjectPtr connect(const std::string& program_id, const std::string& node) override;
+    void disconnect(const ObjectPtr& server) noexcept override;
+};
+
+} // namespace brx::host

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "tour/program.h"
+
+#include <functional>
+#include <string>
+
+namespace tour {
+
+/// Tells each step on the terminal and has a picture taken of how it came out.
+class Guide {
+public:
+    Guide(Program& program, std::wstring picture_folder)
+        : program_(program), folder_(std::move(picture_folder)) {}
+
+    /// One step: what is told, what is done, and what must have come of it. The picture, NN-`picture`.png,
+    /// shows the window in front and what it lies over.
+    void step(const std::string& telling, const std::string& picture, const std::function<void()>& doing,
+              const std::wstring& outcome, const std::function<bool()>& come_out);
+
+    int steps() const { return steps_; }
+
+private:
+    void take_picture(const std::string& name);
+
+    Program& program_;
+    std::wstring folder_;
+    int steps_ = 0;
+};
+
+} // namespace tour

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "window/host_model.h"
+#include "window/screen.h"
+#include "window/server_list.h"
+
+#include <optional>
+#include <string>
+
+namespace sample {
+
+/// What the command line asks for.
+struct Options {
+    std::wstring database;       ///< "" for the usual file
+    std::optional<bool> wrapper; ///< none: as the file remembers it
+};
+
+/// The host's window.
+class MainWindow {
+public:
+    explicit MainWindow(Options options) : options_(std::move(options)) {}
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+
+    /// Makes the window and opens the database file. False, after telling why, when the host cannot work.
+    bool open(HINSTANCE program, int show_command);
+    /// Runs until the window is closed.
+    int run();
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT notified(LPARAM parameter);
+
+    void create_controls();
+    void use_font();
+    void lay_out();
+    void enable_commands();
+    void refresh();
+    void show_log();
+
+    void command(int id);
+    void select_server();
+    void add_server();
+    void show_information();
+    void connect();
+    void remove();
+    void use_wrapper(bool wrapper);
+    void about();
+    static std::wstring missing_file(const wchar_t* file, const Failure& failure);
+    bool check_dialogs();
+    void centre();
+    bool start();
+    int ask(const std::wstring& text, UINT style) const;
+
+    HWND child(int id) const { return GetDlgItem(window_, id); }
+
+    Options options_;
+    HWND window_ = nullptr;
+    HWND focus_ = nullptr;
+    HACCEL keys_ = nullptr;
+    UINT dpi_ = 96;
+    Font font_;
+    ServerList list_;
+    std::optional<HostModel> model_;
+    bool dialogs_found_ = false;
+};
+
+} // namespace sample

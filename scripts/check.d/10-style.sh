@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Formatting, headers that stand alone, what a file may hold.
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
+cd "$brx_top"
+
+# The files of the project, also those that are not committed yet.
+files() { git ls-files --cached --others --exclude-standard -- "$@" | while read -r f; do [ ! -f "$f" ] || say "$f"; done; }
+
+# nothing_like PATTERN FILE-PATTERN..: fails with the lines that match.
+nothing_like() {
+    local pattern=$1 found
+    shift
+    found=$(files "$@" | xargs -r -d '\n' grep -nIE -- "$pattern" || true)
+    [ -z "$found" ] || { say "$found" && return 1; }
+}
+
+formatted() {
+    local file found=''
+    while read -r file; do
+        clang-format --dry-run -Werror "$file" 2>/dev/null || found+="$file:1: error: not formatted"$'\n'
+    done < <(files '*.cpp' '*.h')
+    [ -z "$found" ] || { printf '%s' "$found" && return 1; }
+}
+
+short_files() {
+    local file lines long=''
+    while read -r file; do
+        lines=$(wc -l <"$file")
+        [ "$lines" -le 350 ] || long+="$file:1: error: $lines lines; 300 is what one idea needs"$'\n'
+    done < <(files '*.cpp' '*.h' '*.sh' '*.cmake')
+    [ -z "$long" ] || { printf '%s' "$long" && return 1; }
+}
+
+sound_scripts() { files '*.sh' run check .ci/run | xargs -r -d '\n' shellcheck --external-sources; }
+
+# Pictures of the documentation are the only files that are not text.
+only_text() {
+    local file found=''
+    while read -r file; do
+        [[ $file == docs/*.png ]] && [ "$(stat -c %s "$file")" -le 300000 ] && continue
+        [ ! -s "$file" ] || grep -qI . "$file" || found+="$file:1: error: not text"$'\n'
+    done < <(files)
+    [ -z "$found" ] || { printf '%s' "$found" && return 1; }
+}
+
+# The system stands for itself: no word about where it was made or from what. Spelt so as not to find themselves.
+workplace='\b[Ss]pe[c](ification|s)?\b|\bPart[s]? [1-5]\.[0-9]|/wor[k]/|\.\./share[d]|\b[Ss]ub-?agen[t]|\bDEVELOPER[S]\b|COMPAS[S]|\bclosing not[e]'
+
+# No address of another machine; the names of Microsoft's manifest schemas only look like ones.
+no_addresses() {
+    local found
+    found=$(files | xargs -r -d '\n' grep -nIoE -- "(https?|ftp)://[A-Za-z0-9.-]+" |
+        grep -vE '://schemas\.microsoft\.com$' || true)
+    [ -z "$found" ] || { say "$found" && return 1; }
+}
+
+rule "every file is formatted" formatted
+rule "no file is longer than one idea" short_files
+rule "the files speak of the system only" nothing_like "$workplace"
+rule "no file names another machine" no_addresses
+rule "the repository holds text" only_text
+rule "the scripts are sound" sound_scripts
+rule "gcc takes every header by itself" build linux brx_headers
+part_end

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# The check programs on Linux, under the address, leak and undefined behaviour sanitizers.
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
+
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
+export UBSAN_OPTIONS=print_stacktrace=1
+need "the preset linux builds" build linux
+run_programs linux native timeout --kill-after=10
+part_end

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "common/model/collection.h"
+#include "forms/environment.h"
+
+#include <cstdint>
+
+namespace brx {
+
+/// Lets the user choose one of the host's configured OPC servers.
+class ServerSelect : private Module {
+public:
+    explicit ServerSelect(Environment& environment)
+        : Module("ServerSelect", environment.errors), environment_(environment) {}
+
+    /// The position of the server chosen last, from 1. Shows start without a choice whatever stands here.
+    std::int16_t ServerIndex = 0;
+
+    /// True when the user chose a server; ServerIndex is then its position.
+    bool Show(const ObjectPtr& hlxOPCServers);
+
+private:
+    hlxOPCServersPtr ResolvehlxOPCServers(const ObjectPtr& object) const;
+
+    Environment& environment_;
+};
+
+} // namespace brx

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "com/adapters/com_model.h"
+
+namespace brx {
+
+template <> class FromCom<OPCServer> final : public ComModel<OPCServer> {
+public:
+    using ComModel::ComModel;
+    Date StartTime() override { return get<Date>(&Interface::get_StartTime); }
+    Date CurrentTime() override { return get<Date>(&Interface::get_CurrentTime); }
+    Date LastUpdateTime() override { return get<Date>(&Interface::get_LastUpdateTime); }
+    std::int16_t MajorVersion() override { return get<std::int16_t>(&Interface::get_MajorVersion); }
+    std::int16_t MinorVersion() override { return get<std::int16_t>(&Interface::get_MinorVersion); }
+    std::int16_t BuildNumber() override { return get<std::int16_t>(&Interface::get_BuildNumber); }
+    std::string VendorInfo() override { return get<std::string>(&Interface::get_VendorInfo); }
+    std::int32_t ServerState() override { return get<std::int32_t>(&Interface::get_ServerState); }
+    std::string ServerName() override { return get<std::string>(&Interface::get_ServerName); }
+    std::string ServerNode() override { return get<std::string>(&Interface::get_ServerNode); }
+    std::string ClientName() override { return get<std::string>(&Interface::get_ClientName); }
+    std::int32_t Bandwidth() override { return get<std::int32_t>(&Interface::get_Bandwidth); }
+    OPCGroupsPtr OPCGroups() override { return get<OPCGroupsPtr>(&Interface::get_OPCGroups); }
+    Variant GetOPCServers(const std::optional<std::string>& node) override {
+        return get<Variant>(&Interface::GetOPCServers, node ? Variant(*node) : Variant(Missing{}));
+    }
+    OPCBrowserPtr CreateBrowser() override { return get<OPCBrowserPtr>(&Interface::CreateBrowser); }
+    std::string GetErrorString(std::int32_t error_code) override {
+        return get<std::string>(&Interface::GetErrorString, error_code);
+    }
+};
+
+template <> class FromCom<OPCGroups> final : public ComModel<OPCGroups> {
+public:
+    using ComModel::ComModel;
+    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    OPCGroupPtr Item(const Variant& item_specifier) override {
+        return get<OPCGroupPtr>(&Interface::Item, item_specifier);
+    }
+};
+
+template <> class FromCom<OPCGroup> final : public ComModel<OPCGroup> {
+public:
+    using ComModel::ComModel;
+    OPCServerPtr Parent() override { return get<OPCServerPtr>(&Interface::get_Parent); }
+    std::string Name() override { return get<std::string>(&Interface::get_Name); }
+    OPCItemsPtr OPCItems() override { return get<OPCItemsPtr>(&Interface::get_OPCItems); }
+};
+
+template <> class FromCom<OPCItems> final : public ComModel<OPCItems> {
+public:
+    using ComModel::ComModel;
+    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    OPCItemPtr Item(const Variant& item_specifier) override {
+        return get<OPCItemPtr>(&Interface::Item, item_specifier);
+    }
+    AddedItems AddItems(const StringArray& item_ids, const LongArray& client_handles,
+                        const std::optional<ShortArray>& requested_data_types,
+                        const std::optional<StringArray>& access_paths) override {
+        OwnedSafeArray ids(item_ids);
+        OwnedSafeArray clients(client_handles);
+        OwnedSafeArray handles;
+        OwnedSafeArray errors;
+        require(original()->AddItems(size_of(item_ids), ids.in(), clients.in(), handles.out(), errors.out(),
+                                     argument(requested_data_types).get(), argument(access_paths).get()));
+        return {long_array(handles.get()), long_array(errors.get())};
+    }
+    LongArray Remove(const LongArray& server_handles) override {
+        OwnedSafeArray handles(server_handles);
+        OwnedSafeArray errors;
+        require(original()->Remove(size_of(server_handles), handles.in(), errors.out()));
+        return long_array(errors.get());
+    }
+    LongArray Validate(const StringArray& item_ids, const std::optional<ShortArray>& requested_data_types,
+                       const std::optional<StringArray>& access_paths) override {
+        OwnedSafeArray ids(item_ids);
+        OwnedSafeArray errors;
+        require(original()->Validate(size_of(item_ids), ids.in(), errors.out(),
+                                     argument(requested_data_types).get(), argument(access_paths).get()));
+        return long_array(errors.get());
+    }
+
+private:
+    /// An optional argument as the automation interface takes it.
+    template <class T> static OwnedVariant argument(const std::optional<Array<T>>& array) {
+        return array ? OwnedVariant(OwnedSafeArray(*array)) : OwnedVariant(Missing{});
+    }
+    template <class T> static LONG size_of(const Array<T>& array) {
+        return static_cast<LONG>(array.elements.size());
+    }
+};
+
+template <> class FromCom<OPCItem> final : public ComModel<OPCItem> {
+public:
+    using ComModel::ComModel;
+    std::string ItemID() override { return get<std::string>(&Interface::get_ItemID); }
+    bool IsActive() override { return get<bool>(&Interface::get_IsActive); }
+    void set_IsActive(bool value) override { call(&Interface::put_IsActive, value); }
+    std::int16_t CanonicalDataType() override { return get<std::int16_t>(&Interface::get_CanonicalDataType); }
+};
+
+template <> class FromCom<OPCBrowser> final : public ComModel<OPCBrowser> {
+public:
+    using ComModel::ComModel;
+    std::int32_t Organization() override { return get<std::int32_t>(&Interface::get_Organization); }
+    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    std::string Item(std::int32_t index) override {
+        return get<std::string>(&Interface::Item, Variant(index));
+    }
+    void ShowBranches() override { call(&Interface::ShowBranches); }
+    void ShowLeafs(bool flat) override { call(&Interface::ShowLeafs, Variant(flat)); }
+    void MoveToRoot() override { call(&Interface::MoveToRoot); }
+    void MoveTo(const StringArray& branches) override {
+        OwnedSafeArray path(branches);
+        require(original()->MoveTo(path.in()));
+    }
+    std::string GetItemID(const std::string& leaf) override {
+        return get<std::string>(&Interface::GetItemID, leaf);
+    }
+};
+
+} // namespace brx

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "com/com_ptr.h"
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+namespace brx {
+
+struct PublicClass;
+
+/// What a host makes objects of a public class with.
+com_ptr<IClassFactory> class_factory_of(const PublicClass& public_class);
+
+} // namespace brx

@@ -1,0 +1,43 @@
+#include "common/common_tools.h"
+
+#include <array>
+
+namespace brx {
+
+hlxDatabasePtr CommonTools::ResolveDatabase(const ObjectPtr& object) const {
+    hlxDatabasePtr resolved;
+    trap("ResolveDatabase", [&] { resolved = resolve<hlxDatabase>(object); });
+    return resolved;
+}
+
+OPCServerPtr CommonTools::ResolveOPCServer(const ObjectPtr& object) const {
+    OPCServerPtr resolved;
+    trap("ResolveOPCServer", [&] { resolved = resolve<OPCServer>(object); });
+    return resolved;
+}
+
+OPCGroupPtr CommonTools::ResolveOPCGroup(const ObjectPtr& object) const {
+    OPCGroupPtr resolved;
+    trap("ResolveOPCGroup", [&] { resolved = resolve<OPCGroup>(object); });
+    return resolved;
+}
+
+std::string DescriptorTypeName(std::int32_t type_code) {
+    static constexpr std::array names = {"Part",
+                                         "Process",
+                                         "Job",
+                                         "Lot",
+                                         "Shift",
+                                         "User Defined (Subgroup)",
+                                         "User Defined (Piece)",
+                                         "Serial Number",
+                                         "Subgroup Comment"};
+    if (type_code < 0 || type_code >= static_cast<std::int32_t>(names.size())) return {};
+    return names[static_cast<std::size_t>(type_code)];
+}
+
+std::string server_display_text(const std::string& node, const std::string& server_name) {
+    return node.empty() ? server_name : node + "." + server_name;
+}
+
+} // namespace brx

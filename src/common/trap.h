@@ -1,0 +1,99 @@
+#pragma once
+
+#include "common/error.h"
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace brx {
+
+/// The two error libraries of the host. Each has a class `Error` whose `Show` reports.
+enum class ErrorLibrary { brxError6, hlxER01 };
+
+/// What one report says.
+struct ErrorReport {
+    std::int32_t number = 0;
+    std::string description;
+    std::string source;
+    std::string location;    ///< module name, full stop, procedure name
+    std::string application; ///< the component's name and version
+};
+
+/// Where unexpected errors go. An implementation never throws.
+class ErrorReporter {
+public:
+    virtual ~ErrorReporter() = default;
+    virtual void Show(ErrorLibrary library, const ErrorReport& report) noexcept = 0;
+};
+
+/// The procedure of this thread whose trap would report a failure now, as "module.procedure"; "" outside any,
+/// and where errors are ignored. Checks use it to know which report a failing host call must lead to.
+std::string current_location();
+
+/// For its lifetime failures of this thread go to the named procedure's trap, or to nobody when both are
+/// null.
+class TrapScope {
+public:
+    TrapScope(const char* module, const char* procedure) noexcept;
+    ~TrapScope();
+    TrapScope(const TrapScope&) = delete;
+    TrapScope& operator=(const TrapScope&) = delete;
+
+private:
+    friend std::string current_location();
+    const char* module_;
+    const char* procedure_;
+    const TrapScope* outer_;
+};
+
+/// One step that runs with errors ignored. True when it came through.
+template <class Step> bool attempt(Step&& step) noexcept {
+    const TrapScope ignored(nullptr, nullptr);
+    try {
+        step();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+/// A unit whose procedures run under an error trap: a form, a public class, the common tools.
+class Module {
+public:
+    Module(const char* name, ErrorReporter& errors, ErrorLibrary library = ErrorLibrary::brxError6)
+        : name_(name), errors_(errors), library_(library) {}
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+
+    const char* module_name() const { return name_; }
+
+protected:
+    ~Module() = default;
+
+    /// Runs `body`; whatever it throws is reported under this module's name and `procedure`, and goes no
+    /// further.
+    template <class Body> void trap(const char* procedure, Body&& body) const noexcept {
+        trap(library_, procedure, std::forward<Body>(body));
+    }
+
+    /// The same for a procedure that reports to the other library.
+    template <class Body> void trap(ErrorLibrary library, const char* procedure, Body&& body) const noexcept {
+        const TrapScope here(name_, procedure);
+        try {
+            body();
+        } catch (...) {
+            report(library, procedure, std::current_exception());
+        }
+    }
+
+private:
+    void report(ErrorLibrary library, const char* procedure,
+                const std::exception_ptr& failure) const noexcept;
+
+    const char* name_;
+    ErrorReporter& errors_;
+    ErrorLibrary library_;
+};
+
+} // namespace brx

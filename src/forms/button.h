@@ -1,0 +1,46 @@
+#pragma once
+
+#include "forms/form.h"
+
+namespace brx {
+
+struct ButtonDesign {
+    Place place;
+    std::string caption = {};
+    int tab = 0;
+    bool enabled = true;
+    bool visible = true;
+    bool is_default = false; ///< Enter presses it
+    bool is_cancel = false;  ///< Escape presses it
+    Anchor anchor = Anchor::top_left;
+    Handler Click = {};
+};
+
+class Button : public Control {
+public:
+    Button(Container& container, const char* name, const ButtonDesign& design)
+        : Control(container, name,
+                  {.place = design.place,
+                   .tab = design.tab,
+                   .enabled = design.enabled,
+                   .visible = design.visible,
+                   .anchor = design.anchor}),
+          design_(design) {}
+
+    Kind kind() const override { return Kind::button; }
+    bool focusable() const override { return true; }
+
+    const std::string& caption() const { return design_.caption; }
+    bool is_default() const { return design_.is_default; }
+    bool is_cancel() const { return design_.is_cancel; }
+
+    /// A person pressed the button: by mouse, blank, Enter, Escape or accelerator.
+    bool user_click() {
+        return by_person([&] { fire(design_.Click); });
+    }
+
+private:
+    ButtonDesign design_;
+};
+
+} // namespace brx

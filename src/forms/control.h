@@ -1,0 +1,102 @@
+#pragma once
+
+#include "forms/element.h"
+#include "forms/geometry.h"
+
+#include <functional>
+#include <string>
+
+namespace brx {
+
+using Handler = std::function<void()>;
+
+/// The kinds of control, for engines to choose a peer by.
+enum class Kind { label, text_box, button, check_box, list_box, combo_box, frame, panel, timer };
+
+/// What has controls in it: the form, a frame, a panel.
+class Container {
+public:
+    virtual ~Container() = default;
+    virtual Form& owner_form() = 0;
+    /// The container as a control, or null when it is the form.
+    virtual class Control* as_control() { return nullptr; }
+};
+
+/// What every kind of control is designed with.
+struct Look {
+    Place place;
+    int tab = 0; ///< position in the tab order; a label stands just before the control that it names
+    bool enabled = true;
+    bool visible = true;
+    Anchor anchor = Anchor::top_left;
+    Color back_color = color::button_face;
+    Color fore_color = color::button_text;
+};
+
+/// A control owns its state and fires its own events. Setters are for code; `user_...` verbs are for what a
+/// person did, and refuse what a person could not do.
+class Control : public Element {
+public:
+    virtual Kind kind() const = 0;
+    Form& form() override { return container_.owner_form(); }
+    using Element::form;
+    const std::string& name() const { return name_; }
+    Container& container() const { return container_; }
+    int tab() const { return look_.tab; }
+    Anchor anchor() const { return look_.anchor; }
+
+    const Place& place() const { return look_.place; }
+    bool enabled() const { return look_.enabled; }
+    bool visible() const { return look_.visible; }
+    Color back_color() const { return look_.back_color; }
+    Color fore_color() const { return look_.fore_color; }
+    void set_place(const Place& place);
+    void set_enabled(bool enabled);
+    void set_visible(bool visible);
+    void set_back_color(Color color);
+    void set_fore_color(Color color);
+
+    /// Enabled, and every container around it too.
+    bool takes_input() const;
+    /// Visible, and every container around it too.
+    bool shows() const;
+    /// Whether the focus can be on this kind of control.
+    virtual bool focusable() const { return false; }
+    /// Whether the focus can be on it now.
+    bool can_focus() const { return focusable() && takes_input() && shows(); }
+
+    /// Moves the focus here. Error 5 when it cannot be here.
+    void set_focus();
+
+    /// Back to the design state, without events.
+    virtual void reset() { look_ = design_look_; }
+
+    /// The focus came to this control or left it, whoever moved it.
+    virtual void got_focus() {}
+    virtual void lost_focus() {}
+
+    /// A person moved the focus here.
+    bool user_focus();
+
+protected:
+    Control(Container& container, const char* name, const Look& look);
+    ~Control() override = default;
+
+    /// Runs what a person did. False, and nothing happens, when a person could not have done it.
+    template <class Deed> bool by_person(Deed&& deed);
+
+    static void fire(const Handler& handler) {
+        if (handler) handler();
+    }
+
+private:
+    friend class Form;
+    bool within_reach() const;
+
+    Container& container_;
+    std::string name_;
+    Look design_look_;
+    Look look_;
+};
+
+} // namespace brx

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace brx {
+
+class Form;
+
+/// A message box: its text, the sum of the platform's style flags, and its title.
+struct Message {
+    std::string text;
+    std::int32_t style = 0;
+    std::string title;
+    bool operator==(const Message&) const = default;
+};
+namespace message {
+inline constexpr std::int32_t ok_cancel = 1;
+inline constexpr std::int32_t critical = 16;
+inline constexpr std::int32_t question = 32;
+inline constexpr std::int32_t exclamation = 48;
+inline constexpr std::int32_t information = 64;
+
+inline constexpr std::int32_t ok = 1;     ///< result: the OK button
+inline constexpr std::int32_t cancel = 2; ///< result: the Cancel button, Escape or the close box
+} // namespace message
+
+/// Where forms run. An engine opens windows, pumps input and shows state; it holds no dialog logic.
+class FormEngine {
+public:
+    FormEngine() = default;
+    FormEngine(const FormEngine&) = delete;
+    FormEngine& operator=(const FormEngine&) = delete;
+    virtual ~FormEngine() = default;
+
+    /// Opens a window for the loaded form, over the form or host window in front, and serves it until the
+    /// form is no longer loaded. Every other window of the thread is disabled meanwhile.
+    virtual void show_modal(Form& form) = 0;
+
+    /// Puts the form's present state on the screen at once, although a handler is running.
+    virtual void repaint(Form& form) = 0;
+
+    /// Shows the hourglass (or ends it). Calls are balanced and may nest; the form may not be open yet.
+    virtual void hourglass(Form& form, bool on) = 0;
+
+    /// Shows the system's message box over the form in front and returns the button pressed.
+    virtual std::int32_t message_box(const Message& message) = 0;
+
+    /// Opens the help file at the topic.
+    virtual void show_help(const std::string& help_file, std::int32_t topic) = 0;
+};
+
+} // namespace brx

@@ -1,0 +1,144 @@
+#include "forms/form.h"
+
+#include "forms/button.h"
+
+#include <algorithm>
+
+namespace brx {
+
+Form::Form(Environment& environment, FormDesign design)
+    : Module(design.name, environment.errors, design.errors),
+      environment_(environment),
+      design_(std::move(design)),
+      caption_(design_.caption) {}
+
+std::vector<Control*> Form::controls_in_tab_order() const {
+    std::vector<Control*> ordered = controls_;
+    std::stable_sort(ordered.begin(), ordered.end(),
+                     [](const Control* a, const Control* b) { return a->tab() < b->tab(); });
+    return ordered;
+}
+
+void Form::set_caption(const std::string& caption) {
+    if (caption_ == caption) return;
+    caption_ = caption;
+    changed(Aspect::text);
+}
+
+void Form::show_modal() {
+    // The form below shows what its handler has done so far while this one is in front of it.
+    if (Form* below = turn::top_form()) below->settle();
+    struct Unloading {
+        Form& form;
+        ~Unloading() {
+            form.loaded_ = false;
+            form.focused_ = nullptr;
+            form.Form_Unload();
+        }
+    };
+    const Unloading at_the_end{*this}; // also when no window can be had for it
+    load();
+    if (!loaded_) return;
+    const ModalTurn waiting(this);
+    environment_.engine.show_modal(*this);
+}
+
+void Form::load() {
+    caption_ = design_.caption;
+    help_topic_ = 0;
+    focused_ = nullptr;
+    for (Control* control : controls_) control->reset();
+    loaded_ = true;
+    run_event([&] { Form_Load(); });
+    if (!loaded_ || focused_) return;
+    const std::vector<Control*> order = controls_in_tab_order();
+    const auto first =
+        std::find_if(order.begin(), order.end(), [](const Control* each) { return each->can_focus(); });
+    if (first != order.end()) run_event([&] { move_focus(*first); });
+}
+
+std::int32_t Form::show_message(const Message& message) {
+    settle();
+    const ModalTurn waiting(nullptr);
+    return environment_.services.show_message(message);
+}
+
+void Form::unload() { loaded_ = false; }
+
+void Form::settle() {
+    keep_focus_usable();
+    for (Control* control : controls_) control->flush();
+    // Last: the focus can only go where the controls already take it.
+    flush();
+}
+
+void Form::repaint() {
+    settle();
+    environment_.engine.repaint(*this);
+}
+
+void Form::move_focus(Control* control) {
+    if (focused_ == control) return;
+    Control* before = focused_;
+    focused_ = control;
+    changed(Aspect::focus);
+    if (before) before->lost_focus();
+    if (control && focused_ == control) control->got_focus();
+}
+
+void Form::keep_focus_usable() {
+    if (!loaded_ || !focused_ || focused_->can_focus()) return;
+    const std::vector<Control*> order = controls_in_tab_order();
+    const auto here = std::find(order.begin(), order.end(), focused_);
+    const auto usable = [](const Control* control) { return control->can_focus(); };
+    auto next = std::find_if(here, order.end(), usable);
+    if (next == order.end()) next = std::find_if(order.begin(), here, usable);
+    Control* heir = next != order.end() && (*next)->can_focus() ? *next : nullptr;
+    const CodeTurn code;
+    move_focus(heir);
+}
+
+void Form::note_within(const Control& container, Aspect aspects) {
+    const auto lies_within = [&](const Control* control) {
+        for (; control; control = control->container().as_control())
+            if (control == &container) return true;
+        return false;
+    };
+    for (Control* control : controls_)
+        if (lies_within(control)) control->changed(aspects);
+}
+
+namespace {
+
+template <class Test> Button* find_button(const std::vector<Control*>& controls, Test&& test) {
+    for (Control* control : controls) {
+        auto* button = dynamic_cast<Button*>(control);
+        if (button && test(*button)) return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Button* Form::default_button() const {
+    return find_button(controls_, [](const Button& button) { return button.is_default(); });
+}
+
+Button* Form::cancel_button() const {
+    return find_button(controls_, [](const Button& button) { return button.is_cancel(); });
+}
+
+bool Form::user_close() {
+    if (!in_front()) return false;
+    unload();
+    return true;
+}
+
+bool Form::user_help() {
+    if (!in_front()) return false;
+    if (!environment_.help_file.empty())
+        run_event([&] { environment_.engine.show_help(environment_.help_file, help_topic_); });
+    return true;
+}
+
+} // namespace brx

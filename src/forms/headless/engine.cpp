@@ -1,0 +1,37 @@
+#include "forms/headless/engine.h"
+
+#include "forms/form.h"
+
+#include <utility>
+
+namespace brx {
+
+void HeadlessEngine::show_modal(Form& form) {
+    HeadlessWindow window(form);
+    windows_.push_back(&window);
+    baton_.serve([&] { return !form.loaded(); });
+    windows_.pop_back();
+}
+
+/// The peers are up to date already, and there is nothing to draw.
+void HeadlessEngine::repaint(Form&) {}
+
+void HeadlessEngine::hourglass(Form&, bool on) { hourglasses_ += on ? 1 : -1; }
+
+std::int32_t HeadlessEngine::message_box(const Message& message) {
+    const auto outer_message = std::exchange(message_, message);
+    answer_ = 0;
+    baton_.serve([&] { return answer_ != 0; });
+    message_ = outer_message;
+    return std::exchange(answer_, 0);
+}
+
+void HeadlessEngine::show_help(const std::string& help_file, std::int32_t topic) {
+    help_shown_ = help_file + " at " + std::to_string(topic);
+}
+
+HeadlessWindow* HeadlessEngine::front() const {
+    return message_ || windows_.empty() ? nullptr : windows_.back();
+}
+
+} // namespace brx

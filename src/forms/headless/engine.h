@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/engine.h"
+#include "forms/headless/baton.h"
+#include "forms/headless/screen_state.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brx {
+
+/// The engine of the checks: forms open and close, nothing is drawn, and a scripted user works through
+/// `Baton`.
+class HeadlessEngine : public FormEngine {
+public:
+    explicit HeadlessEngine(Baton& baton) : baton_(baton) {}
+
+    void show_modal(Form& form) override;
+    void repaint(Form& form) override;
+    void hourglass(Form& form, bool on) override;
+    std::int32_t message_box(const Message& message) override;
+    void show_help(const std::string& help_file, std::int32_t topic) override;
+
+    /// The window that takes input; null when there is none or a message box lies over it.
+    HeadlessWindow* front() const;
+    const std::vector<HeadlessWindow*>& windows() const { return windows_; }
+    const std::optional<Message>& message() const { return message_; }
+    void answer(std::int32_t button) { answer_ = button; }
+    int hourglasses() const { return hourglasses_; }
+    const std::string& help_shown() const { return help_shown_; }
+
+private:
+    Baton& baton_;
+    std::vector<HeadlessWindow*> windows_;
+    std::optional<Message> message_;
+    std::int32_t answer_ = 0;
+    int hourglasses_ = 0;
+    std::string help_shown_;
+};
+
+} // namespace brx

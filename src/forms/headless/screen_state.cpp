@@ -1,0 +1,78 @@
+#include "forms/headless/screen_state.h"
+
+#include "forms/button.h"
+#include "forms/check_box.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/list_control.h"
+#include "forms/text_box.h"
+
+namespace brx {
+
+namespace {
+
+std::string text_of(const Control& control) {
+    switch (control.kind()) {
+    case Kind::label:
+        return static_cast<const Label&>(control).caption();
+    case Kind::text_box:
+        return static_cast<const TextBox&>(control).text();
+    case Kind::button:
+        return static_cast<const Button&>(control).caption();
+    case Kind::check_box:
+        return static_cast<const CheckBox&>(control).caption();
+    case Kind::frame:
+        return static_cast<const Frame&>(control).caption();
+    case Kind::list_box:
+    case Kind::combo_box:
+        return static_cast<const ListControl&>(control).text();
+    case Kind::panel:
+    case Kind::timer:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+HeadlessPeer::HeadlessPeer(Control& control) : Peer(control), control_(control) {
+    refresh(Aspect::everything);
+}
+
+void HeadlessPeer::refresh(Aspect aspects) {
+    if (has(aspects, Aspect::text | Aspect::lines | Aspect::selection)) shown_.text = text_of(control_);
+    if (has(aspects, Aspect::enabled)) shown_.enabled = control_.takes_input();
+    if (has(aspects, Aspect::visible)) shown_.visible = control_.shows();
+    if (has(aspects, Aspect::place)) shown_.place = control_.place();
+    if (has(aspects, Aspect::colors)) {
+        shown_.back_color = control_.back_color();
+        shown_.fore_color = control_.fore_color();
+    }
+    if (const auto* list = dynamic_cast<const ListControl*>(&control_)) {
+        if (has(aspects, Aspect::lines)) {
+            shown_.lines.clear();
+            for (int i = 0; i < list->count(); ++i) shown_.lines.push_back(list->text(i));
+        }
+        if (has(aspects, Aspect::selection)) shown_.selected = list->selected();
+    }
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control_))
+        if (has(aspects, Aspect::value)) shown_.value = box->value();
+}
+
+HeadlessWindow::HeadlessWindow(Form& form) : Peer(form), form_(form) {
+    for (Control* control : form.controls()) peers_.push_back(std::make_unique<HeadlessPeer>(*control));
+    refresh(Aspect::everything);
+}
+
+const HeadlessPeer* HeadlessWindow::find(const std::string& name) const {
+    for (const auto& peer : peers_)
+        if (peer->control().name() == name) return peer.get();
+    return nullptr;
+}
+
+void HeadlessWindow::refresh(Aspect aspects) {
+    if (has(aspects, Aspect::text)) caption_ = form_.caption();
+    if (has(aspects, Aspect::focus)) focused_ = form_.focused();
+}
+
+} // namespace brx

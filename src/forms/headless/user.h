@@ -1,0 +1,44 @@
+#pragma once
+
+#include "forms/headless/engine.h"
+
+#include <string>
+
+namespace brx {
+
+class TextBox;
+class ListControl;
+
+/// What the keyboard and the mouse do to the window in front, by the platform's rules. On the forms' thread.
+/// False when nothing there takes the input.
+class HeadlessUser {
+public:
+    explicit HeadlessUser(HeadlessEngine& engine) : engine_(engine) {}
+
+    bool click(const std::string& control);
+    bool choose(const std::string& list, int line);
+    bool double_click(const std::string& list, int line);
+    bool focus(const std::string& control);
+    bool type(const std::string& text);
+    bool paste(const std::string& text);
+    bool enter();
+    bool escape();
+    bool tab(bool backwards);
+    bool space();
+    bool move(int lines);
+    bool help();
+    bool backspace();
+    bool accelerator(char letter);
+    bool close_box();
+    void tick();
+
+private:
+    Form* form() const;
+    Control* find(const std::string& name) const;
+    Control* focused() const;
+    bool press_character(TextBox& box, const std::string& character);
+
+    HeadlessEngine& engine_;
+};
+
+} // namespace brx

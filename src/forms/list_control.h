@@ -1,0 +1,98 @@
+#pragma once
+
+#include "forms/form.h"
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace brx {
+
+struct ListDesign {
+    Place place;
+    int tab = 0;
+    bool enabled = true;
+    bool visible = true;
+    Anchor anchor = Anchor::top_left;
+    Handler Click = {};
+    Handler DblClick = {};
+    Handler Change = {};
+};
+
+/// What list boxes and drop-down lists share: lines with a 32-bit number each, one of them selected or none.
+class ListControl : public Control {
+public:
+    bool focusable() const override { return true; }
+
+    /// Positions count from 0 here; error 5 for one that is not there.
+    int count() const { return static_cast<int>(lines_.size()); }
+    const std::string& text(int index) const { return line(index).text; }
+    std::int32_t data(int index) const { return line(index).data; }
+
+    void add_line(const std::string& text, std::int32_t data = 0) { insert_line(count(), text, data); }
+    void insert_line(int index, const std::string& text, std::int32_t data = 0);
+    /// Empties the list; nothing is selected then, and nothing fires.
+    void clear();
+    /// How many lines from the first on are what they were at the last call.
+    int take_kept_lines() { return std::exchange(kept_, count()); }
+
+    /// The selected line, -1 for none.
+    int selected() const { return selected_; }
+    /// Selects a line (Click fires when it was another) or, with -1, none (without Click).
+    void select(int index);
+    /// The selected line's text, "" when there is none.
+    std::string text() const { return selected_ < 0 ? std::string() : text(selected_); }
+
+    /// A person chose a line.
+    bool user_select(int index) {
+        if (index == selected_) return true;
+        return index >= 0 && index < count() && by_person([&] { select(index); });
+    }
+    /// A person double-clicked the selected line.
+    bool user_double_click() {
+        return by_person([&] { fire(design_.DblClick); });
+    }
+
+    void reset() override;
+
+protected:
+    ListControl(Container& container, const char* name, const ListDesign& design)
+        : Control(container, name,
+                  {.place = design.place,
+                   .tab = design.tab,
+                   .enabled = design.enabled,
+                   .visible = design.visible,
+                   .anchor = design.anchor,
+                   .back_color = color::window,
+                   .fore_color = color::window_text}),
+          design_(design) {}
+
+private:
+    struct Line {
+        std::string text;
+        std::int32_t data;
+    };
+    const Line& line(int index) const;
+
+    ListDesign design_;
+    std::vector<Line> lines_;
+    int kept_ = 0;
+    int selected_ = -1;
+};
+
+class ListBox : public ListControl {
+public:
+    ListBox(Container& container, const char* name, const ListDesign& design)
+        : ListControl(container, name, design) {}
+    Kind kind() const override { return Kind::list_box; }
+};
+
+/// A drop-down list: a person chooses a line and cannot type.
+class ComboBox : public ListControl {
+public:
+    ComboBox(Container& container, const char* name, const ListDesign& design)
+        : ListControl(container, name, design) {}
+    Kind kind() const override { return Kind::combo_box; }
+};
+
+} // namespace brx

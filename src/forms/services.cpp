@@ -1,0 +1,23 @@
+#include "forms/services.h"
+
+namespace brx {
+
+std::int32_t Services::show_message(const Message& message) {
+    if (!looked_for_message_) {
+        looked_for_message_ = true;
+        try {
+            message_ = create<hlxMessage>(objects_, class_name::hlxMessage);
+        } catch (const Error&) {
+            message_ = nullptr; // the host leaves message boxes to the system
+        }
+    }
+    if (message_) return message_->Show(message.text, message.style, message.title, Missing{});
+    return engine_.message_box(message);
+}
+
+std::string Services::help_file() {
+    if (!help_) help_ = create<hlxHelp>(objects_, class_name::hlxHelp);
+    return help_->HelpFile();
+}
+
+} // namespace brx

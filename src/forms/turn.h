@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+
+namespace brx {
+
+class Form;
+
+/// Whose turn it is on this thread: code runs, or a modal loop waits for a person. Foreign code that a
+/// handler calls may pump messages; what a person or a timer does then comes while it is the code's turn, and
+/// is refused.
+namespace turn {
+
+bool is_code_running();
+
+/// The form in front of the person, or null when there is none or a message box lies over it.
+Form* front();
+
+/// The form that was shown last, message box over it or not.
+Form* top_form();
+
+/// How many modal loops (forms and message boxes) run on this thread.
+std::size_t depth();
+
+} // namespace turn
+
+/// For its lifetime code runs.
+class CodeTurn {
+public:
+    CodeTurn();
+    ~CodeTurn();
+    CodeTurn(const CodeTurn&) = delete;
+    CodeTurn& operator=(const CodeTurn&) = delete;
+
+private:
+    bool outer_;
+};
+
+/// For its lifetime a modal loop runs: of the form, or of a message box when it is null.
+class ModalTurn {
+public:
+    explicit ModalTurn(Form* form);
+    ~ModalTurn();
+    ModalTurn(const ModalTurn&) = delete;
+    ModalTurn& operator=(const ModalTurn&) = delete;
+
+    Form* form() const { return form_; }
+    const ModalTurn* below() const { return below_; }
+
+private:
+    Form* form_;
+    const ModalTurn* below_;
+    bool outer_;
+};
+
+} // namespace brx

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "forms/control.h"
+#include "forms/win32/wide.h"
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+namespace brx {
+
+class FormWindow;
+
+/// What a control is made of.
+struct NativeControl {
+    const wchar_t* window_class;
+    DWORD style = 0;
+    DWORD ex_style = 0;
+};
+
+/// A control as a window, a direct child of the form's.
+class ControlPeer : public Peer {
+public:
+    ~ControlPeer() override;
+
+    Control& control() const { return control_; }
+    /// Null once the window is destroyed.
+    HWND handle() const { return handle_; }
+
+    void refresh(Aspect aspects) final;
+
+    /// The window reports this (the high word of WM_COMMAND).
+    virtual void notified(WORD code) { static_cast<void>(code); }
+    /// The form has another font or scale.
+    virtual void font_changed();
+    /// Sets its colours and returns the background; null leaves both to the system.
+    HBRUSH set_colors(HDC dc) const;
+
+protected:
+    ControlPeer(FormWindow& window, Control& control, const NativeControl& native);
+
+    /// Brings the window up to date. What the window reports meanwhile is an echo.
+    virtual void show(Aspect aspects);
+    virtual LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
+    virtual void move_to(const RECT& place);
+
+    FormWindow& window() const { return window_; }
+    void show_text(const std::string& text);
+    LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+        return SendMessageW(handle_, message, wparam, lparam);
+    }
+    /// The same without asking this peer first, for messages that are sent by the thousand.
+    LRESULT send_directly(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+        return CallWindowProcW(native_procedure_, handle_, message, wparam, lparam);
+    }
+
+private:
+    static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
+                                      DWORD_PTR self) noexcept;
+
+    FormWindow& window_;
+    Control& control_;
+    HWND handle_ = nullptr;
+    WNDPROC native_procedure_ = DefWindowProcW;
+};
+
+/// The peer that suits the control's kind.
+std::unique_ptr<Peer> make_peer(FormWindow& window, Control& control);
+
+} // namespace brx

@@ -1,0 +1,128 @@
+#include "forms/win32/engine.h"
+
+#include "common/error.h"
+#include "forms/form.h"
+#include "forms/win32/form_window.h"
+#include "forms/win32/help.h"
+#include "forms/win32/thread_windows.h"
+#include "forms/win32/wide.h"
+
+#include <optional>
+#include <utility>
+
+namespace brx {
+
+namespace {
+
+/// Serves the window until its form is no longer loaded. Gives the exit code when the thread is asked to end.
+std::optional<WPARAM> serve(const FormWindow& window) {
+    while (window.form().loaded()) {
+        MSG message{};
+        if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            // Looking for messages has dealt with sent ones, which can unload the form and are never seen
+            // here.
+            if (window.form().loaded())
+                MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        } else if (message.message == WM_QUIT) {
+            window.form().unload();
+            return message.wParam;
+        } else if (!IsDialogMessageW(window.handle(), &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    return std::nullopt;
+}
+
+void give_focus_back(HWND window) {
+    if (IsWindow(window) && GetActiveWindow() == GetAncestor(window, GA_ROOT) && IsWindowVisible(window) &&
+        IsWindowEnabled(window))
+        SetFocus(window);
+}
+
+} // namespace
+
+Win32Engine::Win32Engine(HelpOpener open_help)
+    : open_help_(open_help ? std::move(open_help) : HelpOpener(open_help_file)) {}
+
+Win32Engine::~Win32Engine() = default;
+
+void Win32Engine::show_modal(Form& form) {
+    const HWND focus_before = GetFocus();
+    const bool over_own_form = !open_forms_.empty();
+    std::optional<WPARAM> exit_code;
+    {
+        const HWND owner = window_in_front();
+        DisabledThreadWindows others;
+        FormWindow window(*this, form, owner);
+        open_forms_.push_back(&window);
+        window.open();
+        exit_code = serve(window);
+        open_forms_.pop_back();
+        others.enable_again();
+    }
+    // Forms find their focus themselves.
+    if (!over_own_form) give_focus_back(focus_before);
+    // Whoever runs the loop below this one has to end too.
+    if (exit_code) PostQuitMessage(static_cast<int>(*exit_code));
+}
+
+void Win32Engine::repaint(Form& form) {
+    for (const FormWindow* window : open_forms_)
+        if (&window->form() == &form && window->handle())
+            RedrawWindow(window->handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+    // Some systems bring what was drawn to the screen only when the thread waits. No message is taken.
+    MsgWaitForMultipleObjectsEx(0, nullptr, 1, 0, 0);
+}
+
+void Win32Engine::hourglass(Form& form, bool on) {
+    if (on) {
+        ++busy_[&form];
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+        return;
+    }
+    const auto found = busy_.find(&form);
+    if (found == busy_.end()) return;
+    if (--found->second > 0) return;
+    busy_.erase(found);
+    // The window under the mouse says what it looks like now.
+    POINT mouse{};
+    const HWND below = GetCursorPos(&mouse) ? WindowFromPoint(mouse) : nullptr;
+    if (below && GetWindowThreadProcessId(below, nullptr) == GetCurrentThreadId()) {
+        const LRESULT area = SendMessageW(below, WM_NCHITTEST, 0, MAKELPARAM(mouse.x, mouse.y));
+        SendMessageW(below, WM_SETCURSOR, reinterpret_cast<WPARAM>(below), MAKELPARAM(area, WM_MOUSEMOVE));
+    } else {
+        SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    }
+}
+
+std::int32_t Win32Engine::message_box(const Message& message) {
+    const HWND owner = window_in_front();
+    const HWND focus_before = GetFocus();
+    const auto style = static_cast<UINT>(message.style) | (owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND);
+    int pressed = 0;
+    {
+        const std::wstring text = to_wide(message.text);
+        const std::wstring title = to_wide(message.title.empty() ? component_name : message.title);
+        // The box disables its owner itself, and enables it at the right moment.
+        const DisabledThreadWindows others(owner);
+        const VisualStyles styles;
+        pressed = MessageBoxW(owner, text.c_str(), title.c_str(), style);
+    }
+    if (pressed == 0) throw Error(error::invalid_procedure_call);
+    if (open_forms_.empty()) give_focus_back(focus_before);
+    return pressed;
+}
+
+void Win32Engine::show_help(const std::string& help_file, std::int32_t topic) {
+    open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
+}
+
+HWND Win32Engine::window_in_front() const {
+    for (auto window = open_forms_.rbegin(); window != open_forms_.rend(); ++window)
+        if ((*window)->handle()) return (*window)->handle();
+    return host_window();
+}
+
+} // namespace brx

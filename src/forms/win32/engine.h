@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/engine.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace brx {
+
+class FormWindow;
+
+/// Forms as windows of the system, on the thread that shows them. An engine serves one thread.
+class Win32Engine : public FormEngine {
+public:
+    /// Opens a help file at a topic, over a window (or null).
+    using HelpOpener = std::function<void(HWND over, const std::wstring& file, DWORD topic)>;
+
+    /// Help goes to the system's viewers when no opener is given.
+    explicit Win32Engine(HelpOpener open_help = {});
+    ~Win32Engine() override;
+
+    void show_modal(Form& form) override;
+    void repaint(Form& form) override;
+    void hourglass(Form& form, bool on) override;
+    std::int32_t message_box(const Message& message) override;
+    void show_help(const std::string& help_file, std::int32_t topic) override;
+
+    /// Whether the form shows the hourglass.
+    bool is_busy(const Form& form) const { return busy_.count(&form) != 0; }
+
+private:
+    HWND window_in_front() const;
+
+    HelpOpener open_help_;
+    std::vector<FormWindow*> open_forms_; ///< the one in front is the last
+    std::map<const Form*, int> busy_;     ///< how many procedures of it show the hourglass
+};
+
+} // namespace brx

@@ -1,0 +1,143 @@
+#include "forms/win32/list_peer.h"
+
+#include "forms/win32/form_window.h"
+#include "forms/win32/gdi.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+namespace brx {
+
+namespace {
+constexpr int longest_drop = 20; ///< lines
+}
+
+const ListPeer::Messages ListBoxPeer::messages = {LB_RESETCONTENT, LB_ADDSTRING, LB_DELETESTRING, LB_GETCOUNT,
+                                                  LB_INITSTORAGE,  LB_GETCURSEL, LB_SETCURSEL};
+const ListPeer::Messages ComboBoxPeer::messages = {
+    CB_RESETCONTENT, CB_ADDSTRING, CB_DELETESTRING, CB_GETCOUNT, CB_INITSTORAGE, CB_GETCURSEL, CB_SETCURSEL};
+
+void ListPeer::show(Aspect aspects) {
+    ControlPeer::show(aspects); // first, for a list scrolls to its selection within the place it has
+    if (has(aspects, Aspect::lines)) show_lines();
+    // Lines that were shown again have lost their selection.
+    if (has(aspects, Aspect::lines | Aspect::selection) &&
+        static_cast<int>(send(messages_.selected)) != list_.selected())
+        send(messages_.select, static_cast<WPARAM>(list_.selected()));
+}
+
+void ListPeer::show_lines() {
+    const int kept = list_.take_kept_lines();
+    int shown = static_cast<int>(send(messages_.count));
+    if (kept == shown && shown == list_.count()) return;
+
+    const bool visible = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    send(WM_SETREDRAW, FALSE);
+    if (kept == 0) {
+        send(messages_.reset);
+        shown = 0;
+        widest_ = 0;
+    }
+    while (shown > kept) send_directly(messages_.remove, static_cast<WPARAM>(--shown));
+    std::size_t bytes = 0;
+    for (int i = shown; i < list_.count(); ++i) bytes += (list_.text(i).size() + 1) * sizeof(wchar_t);
+    send(messages_.reserve, static_cast<WPARAM>(list_.count() - shown), static_cast<LPARAM>(bytes));
+    for (int i = shown; i < list_.count(); ++i)
+        send_directly(messages_.add, 0, reinterpret_cast<LPARAM>(to_wide(list_.text(i)).c_str()));
+    measure(shown);
+    send(WM_SETREDRAW, TRUE);
+    // Drawing again may have made it visible.
+    if (!visible) ShowWindow(handle(), SW_HIDE);
+    InvalidateRect(handle(), nullptr, TRUE);
+}
+
+void ListPeer::measure(int from) {
+    const TextMeasure measure(handle(), window().font());
+    for (int i = from; i < list_.count(); ++i) {
+        const std::wstring text = to_wide(list_.text(i));
+        widest_ = std::max(widest_, measure.width(text.data(), text.size()));
+    }
+    show_extent(widest_);
+}
+
+void ListPeer::font_changed() {
+    ControlPeer::font_changed();
+    if (!handle()) return;
+    widest_ = 0;
+    measure(0);
+}
+
+void ListPeer::report_selection() {
+    const int index = static_cast<int>(send(messages_.selected));
+    if (window().is_showing() || index == list_.selected() || index < 0) return;
+    if (!window().report([&] { return list_.user_select(index); })) refresh(Aspect::selection);
+}
+
+ListBoxPeer::ListBoxPeer(FormWindow& window, ListBox& list)
+    : ListPeer(window, list,
+               {WC_LISTBOXW, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP,
+                WS_EX_CLIENTEDGE},
+               messages) {}
+
+void ListBoxPeer::notified(WORD code) {
+    if (code == LBN_SELCHANGE)
+        report_selection();
+    else if (code == LBN_DBLCLK)
+        window().report([&] { return list().user_double_click(); });
+}
+
+void ListBoxPeer::show_extent(int width) {
+    const int margin = 2 * GetSystemMetrics(SM_CXEDGE);
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width == 0 ? 0 : width + margin));
+}
+
+LRESULT ListBoxPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    // The room below the last line is no line, but would be told as a double click all the same.
+    if (message == WM_LBUTTONDBLCLK && HIWORD(send(LB_ITEMFROMPOINT, 0, lparam)) != 0)
+        message = WM_LBUTTONDOWN;
+    return ListPeer::handle_message(message, wparam, lparam);
+}
+
+ComboBoxPeer::ComboBoxPeer(FormWindow& window, ComboBox& list)
+    : ListPeer(window, list, {WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP}, messages) {
+    send(CB_SETMINVISIBLE, longest_drop); // systems without visual styles go by the window's height
+}
+
+void ComboBoxPeer::notified(WORD code) {
+    // Closing without a choice goes back to the line before, which is told by nothing else.
+    if (code == CBN_SELCHANGE || code == CBN_CLOSEUP) report_selection();
+}
+
+void ComboBoxPeer::show(Aspect aspects) {
+    ListPeer::show(aspects);
+    // The list that drops down is as high as its lines.
+    if (has(aspects, Aspect::lines) && !has(aspects, Aspect::place)) move_to(window().place_of(list()));
+}
+
+void ComboBoxPeer::show_extent(int width) {
+    const int around = GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
+    send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width == 0 ? 0 : width + around));
+}
+
+void ComboBoxPeer::move_to(const RECT& place) {
+    const int height = place.bottom - place.top;
+    const int line = static_cast<int>(send(CB_GETITEMHEIGHT, 0));
+    const int lines = std::clamp(list().count(), 1, longest_drop);
+    RECT drop = place;
+    drop.bottom += line * lines + 2 * GetSystemMetrics(SM_CYBORDER);
+    ControlPeer::move_to(drop);
+    // The closed box gets its height from its text's line, which systems measure in different ways.
+    int text_height = static_cast<int>(send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+    for (int tries = 0; tries < 2; ++tries) {
+        RECT now{};
+        GetWindowRect(handle(), &now);
+        const int missing = height - static_cast<int>(now.bottom - now.top);
+        if (missing == 0) break;
+        text_height += missing;
+        send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), text_height);
+    }
+}
+
+} // namespace brx

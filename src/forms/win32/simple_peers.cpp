@@ -1,0 +1,74 @@
+#include "forms/win32/simple_peers.h"
+
+#include "forms/win32/form_window.h"
+#include "forms/win32/gdi.h"
+
+#include <commctrl.h>
+
+namespace brx {
+
+namespace {
+
+// A group goes from a label or frame to the next one: the arrow keys stay within it.
+DWORD label_style(const Label& label) {
+    return SS_LEFT | WS_GROUP | (label.mnemonic() ? 0 : SS_NOPREFIX | SS_ENDELLIPSIS | SS_NOTIFY);
+}
+
+} // namespace
+
+LabelPeer::LabelPeer(FormWindow& window, Label& label)
+    : ControlPeer(window, label, {WC_STATICW, label_style(label)}), label_(label) {}
+
+void LabelPeer::show(Aspect aspects) {
+    ControlPeer::show(aspects);
+    if (has(aspects, Aspect::text)) show_text(label_.caption());
+    if (has(aspects, Aspect::text | Aspect::place)) show_tip();
+}
+
+LRESULT LabelPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    // Not every dialog manager looks for SS_NOPREFIX before it takes an ampersand for an accelerator.
+    if (message == WM_GETDLGCODE && !label_.mnemonic()) return DLGC_WANTCHARS;
+    return ControlPeer::handle_message(message, wparam, lparam);
+}
+
+void LabelPeer::show_tip() {
+    if (label_.mnemonic()) return;
+    const std::wstring text = to_wide(label_.caption());
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const bool fits = TextMeasure(handle(), window().font()).width(text.data(), text.size()) <= client.right;
+    window().set_tip(handle(), fits ? std::wstring() : text);
+}
+
+ButtonPeer::ButtonPeer(FormWindow& window, Button& button)
+    : ControlPeer(window, button, {WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP}), button_(button) {
+    show_text(button.caption());
+}
+
+void ButtonPeer::notified(WORD code) {
+    if (code == BN_CLICKED) window().report([&] { return button_.user_click(); });
+}
+
+CheckBoxPeer::CheckBoxPeer(FormWindow& window, CheckBox& box)
+    : ControlPeer(window, box, {WC_BUTTONW, BS_3STATE | WS_TABSTOP}), box_(box) {
+    show_text(box.caption());
+}
+
+void CheckBoxPeer::show(Aspect aspects) {
+    ControlPeer::show(aspects);
+    if (has(aspects, Aspect::value)) send(BM_SETCHECK, static_cast<WPARAM>(box_.value()));
+}
+
+void CheckBoxPeer::notified(WORD code) {
+    if (code == BN_CLICKED) window().report([&] { return box_.user_toggle(); });
+}
+
+FramePeer::FramePeer(FormWindow& window, Frame& frame)
+    : ControlPeer(window, frame, {WC_BUTTONW, BS_GROUPBOX | WS_GROUP}) {
+    show_text(frame.caption());
+}
+
+PanelPeer::PanelPeer(FormWindow& window, Panel& panel)
+    : ControlPeer(window, panel, {WC_STATICW, SS_LEFT | SS_NOPREFIX | WS_GROUP}) {}
+
+} // namespace brx

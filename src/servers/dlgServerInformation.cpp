@@ -1,0 +1,44 @@
+#include "servers/dlgServerInformation.h"
+
+#include "common/common_tools.h"
+#include "common/values/convert.h"
+#include "forms/setup_form.h"
+
+namespace brx {
+
+dlgServerInformation::dlgServerInformation(Environment& environment)
+    : Form(environment,
+           {.name = "dlgServerInformation", .caption = "Server Information", .size = {400, 223}}) {}
+
+void dlgServerInformation::Form_Load() {
+    trap("Form_Load", [&] {
+        if (!server_) return;
+        const std::string node = server_->ServerNode();
+        set_caption(server_display_text(node, server_->ServerName()));
+        ShowTimes();
+        const std::string major = to_text(server_->MajorVersion(), environment().locale);
+        Version.set_text(major + "." + to_text(server_->MinorVersion(), environment().locale));
+        Vendor.set_text(server_->VendorInfo());
+        SetupForm(*this, 198);
+    });
+}
+
+void dlgServerInformation::Timer1_Timer() {
+    trap("Timer1_Timer", [&] {
+        if (server_) ShowTimes();
+    });
+}
+
+void dlgServerInformation::bnOK_Click() {
+    trap("bnOK_Click", [&] { unload(); });
+}
+
+/// Passes its errors on.
+void dlgServerInformation::ShowTimes() {
+    const Locale& locale = environment().locale;
+    Start.set_text(to_text(server_->StartTime(), locale));
+    Current.set_text(to_text(server_->CurrentTime(), locale));
+    Last.set_text(to_text(server_->LastUpdateTime(), locale));
+}
+
+} // namespace brx
