@@ -10,7 +10,7 @@ namespace brx::checks {
 
 namespace {
 
-const std::wstring classes = L"Software\\Classes";
+const std::wstring classes = classes_key;
 const std::wstring select_class = classes + L"\\CLSID\\{FFF1633C-31EE-4CFE-BE2F-C0E070EC992B}";
 const std::wstring library = classes + L"\\TypeLib\\{438E101D-A88C-4F38-BC9F-703D56A00BBB}";
 const wchar_t* const class_names[] = {L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd",
@@ -72,6 +72,8 @@ private:
 class RegistrationTest : public testing::Test {
 protected:
     RegistrationTest() {
+        // Every user has this key; some systems make it only when it is needed.
+        RegistryKey().create(HKEY_CURRENT_USER, classes);
         // What a run that was broken off left behind.
         dll.install(false, L"user");
         dll.unregister_for_machine();

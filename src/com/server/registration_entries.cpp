@@ -14,7 +14,7 @@ namespace brx {
 
 namespace {
 
-constexpr const wchar_t* classes = L"Software\\Classes\\";
+const std::wstring classes = std::wstring(classes_key) + L"\\";
 
 /// The system's own proxy for automation interfaces, which works by the type library.
 constexpr const wchar_t* automation_proxy = L"{00020424-0000-0000-C000-000000000046}";

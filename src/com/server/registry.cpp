@@ -124,7 +124,7 @@ void remove_from_registry(HKEY root, const RegistryPlace& place) {
         if (!is_absent(removed)) check_status(removed);
     }
     std::wstring path = place.key;
-    while (remove_empty_key(root, path)) {
+    while (path != classes_key && remove_empty_key(root, path)) {
         const std::size_t end = path.rfind(L'\\');
         if (end == std::wstring::npos) return;
         path.resize(end);

@@ -8,6 +8,9 @@
 
 namespace brx {
 
+/// Where hosts look for classes, in either hive.
+inline constexpr const wchar_t* classes_key = L"Software\\Classes";
+
 /// Owns an open key of the registry.
 class RegistryKey {
 public:
@@ -67,8 +70,8 @@ private:
 /// bits.
 std::wstring registry_text(HKEY root, const RegistryPlace& place, REGSAM view = 0);
 
-/// Removes the value, whatever it is, and then every key around it that holds nothing any more. Fine when
-/// there is none; throws when it cannot be removed.
+/// Removes the value, whatever it is, and then every key around it that holds nothing any more, but never
+/// `classes_key`, which is the system's own. Fine when there is none; throws when it cannot be removed.
 void remove_from_registry(HKEY root, const RegistryPlace& place);
 
 } // namespace brx
