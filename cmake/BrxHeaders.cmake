@@ -3,7 +3,7 @@
 
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}" src/*.h sample/*.h checks/*.h)
 if(NOT WIN32)
-    list(FILTER headers EXCLUDE REGEX "(^|/)(com|win32|windows)/|^checks/(conversions|server)/|^sample/(objects|tour|window)/|^checks/(leaks)/")
+    list(FILTER headers EXCLUDE REGEX "(^|/)(com|win32|windows)/|^checks/(bench|conversions|server)/|^sample/(objects|tour|window)/|^checks/(leaks)/")
 endif()
 
 set(sources)

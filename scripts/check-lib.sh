@@ -106,7 +106,7 @@ run_program() {
     fi
     if [ "$left" -gt 0 ]; then
         printf 'SKIPPED: %s: %d of its checks\n' "$name" "$left"
-        sed -n 's/^\[  SKIPPED \] \([^ ]*\) (.*/    \1/p' "$log" | sed -n '1,20p'
+        sed -nE 's/^\[  SKIPPED \] ([^ ]*) \(.*/    \1/p; s/^SKIPPED: /    /p' "$log" | sed -n '1,20p'
     fi
 }
 
@@ -129,10 +129,11 @@ last_words() {
     fi
 }
 
-# What GoogleTest printed for each failed check.
+# What GoogleTest printed for each failed check, and the lines "FAILED: ..." of programs without it.
 failure_texts() {
-    awk '/^\[ RUN      \]/ { text = "" }
+    awk '/^\[ RUN      \]/ { text = ""; within = 1 }
+         !within && /^FAILED: / { print; next }
          { text = text $0 "\n" }
-         /^\[       OK \]|^\[  SKIPPED \]/ { text = "" }
-         /^\[  FAILED  \] .*\([0-9]+ ms\)$/ { printf "%s", text; text = "" }' "$1"
+         /^\[       OK \]|^\[  SKIPPED \]/ { text = ""; within = 0 }
+         /^\[  FAILED  \] .*\([0-9]+ ms\)$/ { printf "%s", text; text = ""; within = 0 }' "$1"
 }

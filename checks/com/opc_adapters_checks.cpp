@@ -121,10 +121,17 @@ TEST_F(OpcAdapterTest, PassGroupsOn) {
                                     get("OPCItems", &OPCGroup::OPCItems)});
 
     const auto groups = make<OPCGroups>();
-    groups->answers = {{"Count", two}, {"Item", ObjectPtr(group)}};
-    check_members<OPCGroups>(groups,
-                             {get("Count", &OPCGroups::Count), method("Item", &OPCGroups::Item, Variant(two)),
-                              method("Item", &OPCGroups::Item, Variant(std::string("Line 3")))});
+    groups->answers = {{"Count", two}, {"Item", ObjectPtr(group)}, {"Add", ObjectPtr(group)}};
+    const auto adding = [](std::vector<Variant> arguments, const std::optional<std::string>& name) {
+        return Member<OPCGroups>{DISPATCH_METHOD, "Add", std::move(arguments),
+                                 [=](OPCGroups& model) -> Variant { return ObjectPtr(model.Add(name)); }};
+    };
+    check_members<OPCGroups>(
+        groups, {get("Count", &OPCGroups::Count), method("Item", &OPCGroups::Item, Variant(two)),
+                 method("Item", &OPCGroups::Item, Variant(std::string("Line 3"))), adding({}, std::nullopt),
+                 adding({std::string("Line 3")}, "Line 3"), method("RemoveAll", &OPCGroups::RemoveAll),
+                 method("Remove", &OPCGroups::Remove, Variant(two)),
+                 method("Remove", &OPCGroups::Remove, Variant(std::string("Line 3")))});
 }
 
 TEST_F(OpcAdapterTest, PassItemsOn) {

@@ -34,6 +34,11 @@ public:
     OPCGroupPtr Item(const Variant& item_specifier) override {
         return answer<OPCGroupPtr>("Item", item_specifier);
     }
+    OPCGroupPtr Add(const std::optional<std::string>& name) override {
+        return answer<OPCGroupPtr>("Add", optional_text_value(name));
+    }
+    void RemoveAll() override { note("RemoveAll"); }
+    void Remove(const Variant& item_specifier) override { note("Remove", item_specifier); }
 };
 
 template <> class DoubleOf<OPCGroup> : public OPCGroup, public Double {

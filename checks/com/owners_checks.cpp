@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstring>
 #include <limits>
 
 namespace brx::checks {
@@ -168,6 +170,31 @@ TEST_F(OwnersTest, KeepVariantsOfUnknownKinds) {
     V_VT(&unknown) = VT_UNKNOWN;
     expect_unchanged(unknown, "without text");
     EXPECT_EQ(references(thing), 1u);
+}
+
+/// What the user chose in his regional settings, until the end.
+class UserSetting {
+public:
+    UserSetting(LCTYPE kind, const wchar_t* value) : kind_(kind) {
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, kind_, before_.data(), static_cast<int>(before_.size()));
+        SetLocaleInfoW(LOCALE_USER_DEFAULT, kind_, value);
+    }
+    ~UserSetting() { SetLocaleInfoW(LOCALE_USER_DEFAULT, kind_, before_.data()); }
+    UserSetting(const UserSetting&) = delete;
+    UserSetting& operator=(const UserSetting&) = delete;
+
+private:
+    LCTYPE kind_;
+    std::array<wchar_t, 16> before_{};
+};
+
+TEST_F(OwnersTest, TellVariantsOfUnknownKindsAsTheUserWritesThem) {
+    const UserSetting decimal_comma(LOCALE_SDECIMAL, L",");
+    VARIANT decimal{};
+    VarDecFromR8(-1.5, &V_DECIMAL(&decimal));
+    V_VT(&decimal) = VT_DECIMAL;
+    expect_unchanged(decimal, "-1,5");
+    expect_unchanged(plain(VT_UI1, std::uint8_t{200}), "200");
 }
 
 TEST_F(OwnersTest, KeepForeignArrays) {

@@ -17,6 +17,11 @@ const std::vector<Positions>& positions_of_dialogs() {
         {"_ServerInformation", R"(
 1 Show(IDispatch* OPCServer) -> VARIANT_BOOL #1
 )"},
+        {"_LeafSelect", R"(
+1 Show(IDispatch* OPCServer, IDispatch* OPCGroup) -> VARIANT_BOOL #1
+2 get ItemID() -> BSTR #2
+3 put ItemID(BSTR) #2
+)"},
         {"_Error", R"(
 1 Show(long Number, BSTR Description, BSTR Source, BSTR Location, BSTR Application) #1
 )"},

@@ -36,6 +36,38 @@ TEST_F(Forms, AFormThatUnloadsWhileItLoadsNeverOpens) {
     EXPECT_EQ(form.notes, (Notes{"Form_Load", "Form_Unload"}));
 }
 
+TEST_F(Forms, AFormThatCannotBeOpenedUnloadsAndItsCallerGetsTheError) {
+    engine.while_open = [](Form&) { throw Error(error::out_of_memory); };
+    try {
+        form.show_modal();
+        ADD_FAILURE() << "No error.";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.number(), error::out_of_memory);
+    }
+    EXPECT_EQ(form.notes, (Notes{"Form_Load", "box_GotFocus", "Form_Unload"}));
+    EXPECT_FALSE(form.loaded());
+    EXPECT_EQ(form.focused(), nullptr);
+    EXPECT_EQ(turn::depth(), 0U);
+    EXPECT_TRUE(host.reports.empty());
+
+    while_open([&] { EXPECT_EQ(form.focused(), &form.box) << "It can be shown later."; });
+}
+
+TEST_F(Forms, AFormThatCannotBeOpenedOverAnotherLeavesThatOneInFront) {
+    while_open([&] {
+        form.on_click = [&] {
+            OneForm over_it(environment);
+            engine.while_open = [](Form&) { throw Error(error::out_of_memory); };
+            EXPECT_THROW(over_it.show_modal(), Error);
+            EXPECT_EQ(over_it.notes.back(), "Form_Unload");
+            EXPECT_TRUE(turn::is_code_running());
+        };
+        EXPECT_TRUE(form.button.user_click());
+        EXPECT_EQ(turn::front(), &form);
+        EXPECT_TRUE(form.check.user_toggle());
+    });
+}
+
 TEST_F(Forms, AnInstanceThatIsShownAgainStartsFromItsDesign) {
     while_open([&] {
         form.set_caption("Changed");

@@ -28,7 +28,8 @@ public:
 
     void show_modal(Form& form) override {
         events.push_back("open " + form.name());
-        while_open(form);
+        const auto story = while_open; // may set the next form's
+        story(form);
         form.unload();
         events.push_back("close " + form.name());
     }

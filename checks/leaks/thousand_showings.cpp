@@ -18,10 +18,11 @@ constexpr int showings = 1000;
 /// behind.
 constexpr int slack = showings / 10;
 
-void show_again_and_again(Play& its, const std::string& class_name, const ObjectPtr& object) {
+template <class... Objects>
+void show_again_and_again(Play& its, const std::string& class_name, const Objects&... objects) {
     Showing dialog(*its.stage, class_name);
     const auto show_once = [&] {
-        dialog.show(object);
+        dialog.show(objects...);
         its.person.closes_the_window();
         dialog.result();
     };
@@ -33,7 +34,8 @@ void show_again_and_again(Play& its, const std::string& class_name, const Object
     its.stage->start([&] { after = system_handles(); });
     EXPECT_LT(after.user - before.user, slack) << "Windows or other USER objects stayed.";
     EXPECT_LT(after.gdi - before.gdi, slack) << "Fonts, brushes or other GDI objects stayed.";
-    for (const wchar_t* name : {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation"})
+    for (const wchar_t* name :
+         {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation", L"dlgItemSelect", L"TrView"})
         EXPECT_EQ(GlobalFindAtomW(name), 0) << "The name of a window stayed.";
 }
 
@@ -51,6 +53,12 @@ SCENARIO(AThousandShowings, OfTheAddServerDialogLeaveNothingBehind) {
 
 SCENARIO(AThousandShowings, OfTheServerInformationLeaveNothingBehind) {
     show_again_and_again(its, "ServerInformation", its.host.enumerator);
+}
+
+SCENARIO(AThousandShowings, OfTheItemBrowserLeaveNothingBehind) {
+    its.host.browser->root.has("Line1", {"Speed"});
+    its.host.browser->root.has("Line2");
+    show_again_and_again(its, "LeafSelect", its.host.connection, its.host.group);
 }
 
 TEST(SystemHandlesCheck, NoticesWindowsAndPensThatStay) {

@@ -1,3 +1,4 @@
+#include "sample/plant_reading.h"
 #include "sample/plant_stage.h"
 
 #include <gmock/gmock.h>
@@ -12,20 +13,6 @@ using testing::IsEmpty;
 
 class PlantBrowsing : public PlantCheck {
 protected:
-    static std::vector<std::string> listed(const OPCBrowserPtr& browser) {
-        std::vector<std::string> names;
-        for (std::int32_t i = 1; i <= browser->Count(); ++i) names.push_back(browser->Item(i));
-        return names;
-    }
-    static std::vector<std::string> branches(const OPCBrowserPtr& browser) {
-        browser->ShowBranches();
-        return listed(browser);
-    }
-    static std::vector<std::string> leaves(const OPCBrowserPtr& browser, bool flat = false) {
-        browser->ShowLeafs(flat);
-        return listed(browser);
-    }
-
     std::shared_ptr<Server> packing = connected("Simulation.Packing.1");
     OPCBrowserPtr browser = packing->CreateBrowser();
 };

@@ -18,12 +18,12 @@ protected:
     static std::int32_t error(std::uint32_t code) { return as_number(code); }
 
     std::shared_ptr<Server> server = connected("Simulation.Packing.1");
-    std::shared_ptr<Group> group = server->groups()->Add("Weights");
+    std::shared_ptr<Group> group = server->groups()->make("Weights");
     std::shared_ptr<Items> items = group->items();
 };
 
 TEST_F(PlantGroups, AreFoundByPositionFromOneAndByName) {
-    server->groups()->Add("Second");
+    server->groups()->make("Second");
     const OPCGroupsPtr groups = server->OPCGroups();
     EXPECT_EQ(groups->Count(), 2);
     EXPECT_EQ(groups->Item(std::int32_t{1})->Name(), "Weights");
@@ -34,9 +34,28 @@ TEST_F(PlantGroups, AreFoundByPositionFromOneAndByName) {
         EXPECT_EQ(code_of([&] { groups->Item(wrong); }), com_error::invalid_argument);
 }
 
+TEST_F(PlantGroups, AreAddedAndRemovedByWhoeverHoldsTheirCollection) {
+    const OPCGroupsPtr groups = server->OPCGroups();
+    const OPCGroupPtr named = groups->Add("Volumes");
+    const OPCGroupPtr nameless = groups->Add(std::nullopt);
+    EXPECT_EQ(named->Name(), "Volumes");
+    EXPECT_NE(nameless->Name(), "");
+    EXPECT_EQ(groups->Count(), 3);
+    groups->Remove(std::string("Volumes"));
+    groups->Remove(group->ServerHandle());
+    EXPECT_EQ(groups->Count(), 1);
+    EXPECT_EQ(groups->Item(std::int32_t{1})->Name(), nameless->Name());
+    for (const Variant& wrong : {Variant(std::int32_t{999}), Variant(std::string("volumes")),
+                                 Variant(std::int16_t{1}), Variant(Empty{})})
+        EXPECT_EQ(code_of([&] { groups->Remove(wrong); }), com_error::invalid_argument);
+    groups->RemoveAll();
+    EXPECT_EQ(groups->Count(), 0);
+    EXPECT_EQ(code_of([&] { nameless->Name(); }), com_error::unspecified);
+}
+
 TEST_F(PlantGroups, GetANameOfTheServersChoosingAndNeverTheSameTwice) {
-    EXPECT_FALSE(server->groups()->Add("")->Name().empty());
-    EXPECT_EQ(code_of([&] { server->groups()->Add("Weights"); }), opc_error::duplicate_name);
+    EXPECT_FALSE(server->groups()->make("")->Name().empty());
+    EXPECT_EQ(code_of([&] { server->groups()->make("Weights"); }), opc_error::duplicate_name);
 }
 
 TEST_F(PlantGroups, KnowTheirServerAndKeepItAlive) {
@@ -60,7 +79,7 @@ TEST_F(PlantGroups, LeaveNothingBehindWhenNobodyHoldsThem) {
 TEST_F(PlantGroups, FailOnceTheyAreRemoved) {
     add(*items, {{"Running"}});
     const OPCItemPtr item = items->Item(std::int32_t{1});
-    server->groups()->Remove("Weights");
+    server->groups()->Remove(std::string("Weights"));
     EXPECT_EQ(server->OPCGroups()->Count(), 0);
     EXPECT_EQ(code_of([&] { group->Name(); }), com_error::unspecified);
     EXPECT_EQ(code_of([&] { group->Parent(); }), com_error::unspecified);

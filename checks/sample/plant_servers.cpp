@@ -69,7 +69,7 @@ TEST_F(PlantServers, WhatNeedsAConnectionFailsWithoutOne) {
         [&] { server->LastUpdateTime(); }, [&] { server->MajorVersion(); },
         [&] { server->MinorVersion(); },   [&] { server->BuildNumber(); },
         [&] { server->VendorInfo(); },     [&] { server->Bandwidth(); },
-        [&] { server->CreateBrowser(); },  [&] { server->groups()->Add("x"); },
+        [&] { server->CreateBrowser(); },  [&] { server->groups()->make("x"); },
     };
     for (const auto& call : calls) EXPECT_EQ(code_of(call), com_error::unspecified);
 }

@@ -13,7 +13,7 @@ double number(const Variant& value) { return std::get<double>(value); }
 class PlantValues : public PlantCheck {
 protected:
     Reading read(const std::shared_ptr<Server>& server, const std::string& item_id) {
-        const auto items = server->groups()->Add("")->items();
+        const auto items = server->groups()->make("")->items();
         const AddedItems added = items->AddItems({{item_id}}, {{1}}, std::nullopt, std::nullopt);
         return items->by_handle(added.ServerHandles.at(1))->read();
     }
@@ -97,7 +97,7 @@ TEST_F(PlantValues, DifferBetweenNodesWithTheSameServer) {
 }
 
 TEST_F(PlantValues, OfAnInactiveItemAreBad) {
-    const auto items = connected("Simulation.Packing.1")->groups()->Add("")->items();
+    const auto items = connected("Simulation.Packing.1")->groups()->make("")->items();
     const AddedItems added = items->AddItems({{"Running"}}, {{1}}, std::nullopt, std::nullopt);
     const auto item = items->by_handle(added.ServerHandles.at(1));
     item->set_IsActive(false);
@@ -111,7 +111,7 @@ TEST_F(PlantValues, OfEveryItemOfEveryServerCanBeRead) {
         for (const ServerDescription& description : node.servers) {
             if (description.connection_failure != 0) continue;
             const auto server = connected(description.program_id, node.name);
-            const auto items = server->groups()->Add("All")->items();
+            const auto items = server->groups()->make("All")->items();
             StringArray ids;
             LongArray clients;
             for (const ItemDescription& item : description.items) {

@@ -72,6 +72,20 @@ TEST_F(StoreDatabase, OfALaterVersionIsLeftAlone) {
     EXPECT_THAT(failure_to_open(file), HasSubstr("later version"));
 }
 
+TEST_F(StoreDatabase, OfAnEarlierVersionIsBroughtUpToDate) {
+    run(R"(CREATE TABLE server (id INTEGER PRIMARY KEY AUTOINCREMENT, program_id TEXT NOT NULL,
+                                node TEXT NOT NULL DEFAULT '');
+           CREATE TABLE setting (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
+           INSERT INTO server (program_id, node) VALUES ('Simulation.Balance.1', 'LAB');
+           PRAGMA application_id = 1651669075;
+           PRAGMA user_version = 1)");
+    opened()->servers()->set_last_item(1, "Weight");
+    const auto host = opened();
+    ASSERT_EQ(host->servers()->Count(), 1);
+    EXPECT_EQ(host->servers()->at(1).display_text(), "LAB.Simulation.Balance.1");
+    EXPECT_EQ(host->servers()->at(1).last_item(), "Weight");
+}
+
 TEST_F(StoreDatabase, AFolderIsNoDatabase) {
     EXPECT_THAT(failure_to_open(folder.file("")), HasSubstr("it cannot be opened"));
 }

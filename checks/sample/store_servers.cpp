@@ -125,6 +125,19 @@ TEST_F(StoreServers, AreFoundByTheirDisplayText) {
     EXPECT_EQ(servers->find("Simulation.Filling.1"), 0);
 }
 
+TEST_F(StoreServers, RememberTheItemThatWasChosenLast) {
+    EXPECT_EQ(servers->at(1).last_item(), "");
+    servers->set_last_item(1, "Filler.Head 1.Weight");
+    servers->set_last_item(2, "Bottle.Weight");
+    servers->set_last_item(1, "Capper.Torque");
+    EXPECT_EQ(servers->at(1).last_item(), "Capper.Torque");
+    servers->remove(1);
+    const auto again = opened()->servers();
+    EXPECT_EQ(again->at(1).last_item(), "Bottle.Weight");
+    EXPECT_EQ(again->at(2).last_item(), "");
+    EXPECT_EQ(error_of([&] { servers->set_last_item(3, "x"); }), error::subscript_out_of_range);
+}
+
 TEST_F(StoreServers, TheChainOfParentsReachesTheDatabase) {
     const auto owner = resolve<hlxOPCServers>(servers->Item(std::int32_t{1})->Parent());
     EXPECT_EQ(owner.get(), servers.get());

@@ -49,6 +49,8 @@ TEST_F(StoreWriteProtection, LetsServersBeSeenButNotChanged) {
     EXPECT_THAT(host->servers()->LastError(), HasSubstr("it is write-protected"));
     EXPECT_EQ(host->servers()->Count(), 3);
     EXPECT_THROW(host->servers()->remove(1), Error);
+    EXPECT_THROW(host->servers()->set_last_item(1, "Running"), Error);
+    EXPECT_EQ(host->servers()->at(1).last_item(), "");
     EXPECT_EQ(host->servers()->Count(), 3);
 }
 

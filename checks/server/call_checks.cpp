@@ -1,3 +1,4 @@
+#include "com/bstr.h"
 #include "server/debugger_output.h"
 #include "server/dll.h"
 #include "server/error_library.h"
@@ -110,6 +111,24 @@ TEST_F(CallTest, APropertyIsReadAndWrittenByName) {
 TEST_F(CallTest, AnAccessorSaysWhenItIsGivenNowhereToWrite) {
     EXPECT_EQ(dll.create<_ServerSelect>(CLSID_ServerSelect)->get_ServerIndex(nullptr), E_POINTER);
     EXPECT_EQ(dll.create<_ServerAdd>(CLSID_ServerAdd)->get_ServerIndex(nullptr), E_POINTER);
+}
+
+TEST_F(CallTest, AnItemIdentifierIsKeptAsItIsGiven) {
+    const auto leaf = dll.create<_LeafSelect>(CLSID_LeafSelect);
+    Bstr item;
+    EXPECT_EQ(leaf->get_ItemID(item.out()), S_OK);
+    EXPECT_EQ(item.text(), "");
+    // With a NUL, half a surrogate pair and a letter beyond the first plane.
+    const std::wstring odd = std::wstring(L"a") + L'\0' + L"b\xD800 \xD83C\xDFED";
+    const BSTR given = SysAllocStringLen(odd.data(), static_cast<UINT>(odd.size()));
+    EXPECT_EQ(leaf->put_ItemID(given), S_OK);
+    SysFreeString(given);
+    EXPECT_EQ(leaf->get_ItemID(item.out()), S_OK);
+    EXPECT_EQ(std::wstring(item.get(), SysStringLen(item.get())), odd);
+    EXPECT_EQ(leaf->put_ItemID(nullptr), S_OK);
+    EXPECT_EQ(leaf->get_ItemID(item.out()), S_OK);
+    EXPECT_EQ(item.text(), "");
+    EXPECT_EQ(leaf->get_ItemID(nullptr), E_POINTER);
 }
 
 TEST_F(CallTest, AVariableOfAScriptIsTakenByReference) {

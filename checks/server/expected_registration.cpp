@@ -67,9 +67,12 @@ RegistrySnapshot expected_registration(const std::wstring& path) {
                    L"Lets a person find an OPC server on a network node and add it", path);
     lines.of_class(L"brxOpcDlgs6.ServerInformation", L"{26B35663-08AC-4A8B-8777-8D4976EFA5FD}",
                    L"Shows the status of a connected OPC server", path);
+    lines.of_class(L"brxOpcDlgs6.LeafSelect", L"{A9970AA9-B7C3-4AF0-9BB2-5D7481D33CF2}",
+                   L"Lets a person choose one item of an OPC server", path);
     lines.of_interface(L"_ServerSelect", L"{D497772F-7523-4AE5-813E-D8E1B101DB16}");
     lines.of_interface(L"_ServerAdd", L"{D39D5860-BDBE-44D0-A783-8546DEFB1A03}");
     lines.of_interface(L"_ServerInformation", L"{BC765970-03C7-46B7-B24A-66850C251B6D}");
+    lines.of_interface(L"_LeafSelect", L"{699C2C24-157C-42AB-ACCA-5F8F27DFD59A}");
     lines.of_library(path);
     return lines.take();
 }

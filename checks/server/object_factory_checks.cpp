@@ -1,6 +1,6 @@
 #include "com/com_object.h"
+#include "com/inproc/registry.h"
 #include "com/server/com_object_factory.h"
-#include "com/server/registry.h"
 #include "server/class_for_process.h"
 #include "server/dll.h"
 #include "server/script_object.h"

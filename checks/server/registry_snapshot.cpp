@@ -1,6 +1,6 @@
 #include "server/registry_snapshot.h"
 
-#include "com/server/registry.h"
+#include "com/inproc/registry.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
+#include "com/inproc/registry.h"
 #include "com/server/com_error_reporter.h"
-#include "com/server/registry.h"
 #include "common/version.h"
 #include "forms/turn.h"
 #include "server/debugger_output.h"
@@ -30,6 +30,9 @@ protected:
         EXPECT_EQ(result, VARIANT_FALSE);
         result = VARIANT_TRUE;
         EXPECT_EQ(dll.create<_ServerInformation>(CLSID_ServerInformation)->Show(object, &result), S_OK);
+        EXPECT_EQ(result, VARIANT_FALSE);
+        result = VARIANT_TRUE;
+        EXPECT_EQ(dll.create<_LeafSelect>(CLSID_LeafSelect)->Show(object, object, &result), S_OK);
         EXPECT_EQ(result, VARIANT_FALSE);
     }
 
@@ -70,7 +73,8 @@ TEST_F(ReportTest, NothingIsReportedByEachClassAndOpensNoWindow) {
     show_everywhere(nullptr);
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
-                            L"CommonTools.ResolveOPCServer"));
+                            L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
+                            L"CommonTools.ResolveOPCGroup"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }
@@ -81,7 +85,8 @@ TEST_F(ReportTest, AnObjectOfAnotherKindIsReportedByEachClassAndOpensNoWindow) {
     show_everywhere(&other);
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
-                            L"CommonTools.ResolveOPCServer"));
+                            L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
+                            L"CommonTools.ResolveOPCGroup"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }

@@ -92,6 +92,9 @@ TEST_F(TypeLibraryTest, MembersHaveTheirPublishedSlotsNamesAndParameters) {
                 ElementsAre("7 1 get ServerIndex(*2 retval)", "8 1 put ServerIndex(2)",
                             "9 2 Show(hlxOPCServers:9, Result:*11 retval)"));
     EXPECT_THAT(members_of(IID__ServerInformation), ElementsAre("7 1 Show(OPCServer:9, Result:*11 retval)"));
+    EXPECT_THAT(members_of(IID__LeafSelect),
+                ElementsAre("7 1 Show(OPCServer:9, OPCGroup:9, Result:*11 retval)",
+                            "8 2 get ItemID(*8 retval)", "9 2 put ItemID(8)"));
 }
 
 TEST_F(TypeLibraryTest, EverythingInItHasAHelpText) {
@@ -129,7 +132,7 @@ TEST_F(TypeLibraryTest, EveryClassInItCanBeMadeAndHasItsInterfaceAsDefault) {
                   S_OK);
         first->ReleaseTypeAttr(attributes);
     }
-    EXPECT_EQ(classes, 3);
+    EXPECT_EQ(classes, 4);
 }
 
 TEST_F(TypeLibraryTest, TheSlotsAreWhereItSays) {

@@ -54,6 +54,32 @@ void Person::double_clicks(const std::string& list, const std::string& line) {
     must(screen_.double_click(list, find_line(list, line)), "double-click \"" + line + "\" in " + list);
 }
 
+/// The first row whose text, without what shows its level and sign, is this.
+int Person::find_node(const std::string& tree, const std::string& node) {
+    const Lines rows = lines_of(tree);
+    const auto is_it = [&](const std::string& row) {
+        const std::size_t end = row.size() - std::min(row.size(), node.size());
+        if (row.substr(end) != node || end % 2 == 0) return false;
+        const char sign = row[end - 1];
+        return row.find_first_not_of(' ') >= end - 1 && (sign == '+' || sign == '-' || sign == ' ');
+    };
+    const auto found = std::find_if(rows.begin(), rows.end(), is_it);
+    must(found != rows.end(), "find \"" + node + "\" in " + tree);
+    return static_cast<int>(found - rows.begin());
+}
+
+void Person::clicks_node(const std::string& tree, const std::string& node) {
+    must(screen_.choose(tree, find_node(tree, node)), "click \"" + node + "\" in " + tree);
+}
+
+void Person::expands(const std::string& tree, const std::string& node) {
+    must(screen_.expand(tree, find_node(tree, node)), "expand \"" + node + "\" in " + tree);
+}
+
+void Person::collapses(const std::string& tree, const std::string& node) {
+    must(screen_.collapse(tree, find_node(tree, node)), "collapse \"" + node + "\" in " + tree);
+}
+
 void Person::ticks(const std::string& check_box) { must(screen_.toggle(check_box), "tick " + check_box); }
 
 void Person::goes_to(const std::string& control) { must(screen_.focus(control), "go to " + control); }

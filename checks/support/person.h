@@ -35,6 +35,10 @@ public:
     void presses(const std::string& button);
     void picks(const std::string& list, const std::string& line);
     void double_clicks(const std::string& list, const std::string& line);
+    /// Of a tree: a click on the node with this text, or on the sign before it.
+    void clicks_node(const std::string& tree, const std::string& node);
+    void expands(const std::string& tree, const std::string& node);
+    void collapses(const std::string& tree, const std::string& node);
     void ticks(const std::string& check_box);
     void goes_to(const std::string& control);
     /// Goes to the box and replaces what is in it.
@@ -50,6 +54,7 @@ public:
 
 private:
     void must(bool done, const std::string& deed);
+    int find_node(const std::string& tree, const std::string& node);
     int find_line(const std::string& list, const std::string& line);
 
     Screen& screen_;

@@ -21,8 +21,19 @@ std::int16_t Showing::ServerIndex() {
     return index;
 }
 
-void Showing::show(const ObjectPtr& object) {
-    stage_.start([instance = instance_, object] { instance->result = instance->class_object->Show(object); });
+void Showing::set_ItemID(const std::string& item_id) {
+    stage_.start([&] { instance_->class_object->set_ItemID(item_id); });
+}
+
+std::string Showing::ItemID() {
+    std::string item_id;
+    stage_.start([&] { item_id = instance_->class_object->ItemID(); });
+    return item_id;
+}
+
+void Showing::show_with(const std::vector<ObjectPtr>& objects) {
+    stage_.start(
+        [instance = instance_, objects] { instance->result = instance->class_object->Show(objects); });
 }
 
 bool Showing::result() {

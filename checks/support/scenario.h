@@ -10,6 +10,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace brx::checks {
 
@@ -25,11 +26,18 @@ public:
     void set_ServerIndex(std::int16_t index);
     std::int16_t ServerIndex();
 
-    void show(const ObjectPtr& object);
+    void set_ItemID(const std::string& item_id);
+    std::string ItemID();
+
+    /// With the one or two objects that the class is shown with.
+    void show(const ObjectPtr& object) { show_with({object}); }
+    void show(const ObjectPtr& first, const ObjectPtr& second) { show_with({first, second}); }
     /// What the last `show` returned; the story ends here when a dialog is still open.
     bool result();
 
 private:
+    void show_with(const std::vector<ObjectPtr>& objects);
+
     /// Outlives a story that gave up in the middle of `Show`, which still uses it.
     struct Instance {
         std::unique_ptr<PublicClass> class_object;

@@ -13,14 +13,14 @@ namespace brx::checks {
 struct Sight {
     bool exists = false;
     std::string text;               ///< caption, text, or the selected line's text
-    std::vector<std::string> lines; ///< of a list
+    std::vector<std::string> lines; ///< of a list; of a tree the rows in view, see `rows_of`
     int selected = -1;              ///< line of a list, -1 for none; value of a check box
     bool enabled = false;
     bool visible = false;
     bool focused = false;
 };
 
-enum class Key { enter, escape, tab, back_tab, space, up, down, f1, backspace };
+enum class Key { enter, escape, tab, back_tab, space, up, down, left, right, plus, minus, f1, backspace };
 
 /// A screen with dialogs on it, and the hands of a person before it. Deeds return when everything that they
 /// led to is done and the program waits for input again; false when a person could not do it (no such
@@ -42,6 +42,9 @@ public:
     virtual bool press(const std::string& button) = 0; ///< with the mouse
     virtual bool choose(const std::string& list, int line) = 0;
     virtual bool double_click(const std::string& list, int line) = 0;
+    /// A click on the sign before a row of a tree.
+    virtual bool expand(const std::string& tree, int row) = 0;
+    virtual bool collapse(const std::string& tree, int row) = 0;
     virtual bool toggle(const std::string& check_box) = 0;
     virtual bool focus(const std::string& control) = 0; ///< by clicking into it
     virtual bool type(const std::string& text) = 0;     ///< into the control that has the focus

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace brx::checks {
 
@@ -19,7 +20,10 @@ public:
     virtual ~PublicClass() = default;
     virtual std::int16_t ServerIndex() = 0;
     virtual void set_ServerIndex(std::int16_t index) = 0;
-    virtual bool Show(const ObjectPtr& object) = 0;
+    virtual std::string ItemID() = 0;
+    virtual void set_ItemID(const std::string& item_id) = 0;
+    /// With the one or two objects that the class is shown with.
+    virtual bool Show(const std::vector<ObjectPtr>& objects) = 0;
 };
 
 /// Where a scenario plays: a user-interface thread of the program under check, the host's objects handed to

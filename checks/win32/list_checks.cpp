@@ -2,6 +2,7 @@
 
 #include "forms/button.h"
 #include "forms/list_control.h"
+#include "forms/win32/gdi.h"
 #include "forms/win32/wide.h"
 
 namespace brx::checks {
@@ -252,6 +253,30 @@ TEST_F(ListTest, LinesTooLongForTheBoxCanBeScrolledAndDropDownsAreWideEnough) {
     });
 }
 
+TEST_F(ListTest, AListScrollsExactlyAsFarAsItsWidestLineIsWide) {
+    Lists form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Lists");
+        const HWND box = hands.control("Lists", "Box");
+        for (std::wstring widest :
+             {std::wstring(90, L'W'), std::wstring(200, L'i'), std::wstring(80, L'\u0416'),
+              std::wstring(60, L'\u6F22'), L"tab\there and " + std::wstring(120, L'm')}) {
+            int extent = 0;
+            hands.run([&] {
+                form.run_event([&] {
+                    form.Box.clear();
+                    form.Box.add_line("short");
+                    form.Box.add_line(from_wide(widest));
+                    form.Box.add_line("short again");
+                });
+                const TextMeasure measure(box, reinterpret_cast<HFONT>(SendMessageW(box, WM_GETFONT, 0, 0)));
+                extent = measure.width(widest.data(), widest.size()) + 2 * GetSystemMetrics(SM_CXEDGE);
+            });
+            EXPECT_EQ(SendMessageW(box, LB_GETHORIZONTALEXTENT, 0, 0), extent);
+        }
+    });
+}
+
 TEST_F(ListTest, ADropDownListIsAsHighAsDesignedAndDropsForItsLines) {
     Lists form(environment);
     show(form, [&](Hands& hands) {
@@ -271,10 +296,10 @@ TEST_F(ListTest, ADropDownListIsAsHighAsDesignedAndDropsForItsLines) {
             return list.bottom / SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0);
         };
         for (const auto& [lines, expected] : {std::pair{5, 5}, {12, 12}, {200, 20}}) {
-            hands.run([&] {
+            hands.run([&, count = lines] {
                 form.run_event([&] {
                     form.Combo.clear();
-                    for (int i = 0; i < lines; ++i) form.Combo.add_line("line");
+                    for (int i = 0; i < count; ++i) form.Combo.add_line("line");
                 });
             });
             EXPECT_EQ(dropped_lines(), expected);

@@ -121,7 +121,7 @@ TEST_F(ServicesTest, AFormDescribesWhatItsControlsHold) {
                                                     "Tick\tcheck_box\t0\t0\t2\t0\tTick\n"
                                                     "List\tlist_box\t1\t1\t1\t2\ttwo \xF0\x9F\x98\x80\n"
                                                     "Combo\tcombo_box\t1\t1\t-1\t0\t\n"
-                                                    "Area\tpanel\t1\t1\t-1\t0\t\n"
+                                                    "Area\tpanel\t1\t1\t0\t0\t\n"
                                                     "Press\tbutton\t1\t1\t-1\t0\tPress\n"
                                                     "Clock\ttimer\t1\t0\t-1\t0\t\n");
         std::wstring small(8, L'?');

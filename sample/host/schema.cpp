@@ -22,6 +22,7 @@ constexpr std::array steps = {
            name  TEXT PRIMARY KEY,
            value TEXT NOT NULL) WITHOUT ROWID;
        PRAGMA application_id = 1651669075;)",
+    "ALTER TABLE server ADD COLUMN last_item TEXT NOT NULL DEFAULT '';",
 };
 constexpr auto newest = static_cast<std::int64_t>(steps.size());
 

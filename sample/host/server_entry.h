@@ -24,6 +24,8 @@ public:
     std::int64_t id() const { return stored_.id; }
     void set_id(std::int64_t id) { stored_.id = id; }
     std::string display_text() const;
+    const std::string& last_item() const { return stored_.last_item; }
+    void set_last_item(const std::string& item_id) { stored_.last_item = item_id; }
     /// What the server is doing, or why it is not connected, in a few words.
     std::string state_text() const;
 

@@ -4,8 +4,9 @@ namespace brx::host {
 
 std::vector<StoredServer> ServerStore::all() {
     std::vector<StoredServer> servers;
-    Statement select(file_, "SELECT id, program_id, node FROM server ORDER BY id");
-    while (select.step()) servers.push_back({select.number(0), select.text(1), select.text(2)});
+    Statement select(file_, "SELECT id, program_id, node, last_item FROM server ORDER BY id");
+    while (select.step())
+        servers.push_back({select.number(0), select.text(1), select.text(2), select.text(3)});
     return servers;
 }
 
@@ -19,6 +20,10 @@ std::int64_t ServerStore::add(const std::string& program_id, const std::string& 
 
 void ServerStore::remove(std::int64_t id) {
     Statement(file_, "DELETE FROM server WHERE id = ?1").bind(1, id).step();
+}
+
+void ServerStore::set_last_item(std::int64_t id, const std::string& item_id) {
+    Statement(file_, "UPDATE server SET last_item = ?1 WHERE id = ?2").bind(1, item_id).bind(2, id).step();
 }
 
 std::string SettingStore::get(const std::string& name) {

@@ -10,7 +10,8 @@ namespace brx::host {
 struct StoredServer {
     std::int64_t id = 0;
     std::string program_id;
-    std::string node; ///< "" for the local computer
+    std::string node;      ///< "" for the local computer
+    std::string last_item; ///< the item that was last chosen of it; "" for none
 };
 
 /// The configured servers in the database file. Whatever fails changes nothing.
@@ -23,6 +24,7 @@ public:
     /// Gives the new server's number.
     std::int64_t add(const std::string& program_id, const std::string& node);
     void remove(std::int64_t id);
+    void set_last_item(std::int64_t id, const std::string& item_id);
 
 private:
     SqliteFile& file_;

@@ -49,7 +49,7 @@ hlxOPCServerPtr Servers::Add(const std::string& server_name, const std::string& 
     try {
         if (trim(server_name).empty()) throw Error(error::invalid_procedure_call, "The server has no name.");
         ObjectPtr server = connect ? source_->connect(server_name, wanted_node) : nullptr;
-        auto entry = entry_for({0, server_name, wanted_node});
+        auto entry = entry_for({0, server_name, wanted_node, ""});
         if (server) entry->set_connected(std::move(server));
         entries_.reserve(entries_.size() + 1); // nothing may fail once it is stored
         entry->set_id(store_.add(server_name, wanted_node));
@@ -101,6 +101,12 @@ void Servers::remove(std::int32_t position) {
     entry->leave();
     entry->disconnect();
     host_.log().add("Removed " + entry->display_text() + ".");
+}
+
+void Servers::set_last_item(std::int32_t position, const std::string& item_id) {
+    ServerEntry& entry = at(position);
+    store_.set_last_item(entry.id(), item_id);
+    entry.set_last_item(item_id);
 }
 
 void Servers::set_source(std::shared_ptr<OpcSource> source) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "com/server/public_classes.h"
+#include "com/inproc/class_factory.h"
 
 #include <span>
 

@@ -3,6 +3,7 @@
 #include "com/com_object.h"
 #include "com/dual.h"
 #include "com/wire.h"
+#include "common/values/text.h"
 #include "host/host.h"
 #include "objects/site.h"
 #include "objects/wrapper_source.h"
@@ -82,6 +83,12 @@ public:
         return give(result, [&] {
             return number < 1 ? std::string() : site().log.line(static_cast<std::size_t>(number));
         });
+    }
+    STDMETHODIMP get_LastItem(LONG position, BSTR* result) override {
+        return give(result, [&] { return servers()->at(position).last_item(); });
+    }
+    STDMETHODIMP put_LastItem(LONG position, BSTR value) override {
+        return run([&] { servers()->set_last_item(position, text_of(value)); });
     }
 
 private:

@@ -1,30 +1,25 @@
 #include "objects/registration.h"
 
 #include "com/failure.h"
+#include "com/guid_text.h"
+#include "com/inproc/registry.h"
 #include "com/module.h"
-#include "com/server/registry.h"
 #include "objects/classes.h"
 
-#include <array>
+#include <string>
 
 namespace brx::host {
 
 namespace {
 
-constexpr const wchar_t* classes_path = L"Software\\Classes\\";
-
-std::wstring text_of_guid(const GUID& guid) {
-    std::array<wchar_t, 39> text{};
-    StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
+const std::wstring classes_path = std::wstring(classes_key) + L"\\";
 
 struct Keys {
     explicit Keys(const NamedClass& named)
-        : id(text_of_guid(named.made.clsid)),
-          class_key(classes_path + (L"CLSID\\" + id)),
+        : id(guid_text(named.made.clsid)),
+          class_key(classes_path + L"CLSID\\" + id),
           server_key(class_key + L"\\InprocServer32"),
-          name_key(std::wstring(classes_path) + named.name) {}
+          name_key(classes_path + named.name) {}
 
     std::wstring id;
     std::wstring class_key;

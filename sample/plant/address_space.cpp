@@ -14,12 +14,7 @@ std::string joined(const std::string& parent_id, const std::string& name) {
 
 Branch& branch_made(Branch& parent, const std::string& name) {
     const auto known = std::ranges::find(parent.branches, name, &Branch::name);
-    if (known != parent.branches.end()) return *known;
-    Branch& added = parent.branches.emplace_back();
-    added.name = name;
-    added.id = joined(parent.id, name);
-    added.parent = &parent;
-    return added;
+    return known != parent.branches.end() ? *known : AddressSpace::add_branch(parent, name);
 }
 
 } // namespace
@@ -27,19 +22,28 @@ Branch& branch_made(Branch& parent, const std::string& name) {
 AddressSpace::AddressSpace(const ServerDescription& server) {
     for (const ItemDescription& item : server.items) {
         if (server.browsing != Browsing::hierarchical) {
-            add_leaf(root_, item.place, item.place, item.signal);
+            add_leaf(root_, item.place, item.signal);
             continue;
         }
         const std::vector<std::string> names = split(item.place, "/");
         Branch* branch = &root_;
         for (std::size_t i = 0; i + 1 < names.size(); ++i) branch = &branch_made(*branch, names[i]);
-        add_leaf(*branch, names.back(), joined(branch->id, names.back()), item.signal);
+        add_leaf(*branch, names.back(), item.signal);
     }
+    if (server.fill) server.fill(*this);
 }
 
-void AddressSpace::add_leaf(Branch& branch, const std::string& name, const std::string& id,
-                            const Signal& signal) {
-    const Leaf& leaf = branch.leaves.emplace_back(Leaf{name, id, signal});
+Branch& AddressSpace::add_branch(Branch& parent, const std::string& name, const std::string& id) {
+    Branch& added = parent.branches.emplace_back();
+    added.name = name;
+    added.id = id.empty() ? joined(parent.id, name) : id;
+    return added;
+}
+
+void AddressSpace::add_leaf(Branch& branch, const std::string& name, const Signal& signal,
+                            const std::string& id) {
+    const Leaf& leaf =
+        branch.leaves.emplace_back(Leaf{name, id.empty() ? joined(branch.id, name) : id, signal});
     by_id_.emplace(leaf.id, &leaf);
 }
 

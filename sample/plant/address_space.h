@@ -19,7 +19,6 @@ struct Leaf {
 struct Branch {
     std::string name;
     std::string id; ///< "" for the root
-    Branch* parent = nullptr;
     std::deque<Branch> branches;
     std::deque<Leaf> leaves;
 };
@@ -35,9 +34,14 @@ public:
     /// The item with exactly this identifier; null when there is none.
     const Leaf* find(std::string_view id) const;
 
-private:
-    void add_leaf(Branch& branch, const std::string& name, const std::string& id, const Signal& signal);
+    // What builds it. An identifier that is not given is the place joined with full stops; of two items with
+    // one identifier the first is found by it.
+    Branch& root() { return root_; }
+    /// Adds a branch even where there is one of this name.
+    static Branch& add_branch(Branch& parent, const std::string& name, const std::string& id = {});
+    void add_leaf(Branch& branch, const std::string& name, const Signal& signal, const std::string& id = {});
 
+private:
     Branch root_;
     std::unordered_map<std::string_view, const Leaf*> by_id_;
 };

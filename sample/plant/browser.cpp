@@ -14,7 +14,16 @@ constexpr std::int32_t flat = 2;
 } // namespace
 
 Browser::Browser(std::shared_ptr<Server> server, const std::shared_ptr<Connection>& connection)
-    : server_(std::move(server)), connection_(connection), space_(connection->space) {}
+    : server_(std::move(server)),
+      connection_(connection),
+      description_(*connection->place().server),
+      space_(connection->space()) {}
+
+void Browser::answer() {
+    const BrowserManners& manners = description_.browser;
+    if (manners.answers_after.count() > 0) server_->clock().wait(manners.answers_after);
+    if (manners.fails_every > 0 && ++calls_ % manners.fails_every == 0) throw failure(com_error::unspecified);
+}
 
 std::shared_ptr<Connection> Browser::connection() const {
     auto connection = connection_.lock();
@@ -22,29 +31,41 @@ std::shared_ptr<Connection> Browser::connection() const {
     return connection;
 }
 
-bool Browser::is_flat() const { return connection()->place.server->browsing != Browsing::hierarchical; }
+std::int32_t Browser::Organization() {
+    answer();
+    static_cast<void>(connection());
+    return description_.browsing == Browsing::hierarchical ? hierarchical : flat;
+}
 
-std::int32_t Browser::Organization() { return is_flat() ? flat : hierarchical; }
-
-std::int32_t Browser::Count() { return static_cast<std::int32_t>(list_.size()); }
+std::int32_t Browser::Count() {
+    answer();
+    return static_cast<std::int32_t>(list_.size());
+}
 
 std::string Browser::Item(std::int32_t index) {
-    if (index < 1 || index > Count()) throw failure(com_error::invalid_argument);
-    return *list_[static_cast<std::size_t>(index - 1)];
+    answer();
+    if (index < 1 || static_cast<std::size_t>(index) > list_.size())
+        throw failure(com_error::invalid_argument);
+    const std::string* const name = list_[static_cast<std::size_t>(index - 1)];
+    const int drops_every = description_.browser.drops_every;
+    if (drops_every > 0 && ++names_read_ % drops_every == 0) list_.pop_back();
+    return *name;
 }
 
 void Browser::ShowBranches() {
+    answer();
     list_.clear();
-    const auto current = connection();
+    const Branch& here = connection()->position();
     // Some flat servers answer with what they have, whatever they are asked for.
-    if (current->place.server->browsing == Browsing::flat) list_all_below(*current->position);
-    for (const Branch& branch : current->position->branches) list_.push_back(&branch.name);
+    if (description_.browsing == Browsing::flat) list_all_below(here);
+    for (const Branch& branch : here.branches) list_.push_back(&branch.name);
 }
 
 void Browser::ShowLeafs(bool flattened) {
+    answer();
     list_.clear();
-    const Branch& here = *connection()->position;
-    if (flattened || is_flat()) return list_all_below(here);
+    const Branch& here = connection()->position();
+    if (flattened || description_.browsing != Browsing::hierarchical) return list_all_below(here);
     for (const Leaf& leaf : here.leaves) list_.push_back(&leaf.name);
 }
 
@@ -54,29 +75,31 @@ void Browser::list_all_below(const Branch& branch) {
 }
 
 void Browser::MoveToRoot() {
+    answer();
     list_.clear();
-    const auto current = connection();
-    current->position = &current->space->root();
+    connection()->move_to(space_->root());
 }
 
 void Browser::MoveTo(const StringArray& branches) {
-    MoveToRoot();
+    answer();
+    list_.clear();
     const auto current = connection();
+    current->move_to(space_->root());
     for (const std::string& name : branches.elements) {
         if (name.empty()) continue;
-        const Branch* next = branch_below(*current->position, name);
+        const Branch* next = branch_below(current->position(), name);
         if (!next) throw failure(com_error::invalid_argument);
-        current->position = next;
+        current->move_to(*next);
     }
 }
 
 std::string Browser::GetItemID(const std::string& leaf) {
-    const auto current = connection();
-    const Branch& here = *current->position;
+    answer();
+    const Branch& here = connection()->position();
     const auto below = std::ranges::find(here.leaves, leaf, &Leaf::name);
     if (below != here.leaves.end()) return below->id;
     if (const Branch* branch = branch_below(here, leaf)) return branch->id;
-    if (const Leaf* item = current->space->find(leaf)) return item->id;
+    if (const Leaf* item = space_->find(leaf)) return item->id;
     throw failure(opc_error::unknown_item_id);
 }
 

@@ -24,14 +24,18 @@ public:
     std::string GetItemID(const std::string& leaf) override;
 
 private:
+    /// Every call begins so: it takes as long as the server takes, and may fail.
+    void answer();
     std::shared_ptr<Connection> connection() const;
-    bool is_flat() const;
     void list_all_below(const Branch& branch);
 
     std::shared_ptr<Server> server_;
     std::weak_ptr<Connection> connection_;
+    const ServerDescription& description_;
     AddressSpacePtr space_; ///< keeps what the list refers to
     std::vector<const std::string*> list_;
+    int calls_ = 0;
+    int names_read_ = 0;
 };
 
 } // namespace brx::plant

@@ -23,11 +23,22 @@ enum class Browsing {
     none,             ///< no browser at all
 };
 
+/// How a server's browser tries the patience of whoever uses it.
+struct BrowserManners {
+    std::chrono::milliseconds answers_after{0}; ///< what each call takes
+    int fails_every = 0;                        ///< every so many calls one fails; 0 for never
+    int drops_every = 0; ///< a list loses its last name whenever so many were read; 0 for never
+};
+
+class AddressSpace;
+
 struct ServerDescription {
     const char* program_id;
     const char* vendor;
     Browsing browsing = Browsing::hierarchical;
     std::span<const ItemDescription> items = {};
+    void (*fill)(AddressSpace&) = nullptr; ///< adds what is generated rather than listed, on the first use
+    BrowserManners browser = {};
     std::int16_t major = 1;
     std::int16_t minor = 0;
     std::int16_t build = 0;

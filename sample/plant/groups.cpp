@@ -42,17 +42,23 @@ OPCGroupPtr Groups::Item(const Variant& item_specifier) {
     return keep_with(server_->shared_from_this(), groups_[position]);
 }
 
-std::shared_ptr<Group> Groups::Add(const std::string& name) {
+std::shared_ptr<Group> Groups::make(const std::string& name) {
     if (!server_) throw failure(com_error::unspecified);
     const std::int32_t handle = server_->connection().new_handle();
     const std::string wanted = name.empty() ? "Group" + std::to_string(handle) : name;
-    if (find(wanted) != groups_.end()) throw failure(opc_error::duplicate_name);
+    if (std::ranges::any_of(groups_, [&](const auto& group) { return group->Name() == wanted; }))
+        throw failure(opc_error::duplicate_name);
     const auto& added = groups_.emplace_back(std::make_shared<Group>(*server_, wanted, handle));
     return keep_with(server_->shared_from_this(), added);
 }
 
-void Groups::Remove(const std::string& name) {
-    const auto group = find(name);
+void Groups::Remove(const Variant& item_specifier) {
+    const auto* const handle = std::get_if<std::int32_t>(&item_specifier);
+    const auto* const name = std::get_if<std::string>(&item_specifier);
+    const auto is_meant = [&](const auto& group) {
+        return handle ? group->ServerHandle() == *handle : name && group->Name() == *name;
+    };
+    const auto group = std::ranges::find_if(groups_, is_meant);
     if (group == groups_.end()) throw failure(com_error::invalid_argument);
     (*group)->remove();
     groups_.erase(group);
@@ -66,10 +72,6 @@ void Groups::RemoveAll() {
 void Groups::leave_server() {
     RemoveAll();
     server_ = nullptr;
-}
-
-std::vector<std::shared_ptr<Group>>::iterator Groups::find(const std::string& name) {
-    return std::ranges::find_if(groups_, [&](const auto& group) { return group->Name() == name; });
 }
 
 } // namespace brx::plant

@@ -36,18 +36,17 @@ public:
 
     std::int32_t Count() override { return static_cast<std::int32_t>(groups_.size()); }
     OPCGroupPtr Item(const Variant& item_specifier) override;
+    /// Fails when the name is taken.
+    OPCGroupPtr Add(const std::optional<std::string>& name) override { return make(name.value_or("")); }
+    void RemoveAll() override;
+    void Remove(const Variant& item_specifier) override;
 
-    /// A new group; a name is made up for "". Fails when the name is taken.
-    std::shared_ptr<Group> Add(const std::string& name);
-    /// By name.
-    void Remove(const std::string& name);
-    void RemoveAll();
+    /// The same as Add, with the members that only the host uses; a name is made up for "".
+    std::shared_ptr<Group> make(const std::string& name);
     /// Called as the server goes.
     void leave_server();
 
 private:
-    std::vector<std::shared_ptr<Group>>::iterator find(const std::string& name);
-
     Server* server_;
     std::vector<std::shared_ptr<Group>> groups_;
 };

@@ -106,9 +106,9 @@ std::int16_t Item::CanonicalDataType() { return static_cast<std::int16_t>(leaf()
 Reading Item::read() const {
     const Leaf& source = leaf();
     const Server& server = group_->server();
-    const Date time = server.now();
+    const Date time = server.clock().now();
     if (!active_) return {Empty{}, bad_out_of_service, time};
-    const std::uint64_t seed = server.connection().place.seed ^ seed_of(source.id);
+    const std::uint64_t seed = server.connection().place().seed ^ seed_of(source.id);
     return {value_at(source.signal, seed, time), good, time};
 }
 
@@ -131,13 +131,13 @@ AddedItems Items::AddItems(const StringArray& item_ids, const LongArray& client_
     const std::size_t count = item_ids.elements.size();
     if (client_handles.elements.size() < count) throw failure(com_error::invalid_argument);
     AddedItems added;
-    added.Errors = objections(*connection.space, item_ids, requested_data_types, access_paths);
+    added.Errors = objections(*connection.space(), item_ids, requested_data_types, access_paths);
     for (std::size_t i = 0; i < count; ++i) {
         std::int32_t handle = 0;
         if (added.Errors.elements[i] == 0) {
             handle = connection.new_handle();
             items_.push_back(std::make_shared<plant::Item>(
-                group_, *connection.space->find(item_ids.elements[i]), handle, client_handles.elements[i]));
+                group_, *connection.space()->find(item_ids.elements[i]), handle, client_handles.elements[i]));
         }
         added.ServerHandles.elements.push_back(handle);
     }
@@ -162,7 +162,7 @@ LongArray Items::Remove(const LongArray& server_handles) {
 
 LongArray Items::Validate(const StringArray& item_ids, const std::optional<ShortArray>& requested_data_types,
                           const std::optional<StringArray>& access_paths) {
-    return objections(*group_.server().connection().space, item_ids, requested_data_types, access_paths);
+    return objections(*group_.server().connection().space(), item_ids, requested_data_types, access_paths);
 }
 
 std::shared_ptr<plant::Item> Items::by_handle(std::int32_t server_handle) {

@@ -1,5 +1,6 @@
-#include "plant/description.h"
 #include "plant/opc_errors.h"
+#include "plant/signals.h"
+#include "plant/test_bench.h"
 
 #include <array>
 
@@ -8,24 +9,6 @@ namespace brx::plant {
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr Signal measured(double low, double high, double period = 2, Type type = Type::single) {
-    return {type, Wave::measured, low, high, period, {}};
-}
-constexpr Signal wave(double low, double high, double period, Type type = Type::real) {
-    return {type, Wave::sine, low, high, period, {}};
-}
-constexpr Signal steady(double value, Type type = Type::long_integer) {
-    return {type, Wave::steady, value, value, 60, {}};
-}
-constexpr Signal counted(double period, Type type = Type::long_integer) {
-    return {type, Wave::counted, 0, 0, period, {}};
-}
-constexpr Signal on_off(double period) { return {Type::boolean, Wave::square, 0, 1, period, {}}; }
-constexpr Signal stamp(double period) { return {Type::date, Wave::clock, 0, 0, period, {}}; }
-constexpr Signal one_of(std::span<const char* const> texts, double period) {
-    return {Type::text, Wave::ramp, 0, static_cast<double>(texts.size() - 1), period, texts};
-}
 
 constexpr auto verdicts = std::to_array<const char*>({"Good", "Good", "Good", "Rework", "Scrap"});
 constexpr auto batches = std::to_array<const char*>({"B-2041", "B-2042", "B-2043"});
@@ -212,17 +195,19 @@ constexpr auto warehouse_servers = std::to_array<ServerDescription>({
      .hours_up = 2190.5},
 });
 
-constexpr auto nodes = std::to_array<NodeDescription>({
-    {.name = "", .servers = local_servers},
-    {.name = "LINE1", .servers = line1_servers, .answers_after = 150ms},
-    {.name = "LAB", .servers = lab_servers, .answers_after = 250ms},
-    {.name = "WAREHOUSE", .servers = warehouse_servers, .answers_after = 2500ms},
-    {.name = "OFFICE", .answers_after = 100ms},
-    {.name = "GATEWAY", .answers_after = 200ms, .refusal = com_error::access_denied},
-});
-
 } // namespace
 
-std::span<const NodeDescription> sample_plant() { return nodes; }
+std::span<const NodeDescription> sample_plant() {
+    static const auto nodes = std::to_array<NodeDescription>({
+        {.name = "", .servers = local_servers},
+        {.name = "LINE1", .servers = line1_servers, .answers_after = 150ms},
+        {.name = "LAB", .servers = lab_servers, .answers_after = 250ms},
+        {.name = "WAREHOUSE", .servers = warehouse_servers, .answers_after = 2500ms},
+        {.name = "OFFICE", .answers_after = 100ms},
+        {.name = "GATEWAY", .answers_after = 200ms, .refusal = com_error::access_denied},
+        {.name = "TESTBENCH", .servers = test_bench(), .answers_after = 50ms},
+    });
+    return nodes;
+}
 
 } // namespace brx::plant

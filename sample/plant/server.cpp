@@ -17,6 +17,11 @@ constexpr Date never{-109205};
 
 } // namespace
 
+const AddressSpacePtr& Connection::space() {
+    if (!space_) space_ = plant_->address_space(*place_.server);
+    return space_;
+}
+
 Server::Server(std::shared_ptr<Plant> plant)
     : plant_(std::move(plant)), groups_(std::make_shared<Groups>(*this)) {}
 
@@ -24,11 +29,7 @@ Server::~Server() { groups_->leave_server(); }
 
 void Server::Connect(const std::string& program_id, const std::string& node) {
     Disconnect();
-    auto connection = std::make_shared<Connection>();
-    connection->place = plant_->reach(program_id, node);
-    connection->space = plant_->address_space(*connection->place.server);
-    connection->position = &connection->space->root();
-    connection_ = std::move(connection);
+    connection_ = std::make_shared<Connection>(plant_, plant_->reach(program_id, node));
 }
 
 void Server::Disconnect() {
@@ -41,19 +42,17 @@ Connection& Server::connection() const {
     return *connection_;
 }
 
-Date Server::now() const { return plant_->clock().now(); }
-
-Date Server::StartTime() { return connection().place.started; }
+Date Server::StartTime() { return connection().place().started; }
 
 Date Server::CurrentTime() {
     static_cast<void>(connection());
-    return now();
+    return clock().now();
 }
 
 Date Server::LastUpdateTime() {
     const double period = description().update_seconds;
     if (period <= 0) return never;
-    return {std::floor(now().days * seconds_per_day / period) * period / seconds_per_day};
+    return {std::floor(clock().now().days * seconds_per_day / period) * period / seconds_per_day};
 }
 
 std::int16_t Server::MajorVersion() { return description().major; }
@@ -62,7 +61,7 @@ std::int16_t Server::BuildNumber() { return description().build; }
 std::string Server::VendorInfo() { return description().vendor; }
 std::int32_t Server::ServerState() { return connection_ ? description().state : server_state::disconnected; }
 std::string Server::ServerName() { return connection_ ? description().program_id : ""; }
-std::string Server::ServerNode() { return connection_ ? connection_->place.node : ""; }
+std::string Server::ServerNode() { return connection_ ? connection_->place().node : ""; }
 std::int32_t Server::Bandwidth() { return description().bandwidth; }
 
 std::shared_ptr<Groups> Server::groups() { return keep_with(shared_from_this(), groups_); }

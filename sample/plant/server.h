@@ -8,13 +8,26 @@ namespace brx::plant {
 class Groups;
 
 /// What one connection has in common: the position of its browsers and its items' handles.
-struct Connection {
-    ServerOnNode place;
-    AddressSpacePtr space;
-    const Branch* position = nullptr; ///< shared by all browsers of the connection
-    std::int32_t next_handle = 1;     ///< for groups and items alike
+class Connection {
+public:
+    Connection(std::shared_ptr<Plant> plant, ServerOnNode place)
+        : plant_(std::move(plant)), place_(std::move(place)) {}
 
-    std::int32_t new_handle() { return next_handle++; }
+    const ServerOnNode& place() const { return place_; }
+    /// Built with the first use, for a large one takes its time.
+    const AddressSpacePtr& space();
+    /// Where all browsers of the connection stand.
+    const Branch& position() { return position_ ? *position_ : space()->root(); }
+    void move_to(const Branch& branch) { position_ = &branch; }
+    /// For groups and items alike.
+    std::int32_t new_handle() { return next_handle_++; }
+
+private:
+    std::shared_ptr<Plant> plant_;
+    ServerOnNode place_;
+    AddressSpacePtr space_;
+    const Branch* position_ = nullptr; ///< null for the root
+    std::int32_t next_handle_ = 1;
 };
 
 /// A simulated OPC automation server. Not connected it can list the servers of a node; what needs a
@@ -51,10 +64,10 @@ public:
     Connection& connection() const;
     /// The groups with the members that only the host uses.
     std::shared_ptr<Groups> groups();
-    Date now() const;
+    Clock& clock() const { return plant_->clock(); }
 
 private:
-    const ServerDescription& description() const { return *connection().place.server; }
+    const ServerDescription& description() const { return *connection().place().server; }
 
     std::shared_ptr<Plant> plant_;
     std::shared_ptr<Connection> connection_;

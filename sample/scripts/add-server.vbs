@@ -1,7 +1,7 @@
 ' Lets a person find an OPC server on a node and add it to the sample host's configured servers.
 '
 ' Registration and use are as told in select-server.vbs. Nodes of the simulated plant: LINE1, LAB, WAREHOUSE (slow),
-' OFFICE (none), GATEWAY (refuses); empty is this computer.
+' OFFICE (none), GATEWAY (refuses), TESTBENCH (hard to browse); empty is this computer.
 '
 ' Exit status: 0 a server was added, 1 none was.
 

@@ -27,7 +27,7 @@ void Guide::step(const std::string& telling, const std::string& picture, const s
     std::printf("%2d. %s\n", steps_, telling.c_str());
     std::fflush(stdout);
     doing();
-    Program::wait_until(outcome, come_out);
+    program_.wait_until(outcome, come_out);
     take_picture(picture);
 }
 
@@ -42,9 +42,9 @@ void Guide::take_picture(const std::string& name) {
     std::fflush(stdout);
     const std::wstring path =
         folder_ + L"\\" + std::wstring(file, file + std::char_traits<char>::length(file));
-    Program::wait_until(
+    program_.wait_until(
         L"the picture " + path, [&] { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; },
-        30);
+        1200);
 }
 
 } // namespace tour

@@ -10,7 +10,7 @@ namespace tour {
 /// Tells each step on the terminal and has a picture taken of how it came out.
 class Guide {
 public:
-    Guide(Program& program, std::wstring picture_folder)
+    Guide(const Program& program, std::wstring picture_folder)
         : program_(program), folder_(std::move(picture_folder)) {}
 
     /// One step: what is told, what is done, and what must have come of it. The picture, NN-`picture`.png,
@@ -19,11 +19,11 @@ public:
               const std::wstring& outcome, const std::function<bool()>& come_out);
 
     int steps() const { return steps_; }
-
-private:
+    /// NN-`name`.png, beside the steps' own.
     void take_picture(const std::string& name);
 
-    Program& program_;
+private:
+    const Program& program_;
     std::wstring folder_;
     int steps_ = 0;
 };

@@ -29,38 +29,30 @@ public:
     std::wstring front_name() const;
     /// A control of the window in front. Throws when there is none of this name.
     HWND control(const std::wstring& name) const;
+    HANDLE handle() const { return process_.hProcess; }
 
-    /// Waits, some seconds at most, until `fulfilled`; throws with `what` when that does not come.
-    static void wait_until(const std::wstring& what, const std::function<bool()>& fulfilled,
-                           int seconds = 15);
+    /// Waits until `fulfilled`; throws with `what` when that does not come although the program has answered
+    /// so often, at most 20 times a second. Seconds do not count: on a busy computer it may take any time
+    /// until it has its turn. A disappointment on the way means that it is not fulfilled yet.
+    void wait_until(const std::wstring& what, const std::function<bool()>& fulfilled,
+                    int answers = 300) const;
+    /// Whether it does something else than to wait for input.
+    bool is_busy() const;
 
     /// Waits for the program to end by itself and gives its exit code.
-    DWORD wait_for_end();
+    DWORD wait_for_end() const;
 
 private:
     std::vector<HWND> windows() const;
+    bool answers_within(UINT milliseconds) const;
+    bool has_ended() const;
 
     PROCESS_INFORMATION process_{};
 };
 
 std::wstring name_of(HWND window);
-std::wstring text_of(HWND window);
-/// The lines of a list box or a combo box.
-std::vector<std::wstring> lines_of(HWND list);
-/// The text of a message box.
-std::wstring message_of(HWND box);
 
-/// Whether the window's program does something else than to wait for input.
-bool is_busy(HWND window);
-
-void press(HWND button);
-void type(HWND box, const std::wstring& text);
-void click_into(HWND control);
-/// How many rows a list view has.
-long rows_of(HWND list_view);
-void hit(HWND control, WPARAM key);
-/// Clicks on a line of a list box.
-void click_line(HWND list, int line);
-void close(HWND window);
+/// Sends a message and waits for the answer; throws when none comes.
+LRESULT ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 
 } // namespace tour

@@ -65,6 +65,16 @@ std::wstring HostModel::display_text(long position) const {
     return node.text().empty() ? name.text() : node.text() + L"." + name.text();
 }
 
+std::wstring HostModel::last_item(long position) const {
+    Text item;
+    check(host_->get_LastItem(position, item.out()));
+    return item.text();
+}
+
+void HostModel::remember_item(long position, const std::wstring& item) {
+    check(host_->put_LastItem(position, Text(item).get()));
+}
+
 bool HostModel::connect(long position) {
     VARIANT_BOOL connected = VARIANT_FALSE;
     check(host_->Connect(position, &connected));

@@ -35,6 +35,10 @@ public:
     std::wstring state_text(long position) const;
     std::wstring display_text(long position) const;
 
+    /// The item that was last chosen of the server; "" for none.
+    std::wstring last_item(long position) const;
+    void remember_item(long position, const std::wstring& item);
+
     bool connect(long position);
     void remove(long position);
     bool uses_wrapper() const;

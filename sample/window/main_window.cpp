@@ -16,8 +16,8 @@ constexpr UINT_PTR refresh_timer = 1;
 constexpr UINT refresh_milliseconds = 1000;
 
 /// So many pixels at 96 DPI.
-constexpr SIZE first_size{800, 500};
-constexpr SIZE least_size{560, 380};
+constexpr SIZE first_size{800, 540};
+constexpr SIZE least_size{560, 460};
 
 BOOL CALLBACK forget_each(HWND control, LPARAM) {
     forget_name(control);
@@ -77,7 +77,7 @@ bool MainWindow::start() {
     dialogs_found_ = check_dialogs();
     refresh();
     list_.select(1);
-    enable_commands();
+    show_selection();
     SetTimer(window_, refresh_timer, refresh_milliseconds, nullptr);
     return true;
 }
@@ -147,7 +147,10 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         refresh();
         return 0;
     case WM_COMMAND:
-        command(LOWORD(wparam));
+        if (lparam != 0 && HIWORD(wparam) != BN_CLICKED)
+            focus_moved(LOWORD(wparam), HIWORD(wparam));
+        else
+            command(LOWORD(wparam));
         return 0;
     case WM_NOTIFY:
         return notified(lparam);
@@ -162,9 +165,8 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         SetFocus(lparam != 0 ? reinterpret_cast<HWND>(wparam)
                              : GetNextDlgTabItem(window_, GetFocus(), wparam != 0));
         return 0;
-    // Enter means what a double click means.
     case DM_GETDEFID:
-        return MAKELRESULT(ID_INFORMATION, DC_HASDEFID);
+        return MAKELRESULT(default_button_, DC_HASDEFID);
     case WM_DESTROY:
         KillTimer(window_, refresh_timer);
         EnumChildWindows(window_, forget_each, 0);
@@ -187,7 +189,7 @@ LRESULT MainWindow::notified(LPARAM parameter) {
         command(ID_INFORMATION);
         break;
     case LVN_ITEMCHANGED:
-        enable_commands();
+        show_selection();
         break;
     case LVN_KEYDOWN:
         if (reinterpret_cast<const NMLVKEYDOWN*>(parameter)->wVKey == VK_DELETE) command(ID_REMOVE);

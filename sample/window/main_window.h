@@ -33,9 +33,11 @@ private:
     LRESULT notified(LPARAM parameter);
 
     void create_controls();
+    void focus_moved(WORD control, WORD notification);
     void use_font();
     void lay_out();
-    void enable_commands();
+    /// Lets the commands and the last item follow the selected server.
+    void show_selection();
     void refresh();
     void show_log();
 
@@ -43,6 +45,7 @@ private:
     void select_server();
     void add_server();
     void show_information();
+    void browse_items();
     void connect();
     void remove();
     void use_wrapper(bool wrapper);
@@ -52,6 +55,8 @@ private:
     void centre();
     bool start();
     int ask(const std::wstring& text, UINT style) const;
+    /// The automation server; none, after telling that it is not connected.
+    Ref<IDispatch> connected_server(long position, const wchar_t* purpose) const;
 
     HWND child(int id) const { return GetDlgItem(window_, id); }
 
@@ -60,6 +65,7 @@ private:
     HWND focus_ = nullptr;
     HACCEL keys_ = nullptr;
     UINT dpi_ = 96;
+    int default_button_ = 0; ///< what Enter presses
     Font font_;
     ServerList list_;
     std::optional<HostModel> model_;

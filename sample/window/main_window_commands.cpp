@@ -1,5 +1,6 @@
 #include "window/main_window.h"
 
+#include "window/item_group.h"
 #include "window/resource.h"
 
 #include <brxOpcDlgs6.h>
@@ -49,6 +50,9 @@ void MainWindow::command(int id) {
     case ID_INFORMATION:
         show_information();
         break;
+    case ID_BROWSE:
+        browse_items();
+        break;
     case ID_CONNECT:
         connect();
         break;
@@ -71,7 +75,7 @@ void MainWindow::command(int id) {
         return;
     }
     refresh();
-    enable_commands();
+    show_selection();
 }
 
 void MainWindow::select_server() {
@@ -109,21 +113,47 @@ void MainWindow::add_server() {
                 L".");
 }
 
+Ref<IDispatch> MainWindow::connected_server(long position, const wchar_t* purpose) const {
+    auto server = model_->automation_server(position);
+    if (!server)
+        ask(model_->display_text(position) + L"\n\n" + model_->state_text(position) +
+                L"\n\nConnect it again to " + purpose + L".",
+            MB_OK | MB_ICONINFORMATION);
+    return server;
+}
+
 void MainWindow::show_information() {
     const long position = list_.selected();
     if (!dialogs_found_ || position == 0) return;
-    const auto server = model_->automation_server(position);
-    if (!server) {
-        ask(model_->display_text(position) + L"\n\n" + model_->state_text(position) +
-                L"\n\nConnect it again to see its information.",
-            MB_OK | MB_ICONINFORMATION);
-        return;
-    }
+    const auto server = connected_server(position, L"see its information");
+    if (!server) return;
     const auto dialog = create<_ServerInformation>(L"brxOpcDlgs6.ServerInformation");
     VARIANT_BOOL shown = VARIANT_FALSE;
     check(dialog->Show(server.get(), &shown));
     model_->log(L"Server information: " + model_->display_text(position) +
                 (shown != VARIANT_FALSE ? L" shown." : L" could not be shown."));
+}
+
+void MainWindow::browse_items() {
+    const long position = list_.selected();
+    if (!dialogs_found_ || position == 0) return;
+    const auto server = connected_server(position, L"browse its items");
+    if (!server) return;
+    const auto dialog = create<_LeafSelect>(L"brxOpcDlgs6.LeafSelect");
+    check(dialog->put_ItemID(Text(model_->last_item(position)).get()));
+    VARIANT_BOOL chosen = VARIANT_FALSE;
+    {
+        const ItemGroup group(server);
+        check(dialog->Show(server.get(), group.get(), &chosen));
+    }
+    if (chosen == VARIANT_FALSE) {
+        model_->log(L"Browse items: nothing chosen.");
+        return;
+    }
+    Text item;
+    check(dialog->get_ItemID(item.out()));
+    model_->log(L"Browse items: " + item.text() + L" of " + model_->display_text(position) + L".");
+    model_->remember_item(position, item.text());
 }
 
 void MainWindow::connect() {
@@ -155,7 +185,8 @@ void MainWindow::about() {
             model_->database_file() +
             L"\nand shows the dialogs through COM, like any other host.\n\nThe simulated plant has servers "
             L"on this "
-            L"computer and on the nodes LINE1, LAB, WAREHOUSE (slow), OFFICE (none) and GATEWAY (refuses).",
+            L"computer and on the nodes LINE1, LAB, WAREHOUSE (slow), OFFICE (none), GATEWAY (refuses) and "
+            L"TESTBENCH (hard to browse).",
         MB_OK | MB_ICONINFORMATION);
 }
 
@@ -163,8 +194,9 @@ int MainWindow::ask(const std::wstring& text, UINT style) const {
     return MessageBoxW(window_, text.c_str(), L"OPC Collection Sample Host", style);
 }
 
-void MainWindow::enable_commands() {
-    const bool chosen = list_.selected() != 0;
+void MainWindow::show_selection() {
+    const long position = list_.selected();
+    const bool chosen = position != 0;
     const bool wrapper = model_ && model_->uses_wrapper();
     const HMENU menu = GetMenu(window_);
     const auto enable = [&](int id, bool enabled) {
@@ -174,11 +206,13 @@ void MainWindow::enable_commands() {
     enable(ID_SELECT, dialogs_found_);
     enable(ID_ADD, dialogs_found_);
     enable(ID_INFORMATION, dialogs_found_ && chosen);
+    enable(ID_BROWSE, dialogs_found_ && chosen);
     enable(ID_CONNECT, chosen);
     enable(ID_REMOVE, chosen);
     CheckMenuRadioItem(menu, ID_PLANT, ID_WRAPPER, wrapper ? ID_WRAPPER : ID_PLANT, MF_BYCOMMAND);
-    const HWND status = child(ID_STATUS);
     if (!model_) return;
+    SetWindowTextW(child(ID_ITEM), chosen ? model_->last_item(position).c_str() : L"");
+    const HWND status = child(ID_STATUS);
     SendMessageW(status, SB_SETTEXTW, 0, reinterpret_cast<LPARAM>((L" " + model_->database_file()).c_str()));
     SendMessageW(status, SB_SETTEXTW, 1,
                  reinterpret_cast<LPARAM>(wrapper ? L" OPC automation wrapper" : L" Simulated plant"));

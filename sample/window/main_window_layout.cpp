@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
 
 namespace sample {
@@ -20,9 +21,13 @@ constexpr std::array buttons = {
     Button{ID_SELECT, L"&Select Server...", L"bnSelect", false},
     Button{ID_ADD, L"&Add Server...", L"bnAdd", false},
     Button{ID_INFORMATION, L"Server &Information...", L"bnInformation", true},
+    Button{ID_BROWSE, L"&Browse Items...", L"bnBrowse", false},
     Button{ID_CONNECT, L"&Connect Again", L"bnConnect", false},
     Button{ID_REMOVE, L"&Remove", L"bnRemove", false},
 };
+
+/// Where no button has the focus, Enter means what a double click in the list means.
+constexpr int usual_default = ID_INFORMATION;
 
 // Lengths at 96 DPI.
 constexpr int margin = 11;
@@ -31,6 +36,8 @@ constexpr int label_height = 15;
 constexpr int below_label = 4;
 constexpr int button_width = 144;
 constexpr int button_height = 23;
+constexpr int box_height = 23;
+constexpr int item_label_width = 62;
 constexpr int log_height = 112;
 
 HWND make(HWND parent, const wchar_t* kind, const wchar_t* text, DWORD style, int id, const wchar_t* name,
@@ -61,9 +68,13 @@ void MainWindow::create_controls() {
     list_.create(window_, ID_SERVERS);
     name_window(list_.handle(), L"lstServers");
     for (const Button& button : buttons) {
-        const DWORD style = button.id == ID_INFORMATION ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        make(window_, WC_BUTTONW, button.caption, style | WS_TABSTOP, button.id, button.name);
+        const DWORD style = button.id == usual_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        make(window_, WC_BUTTONW, button.caption, style | BS_NOTIFY | WS_TABSTOP, button.id, button.name);
     }
+    default_button_ = usual_default;
+    make(window_, WC_STATICW, L"Last i&tem:", 0, ID_ITEM_LABEL, L"lblItem");
+    make(window_, WC_EDITW, L"", WS_TABSTOP | ES_AUTOHSCROLL | ES_READONLY, ID_ITEM, L"txtItem",
+         WS_EX_CLIENTEDGE);
     make(window_, WC_STATICW, L"&Log:", 0, ID_LOG_LABEL, L"lblLog");
     const HWND log =
         make(window_, WC_EDITW, L"", WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
@@ -71,6 +82,16 @@ void MainWindow::create_controls() {
     SetWindowSubclass(log, log_procedure, 0, 0);
     SendMessageW(log, EM_SETLIMITTEXT, 0, 0);
     make(window_, STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, ID_STATUS, L"stbStatus");
+}
+
+void MainWindow::focus_moved(WORD control, WORD notification) {
+    if (notification != BN_SETFOCUS && notification != BN_KILLFOCUS) return;
+    if (std::ranges::find(buttons, int{control}, &Button::id) == buttons.end()) return;
+    const int wanted = notification == BN_SETFOCUS ? int{control} : usual_default;
+    if (wanted == default_button_) return;
+    SendMessageW(child(default_button_), BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    SendMessageW(child(wanted), BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    default_button_ = wanted;
 }
 
 void MainWindow::use_font() {
@@ -96,17 +117,23 @@ void MainWindow::lay_out() {
     const int buttons_left = right - px(button_width);
     const int list_top = px(margin + label_height + below_label);
     const int log_top = bottom - px(margin + log_height);
-    const int list_bottom = log_top - px(margin + label_height + below_label);
+    const int log_label_top = log_top - px(label_height + below_label);
+    const int item_top = log_label_top - px(margin + box_height);
+    const int list_right = buttons_left - px(margin);
 
-    MoveWindow(child(ID_SERVERS_LABEL), left, px(margin), buttons_left - left, px(label_height), TRUE);
-    list_.place({left, list_top, buttons_left - px(margin), list_bottom}, dpi_);
+    MoveWindow(child(ID_SERVERS_LABEL), left, px(margin), list_right - left, px(label_height), TRUE);
+    list_.place({left, list_top, list_right, item_top - px(gap)}, dpi_);
+    MoveWindow(child(ID_ITEM_LABEL), left, item_top + px((box_height - label_height) / 2),
+               px(item_label_width), px(label_height), TRUE);
+    const int item_left = left + px(item_label_width);
+    MoveWindow(child(ID_ITEM), item_left, item_top, list_right - item_left, px(box_height), TRUE);
     int top = list_top;
     for (const Button& button : buttons) {
         if (button.starts_group) top += px(margin - gap);
         MoveWindow(child(button.id), buttons_left, top, px(button_width), px(button_height), TRUE);
         top += px(button_height + gap);
     }
-    MoveWindow(child(ID_LOG_LABEL), left, list_bottom + px(margin), right - left, px(label_height), TRUE);
+    MoveWindow(child(ID_LOG_LABEL), left, log_label_top, right - left, px(label_height), TRUE);
     MoveWindow(child(ID_LOG), left, log_top, right - left, px(log_height), TRUE);
 }
 

@@ -7,12 +7,15 @@
 #define ID_LOG_LABEL 102
 #define ID_LOG 103
 #define ID_STATUS 104
+#define ID_ITEM_LABEL 105
+#define ID_ITEM 106
 
 #define ID_SELECT 201
 #define ID_ADD 202
 #define ID_INFORMATION 203
 #define ID_CONNECT 204
 #define ID_REMOVE 205
+#define ID_BROWSE 206
 
 #define ID_EXIT 301
 #define ID_PLANT 302

@@ -63,6 +63,7 @@ void ServerList::show(const std::vector<ServerLine>& lines) {
         show_line(row, lines[i]);
     }
     select(std::min(selection, static_cast<long>(lines_.size())));
+    fit_columns();
 }
 
 void ServerList::show_line(int index, const ServerLine& line) {
@@ -83,18 +84,23 @@ void ServerList::select(long position) {
 
 void ServerList::place(const RECT& rect, UINT dpi) {
     MoveWindow(list_, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, TRUE);
-    RECT inside{};
-    GetClientRect(list_, &inside);
     if (dpi != dpi_) {
         // An empty picture in each line gives the lines some air.
         ImageList_Destroy(
             ListView_SetImageList(list_, ImageList_Create(1, scaled(19, dpi), ILC_COLOR, 0, 0), LVSIL_SMALL));
         dpi_ = dpi;
     }
+    fit_columns();
+}
+
+/// There is less room once the list has more lines than it shows.
+void ServerList::fit_columns() const {
+    RECT inside{};
+    GetClientRect(list_, &inside);
     int left = inside.right;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const bool last = i + 1 == columns.size();
-        const int width = last ? std::max(left, scaled(120, dpi)) : scaled(columns[i].width, dpi);
+        const int width = last ? std::max(left, scaled(120, dpi_)) : scaled(columns[i].width, dpi_);
         ListView_SetColumnWidth(list_, static_cast<int>(i), width);
         left -= width;
     }

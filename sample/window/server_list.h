@@ -25,6 +25,7 @@ public:
 
 private:
     void show_line(int index, const ServerLine& line);
+    void fit_columns() const;
 
     HWND list_ = nullptr;
     UINT dpi_ = 0;

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "common/values/text.h"
+#include "common/values/utf16.h"
 
 #include <windows.h>
 
 #include <oleauto.h>
 
-#include <cstring>
 #include <new>
 #include <string>
 #include <string_view>
@@ -14,13 +13,9 @@
 
 namespace brx {
 
-static_assert(sizeof(OLECHAR) == sizeof(char16_t));
-
 /// The text of a counted run of platform characters.
 inline std::string text_of(const OLECHAR* characters, std::size_t count) {
-    std::u16string units(count, u'\0');
-    if (count) std::memcpy(units.data(), characters, count * sizeof(char16_t));
-    return to_utf8(units);
+    return utf8_of(std::wstring_view(characters, count));
 }
 
 /// The text of an automation string; a null one is empty text.
@@ -30,10 +25,7 @@ inline std::string text_of(const OLECHAR* automation_string) {
 }
 
 /// The text as the platform's functions take it.
-inline std::wstring wide(std::string_view text) {
-    const std::u16string units = to_utf16(text);
-    return {units.begin(), units.end()};
-}
+inline std::wstring wide(std::string_view text) { return utf16_of<wchar_t>(text); }
 
 /// Owns an automation string.
 class Bstr {
@@ -58,6 +50,10 @@ public:
     }
     BSTR detach() noexcept { return std::exchange(string_, nullptr); }
     std::string text() const { return text_of(string_); }
+    /// The same into a text that is there already.
+    void read(std::string& result) const {
+        write_utf8(result, std::wstring_view(string_, SysStringLen(string_)));
+    }
 
 private:
     BSTR string_ = nullptr;

@@ -1,5 +1,9 @@
 #include "com/module.h"
 
+#include "win32/this_module.h"
+
+#include <windows.h>
+
 #include <atomic>
 
 namespace brx {
@@ -8,18 +12,10 @@ namespace {
 std::atomic<long> locks = 0;
 }
 
-HMODULE module_handle() noexcept {
-    HMODULE module = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<const wchar_t*>(&locks), &module);
-    return module;
-}
-
 std::wstring module_path() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
-        const DWORD length =
-            GetModuleFileNameW(module_handle(), path.data(), static_cast<DWORD>(path.size()));
+        const DWORD length = GetModuleFileNameW(this_module(), path.data(), static_cast<DWORD>(path.size()));
         if (length < path.size()) {
             path.resize(length);
             return path;

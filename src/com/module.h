@@ -1,15 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 
 namespace brx {
 
-/// The module: the program or DLL that this code was linked into.
-HMODULE module_handle() noexcept;
-
-/// The full path of its file.
+/// The full path of this module's file.
 std::wstring module_path();
 
 /// Keeps the module loaded: every COM object of ours holds one, and so does a host that asked for a lock.

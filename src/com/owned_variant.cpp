@@ -65,10 +65,10 @@ struct Fill {
     }
 };
 
+/// In the user's locale, with its words for the truth values as in all texts of ours.
 std::optional<std::string> platform_text(const VARIANT& variant) {
     OwnedVariant text;
-    if (FAILED(
-            VariantChangeTypeEx(text.out(), const_cast<VARIANT*>(&variant), LOCALE_USER_DEFAULT, 0, VT_BSTR)))
+    if (FAILED(VariantChangeType(text.out(), const_cast<VARIANT*>(&variant), VARIANT_LOCALBOOL, VT_BSTR)))
         return std::nullopt;
     return text_of(V_BSTR(&text.get()));
 }

@@ -2,6 +2,7 @@
 
 #include "com/failure.h"
 #include "com/module.h"
+#include "win32/this_module.h"
 
 #include <mutex>
 #include <string>
@@ -27,7 +28,7 @@ std::shared_ptr<const TypeLibraries> TypeLibraries::open() {
 
     const auto libraries = std::make_shared<TypeLibraries>();
     std::vector<ULONG_PTR> numbers;
-    EnumResourceNamesW(module_handle(), L"TYPELIB", note_number, reinterpret_cast<LONG_PTR>(&numbers));
+    EnumResourceNamesW(this_module(), L"TYPELIB", note_number, reinterpret_cast<LONG_PTR>(&numbers));
     for (const ULONG_PTR number : numbers) {
         const std::wstring place = module_path() + L"\\" + std::to_wstring(number);
         com_ptr<ITypeLib> library;

@@ -11,7 +11,7 @@ namespace brx {
 using Handler = std::function<void()>;
 
 /// The kinds of control, for engines to choose a peer by.
-enum class Kind { label, text_box, button, check_box, list_box, combo_box, frame, panel, timer };
+enum class Kind { label, text_box, button, check_box, list_box, combo_box, tree_view, frame, panel, timer };
 
 /// What has controls in it: the form, a frame, a panel.
 class Container {

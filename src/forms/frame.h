@@ -43,13 +43,49 @@ private:
     std::string caption_;
 };
 
+struct PanelDesign {
+    Place place;
+    int tab = 0;
+    bool enabled = true;
+    bool visible = true;
+    Anchor anchor = Anchor::top_left;
+    bool edge = false; ///< drawn around it, as around an empty box
+};
+
 /// A plain area, with or without controls in it.
 class Panel : public ContainerControl {
 public:
-    Panel(Container& container, const char* name, const FrameDesign& design)
-        : ContainerControl(container, name, design) {}
+    Panel(Container& container, const char* name, const PanelDesign& design)
+        : ContainerControl(container, name,
+                           {.place = design.place,
+                            .tab = design.tab,
+                            .enabled = design.enabled,
+                            .visible = design.visible,
+                            .anchor = design.anchor}),
+          edge_(design.edge) {}
 
     Kind kind() const override { return Kind::panel; }
+    bool edge() const { return edge_; }
+
+    /// Whether it covers the controls that it overlaps, those in it too, or lies behind them.
+    bool in_front() const { return in_front_; }
+    void bring_to_front() { set_in_front(true); }
+    void send_to_back() { set_in_front(false); }
+
+    void reset() override {
+        Control::reset();
+        in_front_ = false;
+    }
+
+private:
+    void set_in_front(bool in_front) {
+        if (in_front_ == in_front) return;
+        in_front_ = in_front;
+        changed(Aspect::order);
+    }
+
+    bool edge_;
+    bool in_front_ = false;
 };
 
 } // namespace brx

@@ -19,8 +19,17 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-/// The edges of the form that a control keeps its distance to when the form is made larger.
-enum class Anchor : unsigned { top_left = 0, right = 1, bottom = 2, stretch_width = 4, stretch_height = 8 };
+/// What a control makes of it when the form is made larger: which edges of the form, or whether its middle,
+/// it keeps its distance to, and how much of the room it takes.
+enum class Anchor : unsigned {
+    top_left = 0,
+    right = 1,
+    bottom = 2,
+    stretch_width = 4,
+    stretch_height = 8,
+    middle = 16,            ///< moves right by half of what the form is wider
+    stretch_half_width = 32 ///< takes half of what the form is wider
+};
 constexpr Anchor operator|(Anchor a, Anchor b) {
     return static_cast<Anchor>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
 }

@@ -6,15 +6,15 @@
 
 namespace brx {
 
-const ListControl::Line& ListControl::line(int index) const {
+int ListControl::checked(int index) const {
     if (index < 0 || index >= count()) throw Error(error::invalid_procedure_call);
-    return lines_[static_cast<std::size_t>(index)];
+    return index;
 }
 
-void ListControl::insert_line(int index, const std::string& text, std::int32_t data) {
+void ListControl::insert_line(int index, std::string_view text, std::int32_t data) {
     if (index < 0 || index > count()) throw Error(error::invalid_procedure_call);
+    lines_.insert(index, text, data);
     kept_ = std::min(kept_, index);
-    lines_.insert(lines_.begin() + index, {text, data});
     changed(Aspect::lines);
     if (selected_ >= index) {
         ++selected_;
@@ -23,7 +23,7 @@ void ListControl::insert_line(int index, const std::string& text, std::int32_t d
 }
 
 void ListControl::clear() {
-    if (!lines_.empty()) changed(Aspect::lines);
+    if (count() > 0) changed(Aspect::lines);
     if (selected_ >= 0) changed(Aspect::selection);
     lines_.clear();
     kept_ = 0;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/list_lines.h"
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace brx {
 
@@ -25,12 +27,14 @@ public:
     bool focusable() const override { return true; }
 
     /// Positions count from 0 here; error 5 for one that is not there.
-    int count() const { return static_cast<int>(lines_.size()); }
-    const std::string& text(int index) const { return line(index).text; }
-    std::int32_t data(int index) const { return line(index).data; }
+    int count() const { return lines_.count(); }
+    std::string text(int index) const { return std::string(line(index)); }
+    std::int32_t data(int index) const { return lines_.data(checked(index)); }
+    /// The same as `text` for whoever reads many lines; holds until the list is cleared.
+    std::string_view line(int index) const { return lines_.text(checked(index)); }
 
-    void add_line(const std::string& text, std::int32_t data = 0) { insert_line(count(), text, data); }
-    void insert_line(int index, const std::string& text, std::int32_t data = 0);
+    void add_line(std::string_view text, std::int32_t data = 0) { insert_line(count(), text, data); }
+    void insert_line(int index, std::string_view text, std::int32_t data = 0);
     /// Empties the list; nothing is selected then, and nothing fires.
     void clear();
     /// How many lines from the first on are what they were at the last call.
@@ -68,14 +72,10 @@ protected:
           design_(design) {}
 
 private:
-    struct Line {
-        std::string text;
-        std::int32_t data;
-    };
-    const Line& line(int index) const;
+    int checked(int index) const;
 
     ListDesign design_;
-    std::vector<Line> lines_;
+    ListLines lines_;
     int kept_ = 0;
     int selected_ = -1;
 };

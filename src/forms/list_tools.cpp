@@ -2,9 +2,7 @@
 
 namespace brx::hlxListTools {
 
-void add(ListControl& list, const std::string& text, std::int16_t item_data) {
-    list.add_line(text, item_data);
-}
+void add(ListControl& list, std::string_view text, std::int16_t item_data) { list.add_line(text, item_data); }
 
 std::int32_t selected_data(const ListControl& list) {
     return list.selected() < 0 ? 0 : list.data(list.selected());

@@ -1,11 +1,12 @@
 #include "sample/windows/objects_stage.h"
 
+#include <commctrl.h>
 #include <gmock/gmock.h>
 
 #include <array>
 #include <chrono>
 #include <functional>
-#include <set>
+#include <map>
 #include <thread>
 
 namespace brx::checks {
@@ -67,22 +68,55 @@ std::string text_of_box(HWND box) {
     return result;
 }
 
-using Names = std::set<std::wstring>;
+/// Controls by the names that UI tests find them by.
+using Controls = std::map<std::wstring, HWND>;
 
-BOOL CALLBACK add_name(HWND window, LPARAM names) {
+BOOL CALLBACK add_control(HWND window, LPARAM controls) {
     const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, L"brx.Name")));
     std::array<wchar_t, 100> name{};
     if (atom != 0 && GlobalGetAtomNameW(atom, name.data(), static_cast<int>(name.size())) > 0)
-        reinterpret_cast<Names*>(names)->insert(name.data());
+        reinterpret_cast<Controls*>(controls)->emplace(name.data(), window);
     return TRUE;
 }
 
-/// The names that UI tests find the controls by.
-Names names_in(HWND window) {
-    Names names;
-    EnumChildWindows(window, add_name, reinterpret_cast<LPARAM>(&names));
-    return names;
+Controls controls_of(HWND window) {
+    Controls controls;
+    EnumChildWindows(window, add_control, reinterpret_cast<LPARAM>(&controls));
+    return controls;
 }
+
+bool comes_true(const std::function<bool()>& condition) {
+    for (int i = 0; i < 300; ++i, std::this_thread::sleep_for(100ms))
+        if (condition()) return true;
+    return false;
+}
+
+/// The host with its servers connected and the first one selected.
+class OpenHost {
+public:
+    OpenHost() {
+        EXPECT_TRUE(comes_true([&] { return SendMessageW(list(), LVM_GETITEMCOUNT, 0, 0) == 3; }));
+        EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(control(L"bnBrowse")) != FALSE; }));
+    }
+
+    const HostProgram& program() const { return program_; }
+    HWND control(const wchar_t* name) const { return controls_of(window_)[name]; }
+    HWND list() const { return control(L"lstServers"); }
+    bool is_open_to_input() const { return IsWindowEnabled(window_) != FALSE; }
+    void press(const wchar_t* button) const { PostMessageW(control(button), BM_CLICK, 0, 0); }
+    void select_row(WPARAM key, LRESULT row) const {
+        PostMessageW(list(), WM_KEYDOWN, key, 1);
+        EXPECT_TRUE(comes_true([&] {
+            return SendMessageW(list(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) == row;
+        }));
+    }
+    int default_button() const { return LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)); }
+
+private:
+    CheckFolder folder_;
+    HostProgram program_{host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\""};
+    HWND window_ = program_.window(L"brxSampleHost");
+};
 
 std::wstring quoted(const std::filesystem::path& path) { return L"\"" + path.wstring() + L"\""; }
 
@@ -93,9 +127,10 @@ TEST(SampleProgram, OpensMakesItsDatabaseAndEnds) {
     for (int i = 0; i < 200 && !std::filesystem::exists(folder.file(L"host.db")); ++i)
         std::this_thread::sleep_for(100ms);
     EXPECT_TRUE(std::filesystem::exists(folder.file(L"host.db")));
-    EXPECT_THAT(names_in(window),
-                testing::IsSupersetOf({L"lstServers", L"bnSelect", L"bnAdd", L"bnInformation", L"bnConnect",
-                                       L"bnRemove", L"txtLog", L"stbStatus"}));
+    const Controls controls = controls_of(window);
+    for (const wchar_t* name : {L"lstServers", L"bnSelect", L"bnAdd", L"bnInformation", L"bnBrowse",
+                                L"bnConnect", L"bnRemove", L"txtItem", L"txtLog", L"stbStatus"})
+        EXPECT_TRUE(controls.contains(name)) << std::string(name, name + wcslen(name));
     PostMessageW(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.exit_code(), 0U);
 }
@@ -131,6 +166,39 @@ TEST(SampleProgram, TellsThatTheDialogsAreMissingAndGoesOn) {
     PostMessageW(box, WM_COMMAND, IDOK, 0);
     PostMessageW(program.window(L"brxSampleHost"), WM_CLOSE, 0, 0);
     EXPECT_EQ(program.exit_code(), 0U);
+}
+
+TEST(SampleProgram, BrowsesTheItemsOfTheSelectedServer) {
+    const OpenHost host;
+    host.press(L"bnBrowse");
+    const HWND dialog = host.program().window(L"#32770", L"Select Item");
+    EXPECT_FALSE(host.is_open_to_input());
+    PostMessageW(dialog, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(comes_true([&] { return host.is_open_to_input(); }));
+    EXPECT_FALSE(IsWindow(dialog));
+}
+
+TEST(SampleProgram, TellsThatTheServerToBrowseIsNotConnected) {
+    const OpenHost host;
+    host.select_row(VK_END, 2);
+    host.press(L"bnBrowse");
+    const HWND box = host.program().window(L"#32770");
+    EXPECT_THAT(text_of_box(box), HasSubstr("Connect it again to browse its items."));
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(comes_true([&] { return host.is_open_to_input(); }));
+}
+
+TEST(SampleProgram, EnterPressesTheButtonWithTheFocusAndOtherwiseServerInformation) {
+    const OpenHost host;
+    const int usual = GetDlgCtrlID(host.control(L"bnInformation"));
+    const int browse = GetDlgCtrlID(host.control(L"bnBrowse"));
+    EXPECT_EQ(host.default_button(), usual);
+    host.press(L"bnBrowse");
+    PostMessageW(host.program().window(L"#32770", L"Select Item"), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(comes_true([&] { return host.default_button() == browse; }));
+    PostMessageW(host.list(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 300));
+    PostMessageW(host.list(), WM_LBUTTONUP, 0, MAKELPARAM(20, 300));
+    EXPECT_TRUE(comes_true([&] { return host.default_button() == usual; }));
 }
 
 TEST(SampleProgram, ExplainsItsCommandLine) {

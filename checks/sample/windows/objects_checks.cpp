@@ -27,9 +27,9 @@ protected:
 };
 
 TEST_F(SampleObjects, EveryClassIsFoundByItsNameInTheManifest) {
-    for (const wchar_t* name :
-         {L"brxSample.Host", L"brxOpcAuto6.hlxOPCServer", L"brxError6.Error", L"hlxER01.Error",
-          L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd", L"brxOpcDlgs6.ServerInformation"})
+    for (const wchar_t* name : {L"brxSample.Host", L"brxOpcAuto6.hlxOPCServer", L"brxError6.Error",
+                                L"hlxER01.Error", L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd",
+                                L"brxOpcDlgs6.ServerInformation", L"brxOpcDlgs6.LeafSelect"})
         EXPECT_TRUE(create_by_name(name)) << std::string(name, name + wcslen(name));
 }
 
@@ -73,6 +73,27 @@ TEST_F(SampleObjects, AServerIsFoundByTheTextThatTheDialogsShow) {
     const Error down = error_of_getting(host.get(), "Server", {std::string("LAB.Simulation.Kiln.1")});
     EXPECT_EQ(down.number(), failed);
     EXPECT_THAT(down.description(), HasSubstr("Server execution failed"));
+}
+
+TEST_F(SampleObjects, AGroupIsAddedToAServerAndRemovedAgain) {
+    const auto server = get_object(host.get(), "Server", {std::string("Simulation.Packing.1")});
+    const auto groups = get_object(server.get(), "OPCGroups");
+    const Variant added = call(groups.get(), "Add", {std::string("Weights")});
+    const auto group = to_dispatch(std::get<ObjectPtr>(added));
+    EXPECT_EQ(get(group.get(), "Name"), Variant(std::string("Weights")));
+    EXPECT_EQ(get(groups.get(), "Count"), Variant(std::int32_t{1}));
+    call(groups.get(), "Remove", {std::string("Weights")});
+    EXPECT_EQ(get(groups.get(), "Count"), Variant(std::int32_t{0}));
+    EXPECT_EQ(error_of_getting(group.get(), "Name").number(), failed);
+}
+
+TEST_F(SampleObjects, TheItemThatWasChosenLastIsThereAfterARestart) {
+    EXPECT_EQ(get(host.get(), "LastItem", {std::int32_t{2}}), Variant(std::string()));
+    invoke(host.get(), "LastItem", DISPATCH_PROPERTYPUT, {std::int32_t{2}, std::string("Bottle.Weight")});
+    host = create_by_name(L"brxSample.Host");
+    put(host.get(), "DatabaseFile", folder.name_of(L"host.db"));
+    EXPECT_EQ(get(host.get(), "LastItem", {std::int32_t{2}}), Variant(std::string("Bottle.Weight")));
+    EXPECT_EQ(get(host.get(), "LastItem", {std::int32_t{1}}), Variant(std::string()));
 }
 
 TEST_F(SampleObjects, ConnectingAgainTellsWhetherItWorked) {

@@ -49,6 +49,12 @@ bool HeadlessScreen::choose(const std::string& list, int line) {
 bool HeadlessScreen::double_click(const std::string& list, int line) {
     return deed([=, this] { return user_.double_click(list, line); });
 }
+bool HeadlessScreen::expand(const std::string& tree, int row) {
+    return deed([=, this] { return user_.expand(tree, row); });
+}
+bool HeadlessScreen::collapse(const std::string& tree, int row) {
+    return deed([=, this] { return user_.collapse(tree, row); });
+}
 bool HeadlessScreen::toggle(const std::string& check_box) {
     return deed([=, this] { return user_.click(check_box); });
 }
@@ -79,6 +85,14 @@ bool HeadlessScreen::key(Key key) {
             return user_.move(-1);
         case Key::down:
             return user_.move(1);
+        case Key::left:
+            return user_.left();
+        case Key::right:
+            return user_.right();
+        case Key::plus:
+            return user_.plus();
+        case Key::minus:
+            return user_.minus();
         case Key::f1:
             return user_.help();
         case Key::backspace:

@@ -1,5 +1,6 @@
 #include "headless/headless_stage.h"
 
+#include "classes/LeafSelect.h"
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
 #include "classes/ServerSelect.h"
@@ -21,7 +22,21 @@ public:
     void set_ServerIndex(std::int16_t index) override {
         if constexpr (requires { class_.ServerIndex; }) class_.ServerIndex = index;
     }
-    bool Show(const ObjectPtr& object) override { return class_.Show(object); }
+    std::string ItemID() override {
+        if constexpr (requires { class_.ItemID(); })
+            return class_.ItemID();
+        else
+            return {};
+    }
+    void set_ItemID(const std::string& item_id) override {
+        if constexpr (requires { class_.set_ItemID(item_id); }) class_.set_ItemID(item_id);
+    }
+    bool Show(const std::vector<ObjectPtr>& objects) override {
+        if constexpr (requires { class_.Show(nullptr, nullptr); })
+            return class_.Show(objects.at(0), objects.at(1));
+        else
+            return class_.Show(objects.at(0));
+    }
 
 private:
     Class class_;
@@ -48,6 +63,7 @@ void HeadlessStage::start(std::function<void()> job) {
 }
 
 std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
+    if (name == "LeafSelect") return std::make_unique<Portable<LeafSelect>>(environment_);
     if (name == "ServerSelect") return std::make_unique<Portable<ServerSelect>>(environment_);
     if (name == "ServerAdd") return std::make_unique<Portable<ServerAdd>>(environment_);
     if (name == "ServerInformation") return std::make_unique<Portable<ServerInformation>>(environment_);

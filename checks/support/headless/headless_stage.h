@@ -25,6 +25,8 @@ public:
     bool press(const std::string& button) override;
     bool choose(const std::string& list, int line) override;
     bool double_click(const std::string& list, int line) override;
+    bool expand(const std::string& tree, int row) override;
+    bool collapse(const std::string& tree, int row) override;
     bool toggle(const std::string& check_box) override;
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;

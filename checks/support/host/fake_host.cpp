@@ -6,7 +6,14 @@ FakeHost::FakeHost()
     : servers(std::make_shared<FakeServers>(calls)),
       enumerator(std::make_shared<FakeOPCServer>(calls)),
       fresh_connection(enumerator),
+      connection(std::make_shared<FakeOPCServer>(calls)),
+      browser(std::make_shared<FakeBrowser>(calls)),
+      group(std::make_shared<FakeOPCGroup>(calls)),
       help_service(std::make_shared<FakeHelpService>(calls)) {
+    connection->server_name = "Matrix";
+    connection->server_node = "PC7";
+    connection->browser = browser;
+    group->server = connection;
     local_servers({"Plant.Simulation.1", "Line.Server.2"});
 }
 
@@ -34,6 +41,10 @@ std::string FakeHost::still_held() const {
     for (const auto& entry : servers->entries())
         if (entry.use_count() > 1) held += "A server entry is still referred to. ";
     if (enumerator.use_count() > 2) held += "The enumerating server is still referred to. ";
+    if (connection.use_count() > 1) held += "The browsed server is still referred to. ";
+    if (browser.use_count() > 2) held += "The browser is still referred to. ";
+    if (group.use_count() > 1) held += "The group is still referred to. ";
+    if (group->items.use_count() > 1) held += "The group's items are still referred to. ";
     for (const auto& created : created_)
         if (!created.expired()) held += "A created server entry is still referred to. ";
     return held;

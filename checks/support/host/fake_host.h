@@ -4,6 +4,8 @@
 #include "common/model/services.h"
 #include "common/trap.h"
 #include "forms/engine.h"
+#include "host/fake_browser.h"
+#include "host/fake_group.h"
 #include "host/fake_servers.h"
 
 #include <memory>
@@ -58,6 +60,10 @@ public:
     /// What a fresh entry gives as its OPCServer; the enumerator unless a scenario says otherwise.
     ObjectPtr fresh_connection;
     bool can_create_entries = true;
+    /// A connected server whose items are browsed, its only browser, and a group of it.
+    std::shared_ptr<FakeOPCServer> connection;
+    std::shared_ptr<FakeBrowser> browser;
+    std::shared_ptr<FakeOPCGroup> group;
     std::shared_ptr<FakeMessageService> message_service; ///< null: the host has none
     std::shared_ptr<FakeHelpService> help_service;       ///< null: the host has none
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brx::checks {
 
@@ -25,6 +26,11 @@ public:
     std::string vendor_info = "Plant Simulations";
     /// What is registered on each node; "" is the local computer. A node that is not listed fails.
     std::map<std::string, Variant> registered;
+    bool can_browse = true;
+    OPCBrowserPtr browser;
+    std::string error_string = "The item is not known to the server.";
+    /// What GetErrorString was asked for.
+    std::vector<std::int32_t> error_codes;
     /// Runs inside each enumeration.
     std::function<void()> while_enumerating = [] {};
 
@@ -41,9 +47,15 @@ public:
     std::string ClientName() override { return answer("OPCServer.ClientName", std::string()); }
     std::int32_t Bandwidth() override { return answer("OPCServer.Bandwidth", 4); }
     OPCGroupsPtr OPCGroups() override { return answer("OPCServer.OPCGroups", OPCGroupsPtr()); }
-    OPCBrowserPtr CreateBrowser() override { return answer("OPCServer.CreateBrowser", OPCBrowserPtr()); }
-    std::string GetErrorString(std::int32_t) override {
-        return answer("OPCServer.GetErrorString", std::string("The item is not known to the server."));
+    OPCBrowserPtr CreateBrowser() override {
+        calls_.note("OPCServer.CreateBrowser");
+        if (!can_browse) throw Error(-2147467263, "Not implemented", "OPCServer"); // 0x80004001
+        return browser;
+    }
+    std::string GetErrorString(std::int32_t error_code) override {
+        calls_.note("OPCServer.GetErrorString");
+        error_codes.push_back(error_code);
+        return error_string;
     }
 
     Variant GetOPCServers(const std::optional<std::string>& node) override {

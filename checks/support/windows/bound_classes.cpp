@@ -3,6 +3,9 @@
 #include "com/bstr.h"
 #include "com/owned_variant.h"
 
+#include <span>
+#include <vector>
+
 namespace brx::checks {
 
 namespace {
@@ -15,10 +18,11 @@ DISPID member_of(IDispatch& object, const char* name) {
     return member;
 }
 
-/// Calls a member with one argument or none and takes what it gives, which must be of this type.
-OwnedVariant invoke(IDispatch& object, const char* name, WORD how, VARIANT* argument, VARTYPE expected) {
+/// Calls a member and takes what it gives, which must be of this type. Arguments stand last one first.
+OwnedVariant invoke(IDispatch& object, const char* name, WORD how, std::span<VARIANT> arguments,
+                    VARTYPE expected) {
     DISPID put = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{argument, nullptr, argument ? 1U : 0U, 0};
+    DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
     if (how == DISPATCH_PROPERTYPUT) {
         parameters.rgdispidNamedArgs = &put;
         parameters.cNamedArgs = 1;
@@ -35,7 +39,7 @@ OwnedVariant invoke(IDispatch& object, const char* name, WORD how, VARIANT* argu
 } // namespace
 
 std::int16_t LateBound::ServerIndex() {
-    const OwnedVariant index = invoke(*object_.get(), "ServerIndex", DISPATCH_PROPERTYGET, nullptr, VT_I2);
+    const OwnedVariant index = invoke(*object_.get(), "ServerIndex", DISPATCH_PROPERTYGET, {}, VT_I2);
     return V_I2(&index.get());
 }
 
@@ -43,20 +47,42 @@ void LateBound::set_ServerIndex(std::int16_t index) {
     VARIANT value{};
     V_VT(&value) = VT_I2;
     V_I2(&value) = index;
-    invoke(*object_.get(), "ServerIndex", DISPATCH_PROPERTYPUT, &value, VT_EMPTY);
+    invoke(*object_.get(), "ServerIndex", DISPATCH_PROPERTYPUT, {&value, 1}, VT_EMPTY);
 }
 
-bool LateBound::Show(const ObjectPtr& object) {
-    const com_ptr<IDispatch> held = to_dispatch(object);
-    VARIANT variable{};
-    V_VT(&variable) = VT_DISPATCH;
-    V_DISPATCH(&variable) = held.get();
-    VARIANT reference{};
-    V_VT(&reference) = VT_BYREF | VT_VARIANT;
-    V_VARIANTREF(&reference) = &variable;
+std::string LateBound::ItemID() {
+    const OwnedVariant item_id = invoke(*object_.get(), "ItemID", DISPATCH_PROPERTYGET, {}, VT_BSTR);
+    return text_of(V_BSTR(&item_id.get()), SysStringLen(V_BSTR(&item_id.get())));
+}
+
+void LateBound::set_ItemID(const std::string& item_id) {
+    const Bstr text(item_id);
+    VARIANT value{};
+    V_VT(&value) = VT_BSTR;
+    V_BSTR(&value) = text.get();
+    invoke(*object_.get(), "ItemID", DISPATCH_PROPERTYPUT, {&value, 1}, VT_EMPTY);
+}
+
+bool LateBound::Show(const std::vector<ObjectPtr>& objects) {
+    std::vector<com_ptr<IDispatch>> held;
+    std::vector<VARIANT> variables;
+    for (auto each = objects.rbegin(); each != objects.rend(); ++each) {
+        held.push_back(to_dispatch(*each));
+        variables.emplace_back();
+        V_VT(&variables.back()) = VT_DISPATCH;
+        V_DISPATCH(&variables.back()) = held.back().get();
+    }
+    std::vector<VARIANT> references(variables.size());
+    for (std::size_t i = 0; i < variables.size(); ++i) {
+        V_VT(&references[i]) = VT_BYREF | VT_VARIANT;
+        V_VARIANTREF(&references[i]) = &variables[i];
+    }
     const OwnedVariant result =
-        invoke(*object_.get(), "Show", DISPATCH_METHOD, by_reference_ ? &reference : &variable, VT_BOOL);
-    brx::check(V_VT(&variable) == VT_DISPATCH && V_DISPATCH(&variable) == held.get() ? S_OK : E_UNEXPECTED);
+        invoke(*object_.get(), "Show", DISPATCH_METHOD, by_reference_ ? references : variables, VT_BOOL);
+    for (std::size_t i = 0; i < variables.size(); ++i)
+        brx::check(V_VT(&variables[i]) == VT_DISPATCH && V_DISPATCH(&variables[i]) == held[i].get()
+                       ? S_OK
+                       : E_UNEXPECTED);
     return V_BOOL(&result.get()) != VARIANT_FALSE;
 }
 

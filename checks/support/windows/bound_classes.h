@@ -1,5 +1,6 @@
 #pragma once
 
+#include "com/bstr.h"
 #include "com/com_object.h"
 #include "com/com_ptr.h"
 #include "com/failure.h"
@@ -24,10 +25,22 @@ public:
     void set_ServerIndex(std::int16_t index) override {
         if constexpr (requires { object_->put_ServerIndex(index); }) check(object_->put_ServerIndex(index));
     }
-    bool Show(const ObjectPtr& object) override {
-        const com_ptr<IDispatch> argument = to_dispatch(object);
+    std::string ItemID() override {
+        Bstr item_id;
+        if constexpr (requires { object_->get_ItemID(item_id.out()); })
+            check(object_->get_ItemID(item_id.out()));
+        return item_id.text();
+    }
+    void set_ItemID(const std::string& item_id) override {
+        const Bstr value(item_id);
+        if constexpr (requires { object_->put_ItemID(value.get()); }) check(object_->put_ItemID(value.get()));
+    }
+    bool Show(const std::vector<ObjectPtr>& objects) override {
+        const com_ptr<IDispatch> argument = to_dispatch(objects.at(0));
         VARIANT_BOOL result = VARIANT_FALSE;
-        if constexpr (requires(IDispatch * *reference) { object_->Show(reference, &result); }) {
+        if constexpr (requires { object_->Show(argument.get(), argument.get(), &result); }) {
+            check(object_->Show(argument.get(), to_dispatch(objects.at(1)).get(), &result));
+        } else if constexpr (requires(IDispatch * *reference) { object_->Show(reference, &result); }) {
             IDispatch* reference = argument.get();
             check(object_->Show(&reference, &result));
             // It may look at the host's variable, not change it.
@@ -51,7 +64,9 @@ public:
 
     std::int16_t ServerIndex() override;
     void set_ServerIndex(std::int16_t index) override;
-    bool Show(const ObjectPtr& object) override;
+    std::string ItemID() override;
+    void set_ItemID(const std::string& item_id) override;
+    bool Show(const std::vector<ObjectPtr>& objects) override;
 
 private:
     com_ptr<IDispatch> object_;

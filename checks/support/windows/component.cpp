@@ -91,6 +91,7 @@ com_ptr<IDispatch> Component::instance_of(const CLSID& clsid) const {
 }
 
 std::unique_ptr<PublicClass> Component::create(const std::string& name) const {
+    if (name == "LeafSelect") return bound<_LeafSelect>(instance_of(CLSID_LeafSelect));
     if (name == "ServerSelect") return bound<_ServerSelect>(instance_of(CLSID_ServerSelect));
     if (name == "ServerAdd") return bound<_ServerAdd>(instance_of(CLSID_ServerAdd));
     if (name == "ServerInformation") return bound<_ServerInformation>(instance_of(CLSID_ServerInformation));

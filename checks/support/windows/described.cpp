@@ -3,7 +3,9 @@
 #include "com/bstr.h"
 #include "common/values/text.h"
 #include "windows/native.h"
+#include "windows/native_tree.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -12,6 +14,7 @@ namespace brx::checks {
 namespace {
 
 constexpr std::size_t field_count = 7;
+constexpr std::size_t most_rows = 2'000; ///< of a tree are compared, after each deed
 
 std::string plain(const std::string& escaped) {
     std::string text;
@@ -30,6 +33,9 @@ std::string plain(const std::string& escaped) {
         case 'n':
             text += '\n';
             break;
+        case '0':
+            text += '\0';
+            break;
         default:
             text += escaped[i];
         }
@@ -46,7 +52,8 @@ Described described_in(const std::string& line) {
             .visible = fields[3] == "1",
             .number = std::stoi(fields[4]),
             .lines = std::stoi(fields[5]),
-            .text = plain(fields[6])};
+            .text = plain(fields[6]),
+            .rows = {}};
 }
 
 /// Gathers what differs, a line each.
@@ -73,6 +80,17 @@ private:
     std::string all_;
 };
 
+void compare_rows(const Described& held, const std::vector<std::string>& shown, Differences& differences) {
+    for (std::size_t i = 0; i < std::min(shown.size(), held.rows.size()); ++i)
+        differences.compare(held.name, "a row", shown[i], held.rows[i]);
+}
+
+/// A panel lies before everything else or behind it.
+void compare_order(HWND form, HWND panel, const Described& held, Differences& differences) {
+    const bool in_front = GetWindow(form, GW_CHILD) == panel;
+    differences.compare(held.name, "in front", in_front, held.number == 1);
+}
+
 void compare_control(HWND form, const Described& held, Differences& differences) {
     const HWND window = find_control(form, held.name);
     if (!window) return differences.add(held.name, "it has no window");
@@ -81,9 +99,13 @@ void compare_control(HWND form, const Described& held, Differences& differences)
     // With something over the form, its controls hold the same and take no input.
     if (IsWindowEnabled(form)) differences.compare(held.name, "enabled", shown.enabled, held.enabled);
     differences.compare(held.name, "visible", shown.visible, held.visible);
-    if (held.kind == "list_box" || held.kind == "combo_box")
+    const bool is_tree = held.kind == "tree_view";
+    const bool is_list = held.kind == "list_box" || held.kind == "combo_box";
+    if (is_tree) compare_rows(held, tree_rows(window, most_rows), differences);
+    if (is_list || (is_tree && held.rows.size() < most_rows))
         differences.compare(held.name, "the number of lines", count_lines(window), held.lines);
-    if (held.kind == "list_box" || held.kind == "combo_box" || held.kind == "check_box")
+    if (held.kind == "panel") compare_order(form, window, held, differences);
+    if (is_list || is_tree || held.kind == "check_box")
         differences.compare(held.name, "the selected line or value", shown.selected, held.number);
 }
 
@@ -106,8 +128,14 @@ std::vector<Described> described(HWND form) {
     if (answer.empty()) throw std::runtime_error(name_of(form) + " does not answer brx.Describe");
     SendMessageW(form, describe, answer.size(), reinterpret_cast<LPARAM>(answer.data()));
     std::vector<Described> all;
-    for (const std::string& line : split(brx::text_of(answer.c_str(), answer.size() - 1), "\n"))
-        if (!line.empty()) all.push_back(described_in(line));
+    for (const std::string& line : split(brx::text_of(answer.c_str(), answer.size() - 1), "\n")) {
+        if (line.empty()) continue;
+        Described each = described_in(line);
+        if (each.kind == "row" && !all.empty() && all.back().name == each.name)
+            all.back().rows.push_back(std::move(each.text));
+        else
+            all.push_back(std::move(each));
+    }
     return all;
 }
 

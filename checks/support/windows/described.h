@@ -13,9 +13,10 @@ struct Described {
     std::string kind;
     bool enabled = false;
     bool visible = false;
-    int number = -1; ///< the selected line, or the value of a check box
+    int number = -1; ///< the selected line, the value of a check box, whether a panel is in front
     int lines = 0;
     std::string text;
+    std::vector<std::string> rows; ///< of a tree
 };
 
 /// The form first, then its controls. On the form's thread.

@@ -3,13 +3,12 @@
 #include "com/bstr.h"
 #include "com/com_object.h"
 #include "com/failure.h"
+#include "com/guid_text.h"
 #include "windows/class_name.h"
 #include "windows/error_object.h"
 
 #include <brxError6.h>
 #include <brxOpcAuto6.h>
-
-#include <array>
 
 namespace brx::checks {
 
@@ -20,12 +19,6 @@ constexpr CLSID error_class_by_name = {
     0x1CC7C4FE, 0x229C, 0x47DC, {0x83, 0x1A, 0xE3, 0xF6, 0x19, 0x53, 0xD4, 0x74}};
 constexpr const wchar_t* error_class_name = L"hlxER01.Error";
 
-std::wstring text_of(const CLSID& clsid) {
-    std::array<wchar_t, 40> text{};
-    StringFromGUID2(clsid, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
-
 } // namespace
 
 HostClasses::HostClasses(FakeHost& host) : host_(host) {
@@ -34,7 +27,7 @@ HostClasses::HostClasses(FakeHost& host) : host_(host) {
     offer(CLSID_Error, make_factory([&host] { return make_error_object(host, ErrorLibrary::brxError6); }));
     offer(error_class_by_name,
           make_factory([&host] { return make_error_object(host, ErrorLibrary::hlxER01); }));
-    register_class_name(error_class_name, text_of(error_class_by_name));
+    register_class_name(error_class_name, guid_text(error_class_by_name));
     offer_services();
 }
 
@@ -49,7 +42,7 @@ void HostClasses::offer_services() {
 }
 
 void HostClasses::offer_service(const CLSID& clsid, const char* name, bool has_it) {
-    const bool offered = offered_.contains(text_of(clsid));
+    const bool offered = offered_.contains(guid_text(clsid));
     if (has_it && !offered)
         offer(clsid, make_factory([this, name] { return to_dispatch(host_.create(name)); }));
     else if (!has_it && offered)
@@ -59,11 +52,11 @@ void HostClasses::offer_service(const CLSID& clsid, const char* name, bool has_i
 void HostClasses::offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory) {
     DWORD cookie = 0;
     check(CoRegisterClassObject(clsid, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie));
-    offered_[text_of(clsid)] = cookie;
+    offered_[guid_text(clsid)] = cookie;
 }
 
 void HostClasses::withdraw(const CLSID& clsid) {
-    const auto found = offered_.find(text_of(clsid));
+    const auto found = offered_.find(guid_text(clsid));
     CoRevokeClassObject(found->second);
     offered_.erase(found);
 }

@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "common/values/text.h"
+#include "windows/native_tree.h"
 
 #include <algorithm>
 #include <array>
@@ -115,6 +116,7 @@ NativeKind kind_of(HWND control) {
     if (name == L"Edit") return NativeKind::text_box;
     if (name == L"ListBox" || name == L"ComboLBox") return NativeKind::list_box;
     if (name == L"ComboBox") return NativeKind::combo_box;
+    if (name == WC_TREEVIEWW) return NativeKind::tree;
     if (name == L"Static") return NativeKind::label;
     if (name != L"Button") return NativeKind::other;
     switch (style_of(control) & BS_TYPEMASK) {
@@ -139,11 +141,13 @@ bool takes_input(HWND window) {
 }
 
 int count_lines(HWND control) {
+    if (kind_of(control) == NativeKind::tree) return static_cast<int>(items_in_view(control).size());
     const ListMessages* messages = list_messages_of(control);
     return messages ? static_cast<int>(std::max<LRESULT>(0, ask(control, messages->count))) : 0;
 }
 
 std::vector<std::string> lines_of(HWND control) {
+    if (kind_of(control) == NativeKind::tree) return tree_rows(control);
     std::vector<std::string> lines;
     const ListMessages* messages = list_messages_of(control);
     for (int line = 0; line < count_lines(control); ++line)
@@ -159,6 +163,9 @@ Sight sight_of(HWND control, HWND focused) {
         sight.selected = static_cast<int>(ask(control, messages->selected));
         if (sight.selected >= 0)
             sight.text = line_of(control, *messages, static_cast<WPARAM>(sight.selected));
+    } else if (kind_of(control) == NativeKind::tree) {
+        sight.selected = selected_row(control);
+        if (sight.selected >= 0) sight.text = text_of_item(control, selected_item(control));
     } else {
         sight.text = text_of(control);
         if (kind_of(control) == NativeKind::check_box)

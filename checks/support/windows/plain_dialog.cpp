@@ -23,6 +23,7 @@ enum Id : WORD {
     check_box,
     list_box,
     combo_box,
+    tree_box,
     message_button,
     chain_button,
     off_button,
@@ -86,6 +87,10 @@ void PlainDialog::make_controls() {
                           {10, 40, 200, 140}, list_box, L"lstBox");
     const HWND combo = add(L"ComboBox", L"", WS_TABSTOP | CBS_DROPDOWNLIST | WS_VSCROLL, {210, 40, 380, 200},
                            combo_box, L"cboBox");
+    fill_tree(
+        add(WC_TREEVIEWW, L"",
+            WS_TABSTOP | WS_BORDER | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_DISABLEDRAGDROP,
+            {210, 70, 380, 140}, tree_box, L"treBox"));
     for (int i = 0; i < line_count; ++i) {
         const std::wstring line = L"Line " + std::to_wstring(i);
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
@@ -104,6 +109,24 @@ void PlainDialog::make_controls() {
     add(L"Button", L"Cancel", WS_TABSTOP, {300, 250, 380, 275}, cancel, L"bnCancel");
     SetTimer(handle_, timer, 1000, nullptr);
     SetFocus(box);
+}
+
+void PlainDialog::fill_tree(HWND tree) {
+    const auto insert = [&](HTREEITEM parent, const wchar_t* name, int number) {
+        std::wstring text = name + std::to_wstring(number);
+        TVINSERTSTRUCTW wanted{};
+        wanted.hParent = parent;
+        wanted.hInsertAfter = TVI_LAST;
+        wanted.item.mask = TVIF_TEXT | TVIF_PARAM;
+        wanted.item.pszText = text.data();
+        wanted.item.lParam = number;
+        return reinterpret_cast<HTREEITEM>(
+            SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&wanted)));
+    };
+    for (int i = 0; i < 30; ++i) {
+        const HTREEITEM node = insert(TVI_ROOT, L"Node ", i);
+        for (int inner = 0; inner < 2 && (i == 1 || i == 28); ++inner) insert(node, L"Inner ", inner);
+    }
 }
 
 INT_PTR PlainDialog::describe(WPARAM capacity, LPARAM buffer) const {
@@ -125,6 +148,9 @@ INT_PTR CALLBACK PlainDialog::procedure(HWND handle, UINT message, WPARAM wparam
     case WM_COMMAND:
         self->happened(LOWORD(wparam), HIWORD(wparam));
         return TRUE;
+    case WM_NOTIFY:
+        if (self) self->happened_in_tree(*reinterpret_cast<const NMTREEVIEWW*>(lparam));
+        return FALSE;
     case WM_TIMER:
         self->note("tick");
         return TRUE;
@@ -191,6 +217,16 @@ void PlainDialog::happened(WORD id, WORD code) {
     default:
         break;
     }
+}
+
+void PlainDialog::happened_in_tree(const NMTREEVIEWW& notification) {
+    if (notification.hdr.idFrom != tree_box) return;
+    const std::string number = std::to_string(notification.itemNew.lParam);
+    if (notification.hdr.code == TVN_SELCHANGEDW && notification.action != TVC_UNKNOWN)
+        note("node " + number);
+    if (notification.hdr.code == TVN_ITEMEXPANDEDW)
+        note((notification.action == TVE_EXPAND ? "open " : "close ") + number);
+    if (notification.hdr.code == NM_DBLCLK) note("tree twice");
 }
 
 LRESULT CALLBACK PlainDialog::box_procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <string>
 #include <vector>
 
@@ -11,9 +13,9 @@ namespace brx::checks {
 /// what happens to it:
 ///
 ///   lblBox "&Text:", txtBox, chkBox "Tic&k", lstBox and cboBox with the lines "Line 0" to "Line 49",
-///   bnMessage
-///   "&Message...", bnChain (posts itself messages, one after the other), bnOff (disabled), bnHidden
-///   (hidden), bnUnder (something lies over it), bnOK (default), bnCancel; a timer of one second
+///   treBox with "Node 0" to "Node 29", of which Node 1 and Node 28 have "Inner 0" and "Inner 1" in them,
+///   bnMessage "&Message...", bnChain (posts itself messages, one after the other), bnOff (disabled),
+///   bnHidden (hidden), bnUnder (something lies over it), bnOK (default), bnCancel; a timer of one second
 class PlainDialog {
 public:
     explicit PlainDialog(HWND owner) : owner_(owner) {}
@@ -38,6 +40,8 @@ private:
     HWND add(const wchar_t* window_class, const wchar_t* text, DWORD style, RECT place, WORD id,
              const wchar_t* name);
     void happened(WORD id, WORD code);
+    void happened_in_tree(const NMTREEVIEWW& notification);
+    void fill_tree(HWND tree);
     void note(std::string event) { events_.push_back(std::move(event)); }
 
     HWND owner_;

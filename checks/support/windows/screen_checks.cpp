@@ -103,6 +103,61 @@ TEST_F(WindowsScreenTest, ChoosesInADropDownListAtOnce) {
     EXPECT_EQ(screen.front(), "dlgPlain");
 }
 
+TEST_F(WindowsScreenTest, SeesTheRowsOfATree) {
+    Sight tree = screen.look("treBox");
+    ASSERT_EQ(tree.lines.size(), 30U);
+    EXPECT_EQ(tree.lines[0], " Node 0");
+    EXPECT_EQ(tree.lines[1], "+Node 1");
+    EXPECT_EQ(tree.selected, -1);
+    EXPECT_EQ(tree.text, "");
+    EXPECT_TRUE(screen.expand("treBox", 1));
+    EXPECT_TRUE(screen.choose("treBox", 3));
+    tree = screen.look("treBox");
+    ASSERT_EQ(tree.lines.size(), 32U);
+    EXPECT_EQ(tree.lines[1], "-Node 1");
+    EXPECT_EQ(tree.lines[3], "   Inner 1");
+    EXPECT_EQ(tree.lines[4], " Node 2");
+    EXPECT_EQ(tree.selected, 3);
+    EXPECT_EQ(tree.text, "Inner 1");
+}
+
+TEST_F(WindowsScreenTest, ClicksIntoATreeAlsoWhereItIsOutOfView) {
+    EXPECT_TRUE(screen.choose("treBox", 27));
+    EXPECT_EQ(events(), Events{"node 27"});
+    EXPECT_TRUE(screen.look("treBox").focused);
+    EXPECT_TRUE(screen.expand("treBox", 28));
+    EXPECT_EQ(events(), Events{"open 28"});
+    EXPECT_FALSE(screen.expand("treBox", 28)) << "It is open.";
+    EXPECT_TRUE(screen.collapse("treBox", 28));
+    EXPECT_EQ(events(), Events{"close 28"});
+    EXPECT_FALSE(screen.collapse("treBox", 28));
+    EXPECT_FALSE(screen.expand("treBox", 0)) << "It has no sign.";
+    EXPECT_TRUE(screen.double_click("treBox", 0));
+    EXPECT_EQ(events(), (Events{"node 0", "tree twice"}));
+    EXPECT_FALSE(screen.choose("treBox", 30));
+    EXPECT_FALSE(screen.choose("treBox", -1));
+    ui.call([&] { EnableWindow(window("treBox"), FALSE); });
+    EXPECT_FALSE(screen.choose("treBox", 1));
+    EXPECT_FALSE(screen.expand("treBox", 1));
+}
+
+TEST_F(WindowsScreenTest, TheKeysOfATreeWork) {
+    EXPECT_TRUE(screen.choose("treBox", 0));
+    events();
+    EXPECT_TRUE(screen.key(Key::down));
+    EXPECT_TRUE(screen.key(Key::right));
+    EXPECT_EQ(events(), (Events{"node 1", "open 1"}));
+    EXPECT_TRUE(screen.type("in"));
+    EXPECT_EQ(screen.look("treBox").text, "Inner 0");
+    EXPECT_TRUE(screen.key(Key::left));
+    EXPECT_EQ(screen.look("treBox").text, "Node 1");
+    events();
+    EXPECT_TRUE(screen.key(Key::left));
+    EXPECT_TRUE(screen.key(Key::plus));
+    EXPECT_TRUE(screen.key(Key::minus));
+    EXPECT_EQ(events(), (Events{"close 1", "open 1", "close 1"}));
+}
+
 TEST_F(WindowsScreenTest, TicksACheckBox) {
     EXPECT_TRUE(screen.toggle("chkBox"));
     EXPECT_EQ(events(), Events{"tick box 1"});
@@ -220,6 +275,14 @@ TEST_F(WindowsScreenTest, JobsRunWhileADialogIsOpenAndTheirFailuresComeBack) {
     EXPECT_EQ(screen.front(), "dlgPlain");
 }
 
+TEST_F(WindowsScreenTest, ADescriptionIsReadWithItsEscapesUndone) {
+    ui.call([&] {
+        dialog.description = L"dlgPlain\tform\t1\t1\t-1\t0\ttab\\t return\\r line\\n slash\\\\0 NUL\\0 end\n";
+        using namespace std::string_literals;
+        EXPECT_EQ(described(window("dlgPlain")).front().text, "tab\t return\r line\n slash\\0 NUL\0 end"s);
+    });
+}
+
 TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
     const auto differences = [&](const wchar_t* description) {
         std::string found;
@@ -233,6 +296,9 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
                           L"lblBox\tlabel\t1\t1\t-1\t0\t&Text:\n"
                           L"chkBox\tcheck_box\t1\t1\t0\t0\tTic&k\n"
                           L"lstBox\tlist_box\t1\t1\t-1\t50\t\n"
+                          L"treBox\ttree_view\t1\t1\t-1\t30\t\n"
+                          L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
+                          L"treBox\trow\t1\t1\t-1\t0\t+Node 1\n"
                           L"bnOff\tbutton\t0\t1\t-1\t0\tOff\n"
                           L"bnHidden\tbutton\t1\t0\t-1\t0\tHidden\n"
                           L"Timer1\ttimer\t1\t0\t-1\t0\t\n"),
@@ -240,6 +306,10 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
     EXPECT_EQ(differences(L"dlgPlain\tform\t1\t1\t-1\t0\tPl\\tain\n"
                           L"chkBox\tcheck_box\t1\t0\t1\t0\tTic&k\n"
                           L"lstBox\tlist_box\t1\t1\t3\t49\tLine 3\n"
+                          L"treBox\ttree_view\t1\t1\t2\t31\tNode 2\n"
+                          L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
+                          L"treBox\trow\t1\t1\t-1\t0\t-Node 1\n"
+                          L"lblBox\tpanel\t1\t1\t1\t0\t&Text:\n"
                           L"bnOff\tbutton\t1\t1\t-1\t0\tOff\n"
                           L"bnNone\tbutton\t1\t1\t-1\t0\tNone\n"),
               "dlgPlain: the caption is \"Plain\", but should be \"Pl\tain\"\n"
@@ -248,6 +318,11 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
               "dlgPlain.lstBox: the text is \"\", but should be \"Line 3\"\n"
               "dlgPlain.lstBox: the number of lines is 50, but should be 49\n"
               "dlgPlain.lstBox: the selected line or value is -1, but should be 3\n"
+              "dlgPlain.treBox: the text is \"\", but should be \"Node 2\"\n"
+              "dlgPlain.treBox: a row is \"+Node 1\", but should be \"-Node 1\"\n"
+              "dlgPlain.treBox: the number of lines is 30, but should be 31\n"
+              "dlgPlain.treBox: the selected line or value is -1, but should be 2\n"
+              "dlgPlain.lblBox: in front is false, but should be true\n"
               "dlgPlain.bnOff: enabled is false, but should be true\n"
               "dlgPlain.bnNone: it has no window\n");
     EnableWindow(ui.window(), TRUE);

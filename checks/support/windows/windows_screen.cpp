@@ -2,6 +2,8 @@
 
 #include "com/bstr.h"
 #include "windows/native.h"
+#include "windows/native_tree.h"
+#include "windows/reach.h"
 
 #include <algorithm>
 #include <cstring>
@@ -11,35 +13,6 @@ namespace brx::checks {
 namespace {
 
 constexpr int most_tabs = 100;
-
-bool is_within(HWND window, HWND hit) { return hit == window || IsChild(window, hit); }
-
-/// Whether a click there would reach the window.
-bool can_be_hit(HWND window, POINT client) {
-    return window && IsWindowVisible(window) && takes_input(window) &&
-           is_within(window, window_at(window, client));
-}
-
-bool click_into(HWND window, POINT client) {
-    if (!can_be_hit(window, client)) return false;
-    click(window, client);
-    return true;
-}
-
-/// Scrolls the line into view where needed, as a person would first. False when there is no such line.
-bool bring_into_view(HWND list_box, int line) {
-    if (line < 0 || line >= SendMessageW(list_box, LB_GETCOUNT, 0, 0)) return false;
-    RECT client{};
-    GetClientRect(list_box, &client);
-    if (PtInRect(&client, centre_of_line(list_box, line))) return true;
-    SendMessageW(list_box, LB_SETTOPINDEX, static_cast<WPARAM>(line), 0);
-    return PtInRect(&client, centre_of_line(list_box, line)) != FALSE;
-}
-
-bool click_line(HWND list_box, int line) {
-    return list_box && kind_of(list_box) == NativeKind::list_box && takes_input(list_box) &&
-           bring_into_view(list_box, line) && click_into(list_box, centre_of_line(list_box, line));
-}
 
 HWND dropped_list_of(HWND combo_box) {
     COMBOBOXINFO info{};
@@ -171,10 +144,24 @@ bool WindowsScreen::double_click(const std::string& list, int line) {
     if (!choose(list, line)) return false;
     return done([&] {
         const HWND window = reachable(list);
-        const POINT point = window ? centre_of_line(window, line) : POINT();
-        if (!can_be_hit(window, point)) return false;
+        POINT point{};
+        if (!find_line(window, line, point) || !can_be_hit(window, point)) return false;
         click_again(window, point);
         return true;
+    });
+}
+
+bool WindowsScreen::expand(const std::string& tree, int row) { return click_sign(tree, row, false); }
+
+bool WindowsScreen::collapse(const std::string& tree, int row) { return click_sign(tree, row, true); }
+
+bool WindowsScreen::click_sign(const std::string& tree, int row, bool open) {
+    return done([&] {
+        const HWND window = reachable(tree);
+        const HTREEITEM item = bring_row_into_view(window, row);
+        POINT sign{};
+        return item && is_open(window, item) == open && point_on_sign(window, item, sign) &&
+               click_into(window, sign);
     });
 }
 
@@ -223,12 +210,12 @@ bool WindowsScreen::stroke(const Stroke& stroke) {
 }
 
 bool WindowsScreen::type(const std::string& text) {
-    const auto in_a_text_box = [&] {
+    const auto takes_text = [&] {
         const HWND focused = focused_in_front();
-        return focused && kind_of(focused) == NativeKind::text_box;
+        return focused && (kind_of(focused) == NativeKind::text_box || kind_of(focused) == NativeKind::tree);
     };
     return std::ranges::all_of(strokes_for(text),
-                               [&](const Stroke& each) { return asked(in_a_text_box) && stroke(each); });
+                               [&](const Stroke& each) { return asked(takes_text) && stroke(each); });
 }
 
 bool WindowsScreen::paste(const std::string& text) {
@@ -258,6 +245,14 @@ bool WindowsScreen::key(Key key) {
         return stroke({.key = VK_UP});
     case Key::down:
         return stroke({.key = VK_DOWN});
+    case Key::left:
+        return stroke({.key = VK_LEFT});
+    case Key::right:
+        return stroke({.key = VK_RIGHT});
+    case Key::plus:
+        return stroke({.key = VK_ADD});
+    case Key::minus:
+        return stroke({.key = VK_SUBTRACT});
     case Key::f1:
         return stroke({.key = VK_F1});
     case Key::backspace:

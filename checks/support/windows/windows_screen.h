@@ -31,6 +31,8 @@ public:
     bool press(const std::string& button) override;
     bool choose(const std::string& list, int line) override;
     bool double_click(const std::string& list, int line) override;
+    bool expand(const std::string& tree, int row) override;
+    bool collapse(const std::string& tree, int row) override;
     bool toggle(const std::string& check_box) override { return press(check_box); }
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;
@@ -53,6 +55,7 @@ private:
     }
     template <class Deed> bool done(Deed&& deed);
     bool stroke(const Stroke& stroke);
+    bool click_sign(const std::string& tree, int row, bool open);
     bool choose_in_combo_box(const std::string& list, int line);
     bool go_to_by_tab(const std::string& control);
     void note_differences();

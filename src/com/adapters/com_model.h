@@ -37,7 +37,9 @@ protected:
         return Wire<Result>::model(result.get());
     }
 
-    void require(HRESULT result) { check(result, object_.get(), __uuidof(Interface)); }
+    void require(HRESULT result) {
+        if (FAILED(result)) check(result, object_.get(), __uuidof(Interface));
+    }
 
 private:
     com_ptr<Interface> object_;

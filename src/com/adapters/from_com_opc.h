@@ -36,6 +36,11 @@ public:
     OPCGroupPtr Item(const Variant& item_specifier) override {
         return get<OPCGroupPtr>(&Interface::Item, item_specifier);
     }
+    OPCGroupPtr Add(const std::optional<std::string>& name) override {
+        return get<OPCGroupPtr>(&Interface::Add, name ? Variant(*name) : Variant(Missing{}));
+    }
+    void RemoveAll() override { call(&Interface::RemoveAll); }
+    void Remove(const Variant& item_specifier) override { call(&Interface::Remove, item_specifier); }
 };
 
 template <> class FromCom<OPCGroup> final : public ComModel<OPCGroup> {
@@ -104,7 +109,17 @@ public:
     std::int32_t Organization() override { return get<std::int32_t>(&Interface::get_Organization); }
     std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
     std::string Item(std::int32_t index) override {
-        return get<std::string>(&Interface::Item, Variant(index));
+        std::string name;
+        read_item(index, name);
+        return name;
+    }
+    void read_item(std::int32_t index, std::string& name) override {
+        VARIANT position{};
+        V_VT(&position) = VT_I4;
+        V_I4(&position) = index;
+        Bstr item;
+        require(original()->Item(position, item.out()));
+        item.read(name);
     }
     void ShowBranches() override { call(&Interface::ShowBranches); }
     void ShowLeafs(bool flat) override { call(&Interface::ShowLeafs, Variant(flat)); }

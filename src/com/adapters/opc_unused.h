@@ -6,7 +6,7 @@
 
 namespace brx {
 
-// The members of the OPC automation interfaces that the model lacks, because no dialog uses them.
+// The members of the OPC automation interfaces that the model lacks, because nobody uses them.
 
 class UnusedOfOPCServer : public ::IOPCAutoServer {
 public:
@@ -45,10 +45,7 @@ public:
     STDMETHODIMP get_DefaultGroupTimeBias(LONG*) override { return E_NOTIMPL; }
     STDMETHODIMP put_DefaultGroupTimeBias(LONG) override { return E_NOTIMPL; }
     STDMETHODIMP get__NewEnum(IUnknown**) override { return E_NOTIMPL; }
-    STDMETHODIMP Add(VARIANT, IOPCGroup**) override { return E_NOTIMPL; }
     STDMETHODIMP GetOPCGroup(VARIANT, IOPCGroup**) override { return E_NOTIMPL; }
-    STDMETHODIMP RemoveAll() override { return E_NOTIMPL; }
-    STDMETHODIMP Remove(VARIANT) override { return E_NOTIMPL; }
     STDMETHODIMP ConnectPublicGroup(BSTR, IOPCGroup**) override { return E_NOTIMPL; }
     STDMETHODIMP RemovePublicGroup(VARIANT) override { return E_NOTIMPL; }
 

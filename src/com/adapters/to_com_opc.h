@@ -38,6 +38,11 @@ public:
     STDMETHODIMP Item(VARIANT item_specifier, IOPCGroup** result) override {
         return give(result, &Model::Item, item_specifier);
     }
+    STDMETHODIMP Add(VARIANT name, IOPCGroup** result) override {
+        return give(result, [&] { return model().Add(optional_text(name)); });
+    }
+    STDMETHODIMP RemoveAll() override { return take(&Model::RemoveAll); }
+    STDMETHODIMP Remove(VARIANT item_specifier) override { return take(&Model::Remove, item_specifier); }
 };
 
 template <> class ToCom<OPCGroup> final : public ModelCom<OPCGroup, UnusedOfOPCGroup> {

@@ -1,6 +1,6 @@
 #include "com/failure.h"
+#include "com/inproc/class_factory.h"
 #include "com/module.h"
-#include "com/server/class_factory.h"
 #include "com/server/public_classes.h"
 #include "com/server/registration.h"
 

@@ -1,5 +1,6 @@
 #include "com/server/public_classes.h"
 
+#include "classes/LeafSelect.h"
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
 #include "classes/ServerSelect.h"
@@ -69,12 +70,33 @@ public:
     }
 };
 
+class LeafSelectObject final : public PublicObject<_LeafSelect, ::LeafSelect> {
+public:
+    HRESULT STDMETHODCALLTYPE Show(IDispatch* OPCServer, IDispatch* OPCGroup, VARIANT_BOOL* result) override {
+        return show(self(), "LeafSelect", result, [&](Environment& environment) {
+            LeafSelect dialog(environment);
+            dialog.set_ItemID(item_id_);
+            if (!dialog.Show(object_of(OPCServer), object_of(OPCGroup))) return false;
+            item_id_ = dialog.ItemID();
+            return true;
+        });
+    }
+    HRESULT STDMETHODCALLTYPE get_ItemID(BSTR* result) override { return read(item_id_, result); }
+    HRESULT STDMETHODCALLTYPE put_ItemID(BSTR value) override {
+        return guard(IID__LeafSelect, [&] { item_id_ = text_of(value); });
+    }
+
+private:
+    std::string item_id_;
+};
+
 template <class Object> com_ptr<IDispatch> create() { return make_com<Object>(); }
 
 constexpr auto classes = std::to_array<PublicClass>({
     {CLSID_ServerSelect, create<ServerSelectObject>},
     {CLSID_ServerAdd, create<ServerAddObject>},
     {CLSID_ServerInformation, create<ServerInformationObject>},
+    {CLSID_LeafSelect, create<LeafSelectObject>},
 });
 
 } // namespace

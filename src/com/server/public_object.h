@@ -1,5 +1,6 @@
 #pragma once
 
+#include "com/bstr.h"
 #include "com/dual.h"
 #include "com/failure.h"
 #include "com/server/object_arguments.h"
@@ -49,6 +50,12 @@ protected:
         return guard(__uuidof(Interface), [&] {
             if (!result) throw error_of(E_POINTER);
             *result = value;
+        });
+    }
+    HRESULT read(const std::string& text, BSTR* result) const {
+        return guard(__uuidof(Interface), [&] {
+            if (!result) throw error_of(E_POINTER);
+            *result = Bstr(text).detach();
         });
     }
 };

@@ -1,8 +1,8 @@
 #include "com/server/registration.h"
 
 #include "com/failure.h"
+#include "com/inproc/registry.h"
 #include "com/server/registration_entries.h"
-#include "com/server/registry.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/failure.h"
+#include "com/guid_text.h"
 #include "com/module.h"
 #include "com/server/public_classes.h"
 #include "com/type_info.h"
@@ -24,12 +25,6 @@ constexpr const wchar_t* platform = L"win64";
 #else
 constexpr const wchar_t* platform = L"win32";
 #endif
-
-std::wstring text_of_guid(const GUID& guid) {
-    std::array<wchar_t, 39> text{};
-    StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
 
 std::wstring hexadecimal(unsigned number) {
     std::array<wchar_t, 9> text{};
@@ -61,7 +56,7 @@ public:
         const std::unique_ptr<TLIBATTR, decltype(release)> attributes(found, release);
         const Documentation library_text = documentation_of(library, MEMBERID_NIL);
         library_name_ = library_text.name;
-        library_id_ = text_of_guid(attributes->guid);
+        library_id_ = guid_text(attributes->guid);
         version_ = hexadecimal(attributes->wMajorVerNum) + L"." + hexadecimal(attributes->wMinorVerNum);
 
         const std::wstring key = L"TypeLib\\" + library_id_ + L"\\" + version_;
@@ -89,9 +84,9 @@ private:
         const auto release = [&](TYPEATTR* attributes) { info.ReleaseTypeAttr(attributes); };
         const std::unique_ptr<TYPEATTR, decltype(release)> attributes(found, release);
         if (attributes->typekind == TKIND_DISPATCH)
-            describe_interface(text_of_guid(attributes->guid), documentation_of(info, MEMBERID_NIL));
+            describe_interface(guid_text(attributes->guid), documentation_of(info, MEMBERID_NIL));
         else if (attributes->typekind == TKIND_COCLASS && find_public_class(attributes->guid))
-            describe_class(text_of_guid(attributes->guid), documentation_of(info, MEMBERID_NIL));
+            describe_class(guid_text(attributes->guid), documentation_of(info, MEMBERID_NIL));
     }
 
     void describe_interface(const std::wstring& id, const Documentation& text) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "com/server/registry.h"
+#include "com/inproc/registry.h"
 
 #include <string>
 #include <vector>

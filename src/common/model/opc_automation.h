@@ -21,7 +21,8 @@ using OPCItemsPtr = std::shared_ptr<OPCItems>;
 using OPCItemPtr = std::shared_ptr<OPCItem>;
 using OPCBrowserPtr = std::shared_ptr<OPCBrowser>;
 
-// The members of OPC Data Access Automation 2.02 that the dialogs use, in their published order.
+// The members of OPC Data Access Automation 2.02 that the dialogs and their hosts use, in their published
+// order.
 
 /// A connection to one OPC server. Unconnected it can still list the servers of a node; most of its
 /// properties then fail.
@@ -61,6 +62,11 @@ public:
     virtual std::int32_t Count() = 0;
     /// By position (32-bit integer) or by name (text, exact case).
     virtual OPCGroupPtr Item(const Variant& item_specifier) = 0;
+    /// A new group; the server makes up a name when it is omitted.
+    virtual OPCGroupPtr Add(const std::optional<std::string>& name) = 0;
+    virtual void RemoveAll() = 0;
+    /// By the group's handle (32-bit integer) or by name (text, exact case).
+    virtual void Remove(const Variant& item_specifier) = 0;
 };
 
 /// A group of items that share their sampling.
@@ -117,6 +123,8 @@ public:
     virtual std::int32_t Count() = 0;
     /// The name at a position from 1.
     virtual std::string Item(std::int32_t index) = 0;
+    /// The same into a text that is there already, for names by the million.
+    virtual void read_item(std::int32_t index, std::string& name) { name = Item(index); }
     /// Lists the branches at the current position.
     virtual void ShowBranches() = 0;
     /// Lists the leaves at the current position, or (flat) every leaf from there down.

@@ -1,5 +1,7 @@
 #include "common/values/unicode.h"
 
+#include <array>
+
 namespace brx {
 namespace {
 
@@ -35,12 +37,12 @@ char32_t read_code_point(std::string_view text, std::size_t& position) {
     return code_point;
 }
 
-void append_code_point(std::string& text, char32_t code_point) {
-    const auto put = [&](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
+char* write_code_point(char* to, char32_t code_point) {
+    const auto put = [&](char32_t byte) { *to++ = static_cast<char>(static_cast<unsigned char>(byte)); };
     if (code_point > 0x10FFFF) code_point = 0xFFFD;
     if (code_point < 0x80) {
         put(code_point);
-        return;
+        return to;
     }
     if (code_point < 0x800) {
         put(0xC0 | (code_point >> 6));
@@ -54,6 +56,12 @@ void append_code_point(std::string& text, char32_t code_point) {
         put(0x80 | ((code_point >> 6) & 0x3F));
     }
     put(0x80 | (code_point & 0x3F));
+    return to;
+}
+
+void append_code_point(std::string& text, char32_t code_point) {
+    std::array<char, 4> bytes{};
+    text.append(bytes.data(), write_code_point(bytes.data(), code_point));
 }
 
 std::u32string to_code_points(std::string_view text) {

@@ -14,7 +14,11 @@ inline constexpr char32_t malformed_byte = 0xFFFF'FFFF;
 /// `malformed_byte`.
 char32_t read_code_point(std::string_view text, std::size_t& position);
 
-/// Appends a code point, surrogates included, as one to four bytes. Anything that is none becomes U+FFFD.
+/// Writes a code point, surrogates included, as one to four bytes (three at most below 0x10000) and returns
+/// what follows them. Anything that is no code point becomes U+FFFD.
+char* write_code_point(char* to, char32_t code_point);
+
+/// Appends a code point likewise.
 void append_code_point(std::string& text, char32_t code_point);
 
 /// The code points of a text, each malformed byte as U+FFFD.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/error.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -45,8 +47,10 @@ template <class T> struct Array {
     std::int32_t lower_bound = 1;
 
     std::int32_t upper_bound() const { return lower_bound + static_cast<std::int32_t>(elements.size()) - 1; }
+    /// Error 9 when there is no such element.
     const T& at(std::int32_t index) const {
-        return elements.at(static_cast<std::size_t>(index - lower_bound));
+        if (index < lower_bound || index > upper_bound()) throw Error(error::subscript_out_of_range);
+        return elements[static_cast<std::size_t>(index - lower_bound)];
     }
     bool operator==(const Array&) const = default;
 };

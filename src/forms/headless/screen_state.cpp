@@ -6,6 +6,7 @@
 #include "forms/label.h"
 #include "forms/list_control.h"
 #include "forms/text_box.h"
+#include "forms/tree_rows.h"
 
 namespace brx {
 
@@ -26,6 +27,10 @@ std::string text_of(const Control& control) {
     case Kind::list_box:
     case Kind::combo_box:
         return static_cast<const ListControl&>(control).text();
+    case Kind::tree_view: {
+        const TreeNode* selected = static_cast<const TreeView&>(control).selected();
+        return selected ? selected->text() : std::string();
+    }
     case Kind::panel:
     case Kind::timer:
         break;
@@ -55,6 +60,16 @@ void HeadlessPeer::refresh(Aspect aspects) {
         }
         if (has(aspects, Aspect::selection)) shown_.selected = list->selected();
     }
+    if (auto* tree = dynamic_cast<TreeView*>(&control_)) {
+        if (has(aspects, Aspect::lines)) {
+            tree->take_changes();
+            shown_.lines = rows_of(*tree);
+        }
+        if (has(aspects, Aspect::lines | Aspect::selection))
+            shown_.selected = row_of(*tree, tree->selected());
+    }
+    if (const auto* panel = dynamic_cast<const Panel*>(&control_))
+        if (has(aspects, Aspect::order)) shown_.in_front = panel->in_front();
     if (const auto* box = dynamic_cast<const CheckBox*>(&control_))
         if (has(aspects, Aspect::value)) shown_.value = box->value();
 }

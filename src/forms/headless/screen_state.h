@@ -12,7 +12,7 @@ namespace brx {
 /// What one control showed when its peer last read it.
 struct Shown {
     std::string text;
-    std::vector<std::string> lines;
+    std::vector<std::string> lines; ///< of a tree: the nodes in view, see `rows_of`
     int selected = -1;
     int value = 0;
     bool enabled = false;
@@ -20,6 +20,7 @@ struct Shown {
     Color back_color = 0;
     Color fore_color = 0;
     Place place;
+    bool in_front = false;
 };
 
 /// A peer without a platform: it keeps what it was told to show, so that a scripted user sees what a real one

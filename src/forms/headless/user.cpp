@@ -1,5 +1,6 @@
 #include "forms/headless/user.h"
 
+#include "common/values/text.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/frame.h"
@@ -7,6 +8,7 @@
 #include "forms/list_control.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
+#include "forms/tree_rows.h"
 
 #include <algorithm>
 #include <cctype>
@@ -85,6 +87,12 @@ bool HeadlessUser::click(const std::string& name) {
 }
 
 bool HeadlessUser::choose(const std::string& name, int line) {
+    if (auto* tree = as<TreeView>(find(name))) {
+        TreeNode* node = node_at(*tree, line);
+        if (!node || !tree->can_focus()) return false;
+        tree->user_focus();
+        return tree->user_click(*node);
+    }
     auto* list = as<ListControl>(find(name));
     if (!list || !list->can_focus()) return false;
     list->user_focus();
@@ -92,7 +100,29 @@ bool HeadlessUser::choose(const std::string& name, int line) {
 }
 
 bool HeadlessUser::double_click(const std::string& name, int line) {
+    if (auto* tree = as<TreeView>(find(name))) {
+        if (!choose(name, line)) return false;
+        TreeNode* node = node_at(*tree, line);
+        if (!node || !node->child()) return true;
+        return node->expanded() ? tree->user_collapse(*node) : tree->user_expand(*node);
+    }
     return choose(name, line) && as<ListControl>(find(name))->user_double_click();
+}
+
+bool HeadlessUser::expand(const std::string& name, int row) {
+    auto* tree = as<TreeView>(find(name));
+    TreeNode* node = tree ? node_at(*tree, row) : nullptr;
+    if (!node || !node->child() || node->expanded() || !tree->can_focus()) return false;
+    tree->user_focus();
+    return tree->user_expand(*node);
+}
+
+bool HeadlessUser::collapse(const std::string& name, int row) {
+    auto* tree = as<TreeView>(find(name));
+    TreeNode* node = tree ? node_at(*tree, row) : nullptr;
+    if (!node || !node->expanded() || !tree->can_focus()) return false;
+    tree->user_focus();
+    return tree->user_collapse(*node);
 }
 
 bool HeadlessUser::focus(const std::string& name) {
@@ -119,7 +149,25 @@ bool HeadlessUser::press_character(TextBox& box, const std::string& character) {
     return true;
 }
 
+/// A tree goes to the next node in view that begins with what is typed, round the end.
+bool HeadlessUser::search_tree(const std::string& text) {
+    auto& tree = *as<TreeView>(focused());
+    const auto begins = [&](const TreeNode& node) {
+        return to_upper(node.text()).rfind(to_upper(text), 0) == 0;
+    };
+    const int start = row_of(tree, tree.selected());
+    TreeNode* first = nullptr;
+    int row = 0;
+    for (TreeNode* each = tree.first(); each; each = TreeView::next_in_view(*each), ++row) {
+        if (!begins(*each)) continue;
+        if (row > start) return tree.user_select(*each);
+        if (!first) first = each;
+    }
+    return first && tree.user_select(*first);
+}
+
 bool HeadlessUser::type(const std::string& text) {
+    if (as<TreeView>(focused())) return search_tree(text);
     for (const std::string& character : characters(text)) {
         auto* box = as<TextBox>(focused());
         if (!box || !press_character(*box, character)) return false;
@@ -167,7 +215,40 @@ bool HeadlessUser::space() {
     return type(" ");
 }
 
+bool HeadlessUser::left() {
+    auto* tree = as<TreeView>(focused());
+    TreeNode* node = tree ? tree->selected() : nullptr;
+    if (!node) return false;
+    if (node->expanded()) return tree->user_collapse(*node);
+    return !node->parent() || tree->user_select(*node->parent());
+}
+
+bool HeadlessUser::right() {
+    auto* tree = as<TreeView>(focused());
+    TreeNode* node = tree ? tree->selected() : nullptr;
+    if (!node) return false;
+    if (!node->child()) return true;
+    return node->expanded() ? tree->user_select(*node->child()) : tree->user_expand(*node);
+}
+
+bool HeadlessUser::plus() {
+    auto* tree = as<TreeView>(focused());
+    TreeNode* node = tree ? tree->selected() : nullptr;
+    return node && (!node->child() || tree->user_expand(*node));
+}
+
+bool HeadlessUser::minus() {
+    auto* tree = as<TreeView>(focused());
+    TreeNode* node = tree ? tree->selected() : nullptr;
+    return node && tree->user_collapse(*node);
+}
+
 bool HeadlessUser::move(int lines) {
+    if (auto* tree = as<TreeView>(focused())) {
+        const int row = row_of(*tree, tree->selected());
+        TreeNode* node = node_at(*tree, std::max(row + lines, 0));
+        return node ? tree->user_select(*node) : row >= 0;
+    }
     auto* list = as<ListControl>(focused());
     if (!list || list->count() == 0) return false;
     return list->user_select(std::clamp(list->selected() + lines, 0, list->count() - 1));

@@ -18,6 +18,9 @@ public:
     bool click(const std::string& control);
     bool choose(const std::string& list, int line);
     bool double_click(const std::string& list, int line);
+    /// Of a tree, with the mouse on the sign before the node.
+    bool expand(const std::string& tree, int row);
+    bool collapse(const std::string& tree, int row);
     bool focus(const std::string& control);
     bool type(const std::string& text);
     bool paste(const std::string& text);
@@ -26,6 +29,10 @@ public:
     bool tab(bool backwards);
     bool space();
     bool move(int lines);
+    bool left();
+    bool right();
+    bool plus();
+    bool minus();
     bool help();
     bool backspace();
     bool accelerator(char letter);
@@ -36,6 +43,7 @@ private:
     Form* form() const;
     Control* find(const std::string& name) const;
     Control* focused() const;
+    bool search_tree(const std::string& text);
     bool press_character(TextBox& box, const std::string& character);
 
     HeadlessEngine& engine_;

@@ -4,6 +4,7 @@
 #include "forms/win32/form_window.h"
 #include "forms/win32/visual_styles.h"
 #include "forms/win32/window_name.h"
+#include "win32/this_module.h"
 
 #include <commctrl.h>
 
@@ -11,14 +12,23 @@ namespace brx {
 
 namespace {
 constexpr UINT_PTR subclass_id = 1;
+
+/// Nothing draws over what lies before it. The line around a group lies before the controls in it, but they
+/// are drawn within it.
+DWORD clipping(const Control& control) {
+    for (const Control* around = control.container().as_control(); around;
+         around = around->container().as_control())
+        if (around->kind() == Kind::frame) return 0;
+    return WS_CLIPSIBLINGS;
 }
+} // namespace
 
 ControlPeer::ControlPeer(FormWindow& window, Control& control, const NativeControl& native)
     : Peer(control), window_(window), control_(control) {
     const VisualStyles styles;
-    handle_ =
-        CreateWindowExW(native.ex_style, native.window_class, L"", WS_CHILD | native.style, 0, 0, 0, 0,
-                        window.handle(), reinterpret_cast<HMENU>(window.next_id()), this_module(), nullptr);
+    handle_ = CreateWindowExW(native.ex_style, native.window_class, L"",
+                              WS_CHILD | clipping(control) | native.style, 0, 0, 0, 0, window.handle(),
+                              reinterpret_cast<HMENU>(window.next_id()), this_module(), nullptr);
     if (handle_) native_procedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
     if (!handle_ || !set_window_name(handle_, control.name()) ||
         !SetWindowSubclass(handle_, procedure, subclass_id, reinterpret_cast<DWORD_PTR>(this)))
@@ -64,15 +74,17 @@ void ControlPeer::font_changed() {
 }
 
 void ControlPeer::move_to(const RECT& place) {
+    // Nothing is copied: controls that make room for each other lie over each other meanwhile.
     SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_NOCOPYBITS);
 }
 
 HBRUSH ControlPeer::set_colors(HDC dc) const {
-    // The system knows best how a disabled control looks.
-    if (!IsWindowEnabled(handle_)) return nullptr;
+    // The system knows best how a disabled control looks, but leaves the background of a list to us.
+    const bool enabled = IsWindowEnabled(handle_) != FALSE;
+    if (!enabled && control_.kind() != Kind::list_box) return nullptr;
     Palette& palette = window_.palette();
-    SetTextColor(dc, Palette::rgb(control_.fore_color()));
+    SetTextColor(dc, enabled ? Palette::rgb(control_.fore_color()) : GetSysColor(COLOR_GRAYTEXT));
     SetBkColor(dc, Palette::rgb(control_.back_color()));
     return palette.brush(control_.back_color());
 }

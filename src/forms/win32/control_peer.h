@@ -32,6 +32,11 @@ public:
 
     /// The window reports this (the high word of WM_COMMAND).
     virtual void notified(WORD code) { static_cast<void>(code); }
+    /// The window reports this with WM_NOTIFY, and goes by the answer.
+    virtual LRESULT notified_of(NMHDR& notification) {
+        static_cast<void>(notification);
+        return 0;
+    }
     /// The form has another font or scale.
     virtual void font_changed();
     /// Sets its colours and returns the background; null leaves both to the system.

@@ -6,6 +6,7 @@
 #include "forms/label.h"
 #include "forms/list_control.h"
 #include "forms/text_box.h"
+#include "forms/tree_rows.h"
 #include "forms/win32/wide.h"
 
 #include <algorithm>
@@ -19,10 +20,21 @@ struct Description {
     int number = -1;
     int lines = 0;
     std::string text = {};
+    std::vector<std::string> rows = {};
 };
 
 Description describe_list(const char* kind, const ListControl& list) {
-    return {kind, list.selected(), list.count(), list.text()};
+    return {kind, list.selected(), list.count(), list.text(), {}};
+}
+
+Description describe_tree(const TreeView& tree) {
+    std::vector<std::string> rows = rows_of(tree);
+    const int row = row_of(tree, tree.selected());
+    return {.kind = "tree_view",
+            .number = row,
+            .lines = static_cast<int>(rows.size()),
+            .text = row < 0 ? std::string() : tree.selected()->text(),
+            .rows = std::move(rows)};
 }
 
 Description describe(const Control& control) {
@@ -41,10 +53,12 @@ Description describe(const Control& control) {
         return describe_list("list_box", dynamic_cast<const ListControl&>(control));
     case Kind::combo_box:
         return describe_list("combo_box", dynamic_cast<const ListControl&>(control));
+    case Kind::tree_view:
+        return describe_tree(dynamic_cast<const TreeView&>(control));
     case Kind::frame:
         return {.kind = "frame", .text = dynamic_cast<const Frame&>(control).caption()};
     case Kind::panel:
-        return {.kind = "panel"};
+        return {.kind = "panel", .number = dynamic_cast<const Panel&>(control).in_front() ? 1 : 0};
     case Kind::timer:
         return {.kind = "timer"};
     }
@@ -91,8 +105,13 @@ UINT describe_message() {
 
 LRESULT describe(const Form& form, WPARAM capacity, LPARAM buffer) {
     std::string all = line(form.name(), form.in_front(), true, {.kind = "form", .text = form.caption()});
-    for (const Control* control : form.controls())
-        all += line(control->name(), control->takes_input(), control->shows(), describe(*control));
+    for (const Control* control : form.controls()) {
+        const Description what = describe(*control);
+        all += line(control->name(), control->takes_input(), control->shows(), what);
+        for (const std::string& row : what.rows)
+            all +=
+                line(control->name(), control->takes_input(), control->shows(), {.kind = "row", .text = row});
+    }
     const std::wstring answer = to_wide(all);
     if (buffer != 0 && capacity > 0) {
         auto* const to = reinterpret_cast<wchar_t*>(buffer);

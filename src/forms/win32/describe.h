@@ -16,11 +16,17 @@ namespace brx {
 ///
 ///   name  kind  enabled  visible  number  lines  text
 ///
-/// `kind` is form, label, text_box, button, check_box, list_box, combo_box, frame, panel or timer. `enabled`
-/// and `visible` are 0 or 1, containers considered. `number` is the selected line or the value of a check
-/// box, -1 for the other kinds, and `lines` how many lines a list has, 0 for the other kinds. `text` is the
-/// caption, the text or the selected line's text, with \\ \t \r \n \0 for backslash, tab, carriage return,
-/// line feed and NUL. The form itself is enabled while a person can do something with it.
+/// `kind` is form, label, text_box, button, check_box, list_box, combo_box, tree_view, frame, panel or timer.
+/// `enabled` and `visible` are 0 or 1, containers considered. `number` is the selected line, the value of a
+/// check box, or 1 for a panel that lies before what it overlaps and 0 for one behind; -1 for the other
+/// kinds. `lines` is how many lines a list has, 0 for the other kinds. `text` is the caption, the text or the
+/// selected line's text, with \\ \t \r \n \0 for backslash, tab, carriage return, line feed and NUL. The form
+/// itself is enabled while a person can do something with it.
+///
+/// Of a tree the lines are the nodes in view. They follow the line of the tree, under its name, as lines of
+/// kind `row` whose text begins with two blanks for each level and "+" for a closed node, "-" for an open one
+/// or a blank for one without children. `number` is the row of the selected node, -1 when none in view is
+/// selected, and `text` that node's own text.
 UINT describe_message();
 
 /// Answers it.

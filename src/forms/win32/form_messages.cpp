@@ -29,6 +29,11 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
     switch (message) {
     case WM_COMMAND:
         return command(wparam, reinterpret_cast<HWND>(lparam));
+    case WM_NOTIFY: {
+        auto& notification = *reinterpret_cast<NMHDR*>(lparam);
+        ControlPeer* const peer = peer_of(notification.hwndFrom);
+        return peer ? answer(peer->notified_of(notification)) : FALSE;
+    }
     case WM_CLOSE:
         report([&] { return form_.user_close(); });
         return TRUE;

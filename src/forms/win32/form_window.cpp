@@ -5,6 +5,7 @@
 #include "forms/win32/dpi.h"
 #include "forms/win32/wide.h"
 #include "forms/win32/window_name.h"
+#include "win32/this_module.h"
 
 #include <commctrl.h>
 
@@ -59,10 +60,9 @@ void FormWindow::create(HWND owner) {
     refresh(Aspect::text);
 
     const Showing echo(*this);
-    for (Control* control : form_.controls_in_tab_order()) {
-        peers_.push_back(make_peer(*this, *control));
-        peers_.back()->refresh(Aspect::everything);
-    }
+    for (Control* control : form_.controls_in_tab_order()) peers_.push_back(make_peer(*this, *control));
+    // Only among all of them it is clear what lies before what.
+    for (const auto& peer : peers_) peer->refresh(Aspect::everything);
     if (const Button* button = form_.default_button())
         SendMessageW(handle_, DM_SETDEFID,
                      static_cast<WPARAM>(GetDlgCtrlID(static_cast<ControlPeer*>(button->peer())->handle())),
@@ -140,9 +140,13 @@ FormWindow::Area FormWindow::area_of(const Control* control) const {
     const auto given = [&](Anchor anchor, LONG length) {
         return has(control->anchor(), anchor) ? length : 0;
     };
-    const SIZE own_growth = {given(Anchor::stretch_width, growth.cx),
+    // Of two halves the right one takes what cannot be divided.
+    const LONG half = growth.cx / 2;
+    const LONG own_half = has(control->anchor(), Anchor::middle) ? growth.cx - half : half;
+    const SIZE own_growth = {given(Anchor::stretch_width, growth.cx) +
+                                 given(Anchor::stretch_half_width, own_half),
                              given(Anchor::stretch_height, growth.cy)};
-    const LONG left = around.left + given(Anchor::right, growth.cx);
+    const LONG left = around.left + given(Anchor::right, growth.cx) + given(Anchor::middle, half);
     const LONG top = around.top + given(Anchor::bottom, growth.cy);
     // Edges are scaled, not lengths, so that what touches at 100 % touches at any scale.
     return {{left + scaled(place.left, dpi_), top + scaled(place.top, dpi_),

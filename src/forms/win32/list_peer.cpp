@@ -1,7 +1,7 @@
 #include "forms/win32/list_peer.h"
 
 #include "forms/win32/form_window.h"
-#include "forms/win32/gdi.h"
+#include "forms/win32/text_widths.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -12,7 +12,12 @@ namespace brx {
 
 namespace {
 constexpr int longest_drop = 20; ///< lines
-}
+
+/// Room for the lines of a long list is asked for when so many of them are there. Some systems' lists give
+/// back what is far more than they need at the moment, and then grow by small steps, copying; but not once
+/// they are large.
+constexpr int first_reserve = 40'000;
+} // namespace
 
 const ListPeer::Messages ListBoxPeer::messages = {LB_RESETCONTENT, LB_ADDSTRING, LB_DELETESTRING, LB_GETCOUNT,
                                                   LB_INITSTORAGE,  LB_GETCURSEL, LB_SETCURSEL};
@@ -41,32 +46,41 @@ void ListPeer::show_lines() {
         widest_ = 0;
     }
     while (shown > kept) send_directly(messages_.remove, static_cast<WPARAM>(--shown));
-    std::size_t bytes = 0;
-    for (int i = shown; i < list_.count(); ++i) bytes += (list_.text(i).size() + 1) * sizeof(wchar_t);
-    send(messages_.reserve, static_cast<WPARAM>(list_.count() - shown), static_cast<LPARAM>(bytes));
-    for (int i = shown; i < list_.count(); ++i)
-        send_directly(messages_.add, 0, reinterpret_cast<LPARAM>(to_wide(list_.text(i)).c_str()));
-    measure(shown);
+    add_lines(shown);
+    show_extent(widest_);
     send(WM_SETREDRAW, TRUE);
     // Drawing again may have made it visible.
     if (!visible) ShowWindow(handle(), SW_HIDE);
     InvalidateRect(handle(), nullptr, TRUE);
 }
 
-void ListPeer::measure(int from) {
-    const TextMeasure measure(handle(), window().font());
+void ListPeer::add_lines(int from) {
+    const TextWidths widths(handle(), window().font());
+    const int rest = std::min(from + first_reserve, list_.count());
+    std::wstring text;
     for (int i = from; i < list_.count(); ++i) {
-        const std::wstring text = to_wide(list_.text(i));
-        widest_ = std::max(widest_, measure.width(text.data(), text.size()));
+        if (i == from) reserve(from, rest);
+        if (i == rest) reserve(rest, list_.count());
+        const std::string_view line = list_.line(i);
+        to_wide(line, text);
+        send_directly(messages_.add, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        widest_ = std::max(widest_, widths.of(line));
     }
-    show_extent(widest_);
+}
+
+void ListPeer::reserve(int from, int to) {
+    std::size_t bytes = 0;
+    for (int i = from; i < to; ++i) bytes += (list_.line(i).size() + 1) * sizeof(wchar_t);
+    send(messages_.reserve, static_cast<WPARAM>(to - from), static_cast<LPARAM>(bytes));
 }
 
 void ListPeer::font_changed() {
     ControlPeer::font_changed();
     if (!handle()) return;
+    const TextWidths widths(handle(), window().font());
     widest_ = 0;
-    measure(0);
+    for (int i = 0; i < list_.count(); ++i) widest_ = std::max(widest_, widths.of(list_.line(i)));
+    show_extent(widest_);
 }
 
 void ListPeer::report_selection() {

@@ -27,7 +27,8 @@ protected:
 
 private:
     void show_lines();
-    void measure(int from);
+    void add_lines(int from);
+    void reserve(int from, int to);
 
     ListControl& list_;
     const Messages& messages_;

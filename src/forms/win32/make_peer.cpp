@@ -2,6 +2,7 @@
 #include "forms/win32/simple_peers.h"
 #include "forms/win32/text_box_peer.h"
 #include "forms/win32/timer_peer.h"
+#include "forms/win32/tree_peer.h"
 
 namespace brx {
 
@@ -28,6 +29,8 @@ std::unique_ptr<Peer> make_peer(FormWindow& window, Control& control) {
         return make<ListBoxPeer, ListBox>(window, control);
     case Kind::combo_box:
         return make<ComboBoxPeer, ComboBox>(window, control);
+    case Kind::tree_view:
+        return make<TreePeer, TreeView>(window, control);
     case Kind::frame:
         return make<FramePeer, Frame>(window, control);
     case Kind::panel:

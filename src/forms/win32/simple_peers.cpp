@@ -69,6 +69,17 @@ FramePeer::FramePeer(FormWindow& window, Frame& frame)
 }
 
 PanelPeer::PanelPeer(FormWindow& window, Panel& panel)
-    : ControlPeer(window, panel, {WC_STATICW, SS_LEFT | SS_NOPREFIX | WS_GROUP}) {}
+    : ControlPeer(
+          window, panel,
+          {WC_STATICW, SS_LEFT | SS_NOPREFIX | SS_NOTIFY | WS_GROUP | (panel.edge() ? DWORD{WS_BORDER} : 0)}),
+      panel_(panel) {}
+
+void PanelPeer::show(Aspect aspects) {
+    ControlPeer::show(aspects);
+    // The focus never stops at it, so that the tab order stays as it is.
+    if (has(aspects, Aspect::order))
+        SetWindowPos(handle(), panel_.in_front() ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
 
 } // namespace brx

@@ -53,6 +53,12 @@ public:
 class PanelPeer : public ControlPeer {
 public:
     PanelPeer(FormWindow& window, Panel& panel);
+
+protected:
+    void show(Aspect aspects) override;
+
+private:
+    Panel& panel_;
 };
 
 } // namespace brx

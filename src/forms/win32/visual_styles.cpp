@@ -1,5 +1,7 @@
 #include "forms/win32/visual_styles.h"
 
+#include "win32/this_module.h"
+
 namespace brx {
 
 namespace {
@@ -55,14 +57,6 @@ HostContext::Scope::Scope(const HostContext& host) noexcept {
 
 HostContext::Scope::~Scope() {
     if (active_) DeactivateActCtx(0, cookie_);
-}
-
-HINSTANCE this_module() noexcept {
-    static const char here = 0;
-    HMODULE module = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&here), &module);
-    return module;
 }
 
 } // namespace brx

@@ -45,7 +45,4 @@ private:
     bool known_ = false;
 };
 
-/// The module (DLL or program) that this code is part of.
-HINSTANCE this_module() noexcept;
-
 } // namespace brx

@@ -1,15 +1,14 @@
 #include "forms/win32/wide.h"
 
-#include "common/values/text.h"
+#include "common/values/utf16.h"
 
 namespace brx {
 
-std::wstring to_wide(std::string_view text) {
-    const std::u16string units = to_utf16(text);
-    return {units.begin(), units.end()};
-}
+std::wstring to_wide(std::string_view text) { return utf16_of<wchar_t>(text); }
 
-std::string from_wide(std::wstring_view text) { return to_utf8(std::u16string(text.begin(), text.end())); }
+void to_wide(std::string_view text, std::wstring& result) { write_utf16(result, text); }
+
+std::string from_wide(std::wstring_view text) { return utf8_of(text); }
 
 std::wstring window_text(HWND window) {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');

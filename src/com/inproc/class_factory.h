@@ -8,7 +8,11 @@
 
 namespace brx {
 
-struct PublicClass;
+/// A class that hosts create.
+struct PublicClass {
+    const CLSID& clsid;
+    com_ptr<IDispatch> (*create)();
+};
 
 /// What a host makes objects of a public class with.
 com_ptr<IClassFactory> class_factory_of(const PublicClass& public_class);

@@ -1,4 +1,4 @@
-#include "com/server/registry.h"
+#include "com/inproc/registry.h"
 
 #include "com/failure.h"
 

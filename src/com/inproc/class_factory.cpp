@@ -1,8 +1,7 @@
-#include "com/server/class_factory.h"
+#include "com/inproc/class_factory.h"
 
 #include "com/failure.h"
 #include "com/module.h"
-#include "com/server/public_classes.h"
 
 #include <atomic>
 #include <memory>

@@ -1,0 +1,84 @@
+#include "host/fake_browser.h"
+
+#include <algorithm>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr std::int32_t unspecified = -2147467259; // 0x80004005
+
+}
+
+void FakeBrowser::note(const std::string& member, const std::string& arguments) {
+    before(member);
+    calls_.note("OPCBrowser." + member + arguments);
+    if (failing.contains(member)) throw Error(unspecified, member + " is out of order", "OPCBrowser");
+}
+
+std::int32_t FakeBrowser::Organization() {
+    note("Organization");
+    return organization;
+}
+
+std::int32_t FakeBrowser::Count() {
+    note("Count");
+    return claimed_count.value_or(static_cast<std::int32_t>(list_.size()));
+}
+
+std::string FakeBrowser::Item(std::int32_t index) {
+    note("Item", "(" + std::to_string(index) + ")");
+    if (index < 1 || static_cast<std::size_t>(index) > list_.size())
+        throw Error(error::subscript_out_of_range);
+    return list_[static_cast<std::size_t>(index) - 1];
+}
+
+void FakeBrowser::ShowBranches() {
+    note("ShowBranches");
+    list_.clear();
+    for (const FakeBranch& branch : here_->branches) list_.push_back(branch.name);
+}
+
+void FakeBrowser::ShowLeafs(bool flat) {
+    note("ShowLeafs", flat ? "(True)" : "(False)");
+    list_.clear();
+    if (flat)
+        list_all_below(*here_, "");
+    else
+        list_ = here_->leaves;
+}
+
+void FakeBrowser::list_all_below(const FakeBranch& branch, const std::string& path) {
+    for (const std::string& leaf : branch.leaves) list_.push_back(path + leaf);
+    for (const FakeBranch& below : branch.branches) list_all_below(below, path + below.name + ".");
+}
+
+void FakeBrowser::MoveToRoot() {
+    note("MoveToRoot");
+    here_ = &root;
+    path_.clear();
+}
+
+void FakeBrowser::MoveTo(const StringArray& branches) {
+    std::string names;
+    for (const std::string& name : branches.elements) names += (names.empty() ? "" : "|") + name;
+    note("MoveTo", "(" + names + ")");
+    here_ = &root;
+    path_.clear();
+    for (const std::string& name : branches.elements) {
+        const auto found = std::find_if(here_->branches.begin(), here_->branches.end(),
+                                        [&](const FakeBranch& each) { return each.name == name; });
+        if (found == here_->branches.end()) throw Error(unspecified, "There is no " + name, "OPCBrowser");
+        here_ = &*found;
+        path_ += name + ".";
+    }
+}
+
+std::string FakeBrowser::GetItemID(const std::string& leaf) {
+    note("GetItemID", "(" + leaf + ")");
+    if (std::find(list_.begin(), list_.end(), leaf) == list_.end())
+        throw Error(unspecified, "There is no " + leaf, "OPCBrowser");
+    return path_ + leaf;
+}
+
+} // namespace brx::checks

@@ -1,0 +1,62 @@
+#include "looks.h"
+#include "sample_form.h"
+
+namespace brx::checks {
+
+namespace {
+
+class ColorsTest : public OnWindows {};
+
+constexpr Color mint = 0x00C0F0C0;
+
+} // namespace
+
+TEST_F(ColorsTest, ColorsSetByCodeAreShown) {
+    Sample form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Sample");
+        hands.run([&] {
+            form.run_event([&] {
+                form.Box.set_back_color(mint);
+                form.Box.set_fore_color(color::red);
+            });
+        });
+        const Paint paint = paint_of(hands, hands.control("Sample", "Box"), WM_CTLCOLOREDIT);
+        EXPECT_TRUE(paint.told);
+        EXPECT_EQ(paint.text, color::red);
+        EXPECT_EQ(paint.background, mint);
+    });
+}
+
+TEST_F(ColorsTest, ColorsFollowTheSystemsEvenWhileTheFormIsOpen) {
+    Sample form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Sample");
+        const HWND box = hands.control("Sample", "Box");
+        const HWND fixed = hands.control("Sample", "Fixed");
+        EXPECT_EQ(paint_of(hands, box, WM_CTLCOLOREDIT).background, GetSysColor(COLOR_WINDOW));
+        const SystemColor dark(COLOR_WINDOW, 0x00100000);
+        const SystemColor light(COLOR_WINDOWTEXT, 0x00FFFFF0);
+        const SystemColor face(COLOR_BTNFACE, 0x00200000);
+        hands.wait_until_idle();
+        EXPECT_EQ(paint_of(hands, box, WM_CTLCOLOREDIT).background, 0x00100000u);
+        EXPECT_EQ(paint_of(hands, box, WM_CTLCOLOREDIT).text, 0x00FFFFF0u);
+        EXPECT_EQ(paint_of(hands, fixed, WM_CTLCOLORSTATIC).background, 0x00200000u);
+    });
+}
+
+TEST_F(ColorsTest, ADisabledControlIsLeftToTheSystemsColors) {
+    Sample form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Sample");
+        hands.run([&] {
+            form.run_event([&] {
+                form.Box.set_back_color(mint);
+                form.Box.set_enabled(false);
+            });
+        });
+        EXPECT_FALSE(paint_of(hands, hands.control("Sample", "Box"), WM_CTLCOLORSTATIC).background == mint);
+    });
+}
+
+} // namespace brx::checks

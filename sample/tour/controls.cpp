@@ -1,0 +1,84 @@
+#include "tour/controls.h"
+
+#include "tour/program.h"
+
+#include <commctrl.h>
+
+namespace tour {
+
+namespace {
+
+bool is_combo_box(HWND window) {
+    wchar_t name[16]{};
+    GetClassNameW(window, name, 16);
+    return std::wstring(name) == L"ComboBox";
+}
+
+} // namespace
+
+std::wstring text_of(HWND window) {
+    std::wstring text(static_cast<std::size_t>(ask(window, WM_GETTEXTLENGTH)) + 1, L'\0');
+    const LRESULT length = ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+Lines lines_of(HWND list) {
+    const bool combo = is_combo_box(list);
+    Lines lines;
+    const LRESULT count = ask(list, combo ? CB_GETCOUNT : LB_GETCOUNT);
+    for (LRESULT i = 0; i < count; ++i) {
+        const auto index = static_cast<WPARAM>(i);
+        const LRESULT length = ask(list, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index);
+        if (length < 0) break; // the list has grown shorter meanwhile
+        std::wstring line(static_cast<std::size_t>(length) + 1, L'\0');
+        ask(list, combo ? CB_GETLBTEXT : LB_GETTEXT, index, reinterpret_cast<LPARAM>(line.data()));
+        line.resize(static_cast<std::size_t>(length));
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::wstring message_of(HWND box) {
+    std::wstring all;
+    for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        if (const std::wstring text = text_of(child); text.size() > all.size()) all = text;
+    return all;
+}
+
+int rows_of(HWND list_view) { return static_cast<int>(ask(list_view, LVM_GETITEMCOUNT)); }
+
+int selected_row(HWND list_view) {
+    return static_cast<int>(ask(list_view, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void click(HWND control, POINT place) {
+    const LPARAM at = MAKELPARAM(place.x, place.y);
+    PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    PostMessageW(control, WM_LBUTTONUP, 0, at);
+}
+
+void press(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
+
+void type(HWND box, const std::wstring& text) {
+    for (const wchar_t each : text) PostMessageW(box, WM_CHAR, each, 1);
+}
+
+void hit(HWND control, WPARAM key) {
+    PostMessageW(control, WM_KEYDOWN, key, 1);
+    PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+}
+
+void click_line(HWND list, int line, bool twice) {
+    const auto height = static_cast<LONG>(ask(list, LB_GETITEMHEIGHT));
+    const POINT place{20, line * height + height / 2};
+    click(list, place);
+    if (!twice) return;
+    const LPARAM at = MAKELPARAM(place.x, place.y);
+    PostMessageW(list, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
+    PostMessageW(list, WM_LBUTTONUP, 0, at);
+}
+
+void close(HWND window) { PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0); }
+
+} // namespace tour

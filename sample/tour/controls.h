@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace tour {
+
+// What a person reads in the controls of another program, and does with them.
+
+using Lines = std::vector<std::wstring>;
+
+std::wstring text_of(HWND window);
+/// The lines of a list box or a combo box.
+Lines lines_of(HWND list);
+/// The text of a message box.
+std::wstring message_of(HWND box);
+/// How many rows a list view has, and which one is selected, from 0; -1 for none.
+int rows_of(HWND list_view);
+int selected_row(HWND list_view);
+
+void click(HWND control, POINT place);
+void press(HWND button);
+void type(HWND box, const std::wstring& text);
+void hit(HWND control, WPARAM key);
+/// Clicks on a line of a list box, or double-clicks.
+void click_line(HWND list, int line, bool twice = false);
+void close(HWND window);
+
+} // namespace tour

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "tour/controls.h"
+#include "tour/guide.h"
+#include "tour/tree.h"
+
+namespace tour {
+
+/// What she does in the dialogs, and what she reads there.
+class Visit {
+public:
+    Visit(const Program& program, Guide& guide) : program_(program), guide_(guide) {}
+
+    void selecting();
+    void adding();
+    void browsing();
+    void browsing_other_servers();
+    void watching();
+
+private:
+    // What she reads in the window in front.
+    bool at(const std::wstring& name) const { return program_.front_name() == name; }
+    Lines lines(const std::wstring& list) const { return lines_of(program_.control(list)); }
+    std::wstring reads(const std::wstring& control) const { return text_of(program_.control(control)); }
+    Tree tree() const { return {program_, program_.control(L"TrView")}; }
+    bool is_visible(const std::wstring& control) const { return IsWindowVisible(program_.control(control)); }
+    bool can_press(const std::wstring& button) const;
+    bool message_starts(const std::wstring& headline) const;
+
+    // What she does there.
+    void press(const std::wstring& button) const;
+    void click_on(const std::wstring& list, const std::wstring& line, bool twice = false) const;
+    void fill_in(const std::wstring& box, const std::wstring& text) const;
+    /// Presses the message box away; then the named dialog is in front again.
+    void answer(const std::wstring& dialog) const;
+
+    /// In the host's window.
+    void select_first_server() const;
+    void choose_server(const std::wstring& server) const;
+    void ask_node(const std::string& telling, const std::string& picture, const std::wstring& node,
+                  const std::function<bool(const Lines&)>& found);
+    void enter_node(const std::wstring& node) const;
+    bool nothing_found(const Lines& found) const;
+    /// From the host's window, a server of this computer.
+    void add_server(const std::wstring& server) const;
+
+    const Program& program_;
+    Guide& guide_;
+};
+
+} // namespace tour

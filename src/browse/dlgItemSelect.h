@@ -1,0 +1,108 @@
+#pragma once
+
+#include "common/model/opc_automation.h"
+#include "forms/button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/list_control.h"
+#include "forms/text_box.h"
+#include "forms/tree_view.h"
+
+#include <cstdint>
+#include <string>
+
+namespace brx {
+
+/// Lets a person pick one item of an OPC server's address space, or type its identifier.
+class dlgItemSelect : public Form {
+public:
+    explicit dlgItemSelect(Environment& environment);
+
+    /// The connected server to browse.
+    const OPCServerPtr& OPCServer() const { return server_; }
+    void set_OPCServer(const OPCServerPtr& server) { server_ = server; }
+    /// A group of that server, which says whether an item can be had. Without one none is ever accepted.
+    const OPCGroupPtr& OPCGroup() const { return group_; }
+    void set_OPCGroup(const OPCGroupPtr& group) { group_ = group; }
+    /// The item identifier: to start with, and once the person has confirmed the accepted one.
+    const std::string& Leaf() const { return leaf_; }
+    void set_Leaf(const std::string& leaf) { leaf_ = leaf; }
+    /// True once the person has confirmed an item that the server knows.
+    bool OkClicked() const { return ok_clicked_; }
+    void set_OkClicked(bool clicked) { ok_clicked_ = clicked; }
+
+    /// With the flag set, shows `Leaf` in the text box if the server has any leaf, and finds nothing.
+    /// Otherwise tells whether the server has it, in whatever letter case.
+    bool SearchForPath(bool SelectFlag);
+
+private:
+    static constexpr Anchor tree_anchor = Anchor::stretch_half_width | Anchor::stretch_height;
+    static constexpr Anchor last_row = Anchor::bottom | Anchor::right;
+
+    // clang-format off
+    Label    Label1     {*this, "Label1",      {.place = {11, 15, 92, 15}, .caption = "Server Name:", .tab = 1}};
+    TextBox  txtServer  {*this, "txtServer",   {.place = {107, 11, 442, 23}, .tab = 2, .display_only = true,
+                                                .anchor = Anchor::stretch_width}};
+    Label    Label2     {*this, "Label2",      {.place = {11, 45, 265, 15}, .caption = "&A. Groups:", .tab = 3}};
+    TreeView TrView     {*this, "TrView",      {.place = {11, 63, 265, 265}, .tab = 4, .anchor = tree_anchor,
+                                                .Expand = [this](TreeNode& node) { TrView_Expand(node); },
+                                                .NodeClick = [this](TreeNode& node) { TrView_NodeClick(node); },
+                                                .Click = [this] { TrView_Click(); }}};
+    Panel    picTrView  {*this, "picTrView",   {.place = {11, 63, 265, 265}, .anchor = tree_anchor, .edge = true}};
+    Label    Label3     {*this, "Label3",      {.place = {283, 45, 266, 15}, .caption = "&B. Items:", .tab = 5,
+                                                .anchor = Anchor::middle}};
+    ListBox  lstItem    {*this, "lstItem",     {.place = {283, 63, 266, 265}, .tab = 6,
+                                                .anchor = Anchor::middle | tree_anchor,
+                                                .Click = [this] { lstItem_Click(); },
+                                                .DblClick = [this] { lstItem_DblClick(); }}};
+    Label    Label4     {*this, "Label4",      {.place = {11, 339, 538, 15},
+                                                .caption = "&C. Item (Examples: somegroup.someitem or [mytopic]myitem)",
+                                                .tab = 7, .anchor = Anchor::bottom | Anchor::stretch_width}};
+    TextBox  txtFullPath{*this, "txtFullPath", {.place = {11, 357, 538, 23}, .tab = 8,
+                                                .anchor = Anchor::bottom | Anchor::stretch_width,
+                                                .Change = [this] { txtFullPath_Change(); },
+                                                .KeyPress = [this](auto&) { txtFullPath_KeyPress(); }}};
+    Button   cmdRefresh {*this, "cmdRefresh",  {.place = {11, 391, 75, 23}, .caption = "&Refresh", .tab = 9,
+                                                .anchor = Anchor::bottom, .Click = [this] { cmdRefresh_Click(); }}};
+    Button   bnOK       {*this, "bnOK",        {.place = {392, 391, 75, 23}, .caption = "OK", .tab = 10,
+                                                .is_default = true, .anchor = last_row,
+                                                .Click = [this] { bnOK_Click(); }}};
+    Button   bnCancel   {*this, "bnCancel",    {.place = {474, 391, 75, 23}, .caption = "&Cancel", .tab = 11,
+                                                .is_cancel = true, .anchor = last_row,
+                                                .Click = [this] { bnCancel_Click(); }}};
+    // clang-format on
+
+    void Form_Load() override;
+    void Form_Unload() override;
+    void cmdRefresh_Click();
+    void TrView_Expand(TreeNode& Node);
+    void TrView_NodeClick(TreeNode& Node);
+    void TrView_Click();
+    void lstItem_Click();
+    void lstItem_DblClick();
+    void txtFullPath_Change();
+    void txtFullPath_KeyPress();
+    void bnOK_Click();
+    void bnCancel_Click();
+
+    void ConnectServer();
+    void BuildGroupList();
+    void BuildNodes(const std::string& ParentKey, int ParentIndex);
+    void BuildLeaves(const std::string& Key, int Index);
+    void GetAllLeaves();
+    bool CheckItem();
+    bool ValidateItem(const std::string& ItemID);
+
+    void show_nothing_to_browse();
+    void show_browsing();
+    void list_items(std::int32_t count);
+
+    OPCServerPtr server_;
+    OPCGroupPtr group_;
+    OPCBrowserPtr browser_;
+    std::string selected_leaf_;
+    std::string leaf_;
+    bool ok_clicked_ = false;
+};
+
+} // namespace brx

@@ -1,0 +1,111 @@
+// The typed item path, its validation, OK and Cancel.
+
+#include "browse/dlgItemSelect.h"
+#include "common/values/text.h"
+#include "forms/busy_cursor.h"
+#include "forms/focus.h"
+
+namespace brx {
+
+bool dlgItemSelect::SearchForPath(bool SelectFlag) {
+    bool found = false;
+    trap("SearchForPath", [&] {
+        if (!browser_) return;
+        const BusyCursor busy(*this);
+        browser_->MoveToRoot();
+        browser_->ShowLeafs(true);
+        const std::int32_t count = browser_->Count();
+        for (std::int32_t i = 1; i <= count; ++i) {
+            if (SelectFlag) return txtFullPath.set_text(leaf_);
+            if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
+            found = true;
+            return;
+        }
+    });
+    return found;
+}
+
+void dlgItemSelect::lstItem_Click() {
+    trap("lstItem_Click", [&] {
+        txtFullPath.set_text("");
+        if (lstItem.selected() < 0) {
+            selected_leaf_.clear();
+            bnOK.set_enabled(false);
+            return;
+        }
+        bnOK.set_enabled(true);
+        selected_leaf_ = lstItem.text();
+        if (selected_leaf_.empty()) return;
+        // The browser still stands at the branch that was listed.
+        attempt([&] { leaf_ = browser_->GetItemID(selected_leaf_); });
+        txtFullPath.set_text(leaf_);
+    });
+}
+
+void dlgItemSelect::lstItem_DblClick() {
+    trap("lstItem_DblClick", [&] { bnOK_Click(); });
+}
+
+void dlgItemSelect::txtFullPath_Change() {
+    trap("txtFullPath_Change", [&] {
+        bnOK.set_enabled(!txtFullPath.text().empty());
+        if (!txtFullPath.text().empty()) leaf_ = txtFullPath.text();
+    });
+}
+
+/// Before the pressed key takes effect.
+void dlgItemSelect::txtFullPath_KeyPress() {
+    trap("txtFullPath_KeyPress", [&] { bnOK.set_enabled(!txtFullPath.text().empty()); });
+}
+
+void dlgItemSelect::bnOK_Click() {
+    trap("bnOK_Click", [&] {
+        ok_clicked_ = CheckItem();
+        if (ok_clicked_)
+            unload();
+        else
+            leaf_.clear();
+    });
+}
+
+void dlgItemSelect::bnCancel_Click() {
+    trap("bnCancel_Click", [&] {
+        ok_clicked_ = false;
+        leaf_.clear();
+        unload();
+    });
+}
+
+bool dlgItemSelect::CheckItem() {
+    bool ok = false;
+    trap("CheckItem", [&] {
+        leaf_ = txtFullPath.text();
+        if (!leaf_.empty()) {
+            ok = ValidateItem(leaf_);
+            return;
+        }
+        show_message({.text = "Select an Item or type in an item in the text box.",
+                      .style = message::exclamation,
+                      .title = "No Item"});
+        hlxFocus::select_text(txtFullPath);
+    });
+    return ok;
+}
+
+bool dlgItemSelect::ValidateItem(const std::string& ItemID) {
+    bool valid = false;
+    trap("ValidateItem", [&] {
+        if (!group_) return;
+        const LongArray errors =
+            the(group_->OPCItems()).Validate({{ItemID}}, ShortArray{{0}}, StringArray{{""}});
+        const std::int32_t error = errors.at(1);
+        valid = error == 0;
+        if (valid) return;
+        show_message({.text = the(group_->Parent()).GetErrorString(error),
+                      .style = message::exclamation,
+                      .title = "Item Error"});
+    });
+    return valid;
+}
+
+} // namespace brx
