@@ -39,11 +39,9 @@ std::string error_text(std::int32_t number) {
     }
 }
 
-namespace {
-
-Error as_error(const std::exception_ptr& failure) {
+Error current_error() noexcept {
     try {
-        std::rethrow_exception(failure);
+        throw;
     } catch (const Error& error) {
         return error;
     } catch (const std::bad_alloc&) {
@@ -54,8 +52,6 @@ Error as_error(const std::exception_ptr& failure) {
         return Error(error::internal);
     }
 }
-
-} // namespace
 
 namespace {
 thread_local const TrapScope* innermost = nullptr;
@@ -73,11 +69,10 @@ std::string current_location() {
     return std::string(innermost->module_) + "." + innermost->procedure_;
 }
 
-void Module::report(ErrorLibrary library, const char* procedure,
-                    const std::exception_ptr& failure) const noexcept {
+void Module::report(ErrorLibrary library, const char* procedure) const noexcept {
     // Building the report can itself run out of memory: then there is nothing left to say it with.
     attempt([&] {
-        const Error error = as_error(failure);
+        const Error error = current_error();
         errors_.Show(library, {error.number(), error.description(), error.source(),
                                std::string(name_) + "." + procedure, application_text});
     });

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace brx {
@@ -58,6 +59,20 @@ template <class Step> bool attempt(Step&& step) noexcept {
     }
 }
 
+/// What is being handled right now, in a catch clause, as an error of the component.
+Error current_error() noexcept;
+
+/// One step that runs with errors resumed by code that looks at them afterwards; none when it came through.
+template <class Step> std::optional<Error> failure_of(Step&& step) noexcept {
+    const TrapScope ignored(nullptr, nullptr);
+    try {
+        step();
+        return std::nullopt;
+    } catch (...) {
+        return current_error();
+    }
+}
+
 /// A unit whose procedures run under an error trap: a form, a public class, the common tools.
 class Module {
 public:
@@ -83,13 +98,12 @@ protected:
         try {
             body();
         } catch (...) {
-            report(library, procedure, std::current_exception());
+            report(library, procedure);
         }
     }
 
 private:
-    void report(ErrorLibrary library, const char* procedure,
-                const std::exception_ptr& failure) const noexcept;
+    void report(ErrorLibrary library, const char* procedure) const noexcept;
 
     const char* name_;
     ErrorReporter& errors_;

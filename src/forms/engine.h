@@ -11,7 +11,7 @@ class Form;
 struct Message {
     std::string text;
     std::int32_t style = 0;
-    std::string title;
+    std::string title = {};
     bool operator==(const Message&) const = default;
 };
 namespace message {

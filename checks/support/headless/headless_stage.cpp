@@ -4,6 +4,7 @@
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
 #include "classes/ServerSelect.h"
+#include "classes/TestConfiguration.h"
 
 namespace brx::checks {
 
@@ -67,6 +68,7 @@ std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
     if (name == "ServerSelect") return std::make_unique<Portable<ServerSelect>>(environment_);
     if (name == "ServerAdd") return std::make_unique<Portable<ServerAdd>>(environment_);
     if (name == "ServerInformation") return std::make_unique<Portable<ServerInformation>>(environment_);
+    if (name == "TestConfiguration") return std::make_unique<Portable<TestConfiguration>>(environment_);
     throw Error(error::cannot_create_object);
 }
 

@@ -19,46 +19,79 @@ struct Validation {
     bool operator==(const Validation&) const = default;
 };
 
-/// The items of the simulated group. Nothing can be added yet.
+/// One item of the simulated group.
+class FakeOPCItem : public OPCItem {
+public:
+    FakeOPCItem(CallLog& calls, std::string item_id, std::int16_t data_type)
+        : calls_(calls), item_id_(std::move(item_id)), data_type_(data_type) {}
+
+    std::string ItemID() override {
+        calls_.note("OPCItem.ItemID");
+        return item_id_;
+    }
+    bool IsActive() override {
+        calls_.note("OPCItem.IsActive");
+        return true;
+    }
+    void set_IsActive(bool) override { calls_.note("OPCItem.IsActive="); }
+    std::int16_t CanonicalDataType() override {
+        calls_.note("OPCItem.CanonicalDataType");
+        return data_type_;
+    }
+    const std::string& id() const { return item_id_; }
+
+private:
+    CallLog& calls_;
+    std::string item_id_;
+    std::int16_t data_type_;
+};
+
+/// The items of the simulated group.
 class FakeOPCItems : public OPCItems {
 public:
-    static constexpr std::int32_t unknown_item = -1073479673; // 0xC0040007
+    static constexpr std::int32_t unknown_item = -1073479673;   // 0xC0040007
+    static constexpr std::int32_t invalid_handle = -1073479679; // 0xC0040001
 
     explicit FakeOPCItems(CallLog& calls) : calls_(calls) {}
 
     /// The error code for each item; an item that is not listed is unknown.
     std::map<std::string, std::int32_t> answers;
+    /// The VARTYPE code of each item; that of a double where none is listed.
+    std::map<std::string, std::int16_t> data_types;
     /// What Validate answers instead: an array of whatever shape.
     std::optional<LongArray> claimed_errors;
     std::vector<Validation> validations;
+    /// What was handed to AddItems and Remove.
+    std::vector<StringArray> added;
+    std::vector<LongArray> client_handles;
+    std::vector<LongArray> removed;
 
-    std::int32_t Count() override { return unexpected<std::int32_t>("OPCItems.Count"); }
-    OPCItemPtr Item(const Variant&) override { return unexpected<OPCItemPtr>("OPCItems.Item"); }
-    AddedItems AddItems(const StringArray&, const LongArray&, const std::optional<ShortArray>&,
-                        const std::optional<StringArray>&) override {
-        return unexpected<AddedItems>("OPCItems.AddItems");
-    }
-    LongArray Remove(const LongArray&) override { return unexpected<LongArray>("OPCItems.Remove"); }
+    /// Puts an item into the group and gives its handle.
+    std::int32_t has(const std::string& item_id);
+    std::vector<std::string> ids() const;
+    void forget_all() { entries_.clear(); }
+    /// 0 for an item that is not in the group.
+    std::int32_t handle_of(const std::string& item_id) const;
+
+    std::int32_t Count() override;
+    OPCItemPtr Item(const Variant& item_specifier) override;
+    AddedItems AddItems(const StringArray& item_ids, const LongArray& handles,
+                        const std::optional<ShortArray>& requested_data_types,
+                        const std::optional<StringArray>& access_paths) override;
+    LongArray Remove(const LongArray& server_handles) override;
     LongArray Validate(const StringArray& item_ids, const std::optional<ShortArray>& requested_data_types,
-                       const std::optional<StringArray>& access_paths) override {
-        calls_.note("OPCItems.Validate");
-        validations.push_back({item_ids, requested_data_types, access_paths});
-        if (claimed_errors) return *claimed_errors;
-        LongArray errors;
-        for (const std::string& id : item_ids.elements) {
-            const auto known = answers.find(id);
-            errors.elements.push_back(known == answers.end() ? unknown_item : known->second);
-        }
-        return errors;
-    }
+                       const std::optional<StringArray>& access_paths) override;
 
 private:
-    template <class Value> Value unexpected(const char* member) {
-        calls_.note(member);
-        throw Error(error::internal, std::string(member) + " was not to be called", "FakeOPCItems");
-    }
+    std::int32_t error_of(const std::string& item_id) const;
 
     CallLog& calls_;
+    struct Entry {
+        std::int32_t handle;
+        std::shared_ptr<FakeOPCItem> item;
+    };
+    std::vector<Entry> entries_;
+    std::int32_t last_handle_ = 100;
 };
 
 /// A simulated group.

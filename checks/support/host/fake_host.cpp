@@ -14,7 +14,36 @@ FakeHost::FakeHost()
     connection->server_node = "PC7";
     connection->browser = browser;
     group->server = connection;
+    set_up_configuration();
     local_servers({"Plant.Simulation.1", "Line.Server.2"});
+}
+
+void FakeHost::set_up_configuration() {
+    configuration = std::make_shared<FakeConfiguration>(calls);
+    application = std::make_shared<FakeApplication>(calls);
+    database = std::make_shared<FakeDatabase>();
+    picker = std::make_shared<FakePicker>(calls);
+    const auto entry = std::make_shared<FakeServer>(calls, "Matrix", "PC7");
+    entry->connection = connection;
+    entry->parent = servers;
+    servers->application = application;
+    application->database = database;
+    configuration->server = std::make_shared<FakeServerHolder>(calls);
+    configuration->server->entry = entry;
+    configuration->group = group;
+    configuration->tests = std::make_shared<FakeTests>(calls);
+    configuration->tests->parent = configuration;
+    test_groups = {{1, "Dimensions"}, {2, "Weights"}};
+}
+
+std::shared_ptr<FakeTest> FakeHost::has_test(std::int32_t id, const std::string& name,
+                                             std::int32_t group_id) {
+    const auto test =
+        std::make_shared<FakeTest>(calls, std::make_shared<FakeTestData>(calls, id, group_id, name));
+    test->parent = configuration->tests;
+    test->fields.characteristic = name;
+    configuration->tests->entries.push_back(test);
+    return test;
 }
 
 void FakeHost::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
@@ -32,6 +61,12 @@ ObjectPtr FakeHost::create(const std::string& name) {
         created_.push_back(entry);
         return entry;
     }
+    if (name == class_name::hlxTestSelection) return picker;
+    if (name == class_name::hlxTestGroup) {
+        const auto test_group = std::make_shared<FakeTestGroup>(calls, test_groups);
+        created_.push_back(test_group);
+        return test_group;
+    }
     throw Error(error::cannot_create_object);
 }
 
@@ -41,10 +76,19 @@ std::string FakeHost::still_held() const {
     for (const auto& entry : servers->entries())
         if (entry.use_count() > 1) held += "A server entry is still referred to. ";
     if (enumerator.use_count() > 2) held += "The enumerating server is still referred to. ";
-    if (connection.use_count() > 1) held += "The browsed server is still referred to. ";
+    if (connection.use_count() > 2) held += "The browsed server is still referred to. ";
     if (browser.use_count() > 2) held += "The browser is still referred to. ";
-    if (group.use_count() > 1) held += "The group is still referred to. ";
+    if (group.use_count() > 2) held += "The group is still referred to. ";
     if (group->items.use_count() > 1) held += "The group's items are still referred to. ";
+    if (configuration.use_count() > 1) held += "The configuration is still referred to. ";
+    if (configuration->tests.use_count() > 1) held += "The tests are still referred to. ";
+    for (const auto& test : configuration->tests->entries) {
+        // A story may hold on to a test and its record.
+        if (test.use_count() > 2) held += "A test is still referred to. ";
+        if (test->data.use_count() > 2) held += "A test's record is still referred to. ";
+    }
+    if (database.use_count() > 2) held += "The database is still referred to. ";
+    if (picker.use_count() > 1) held += "The picker is still referred to. ";
     for (const auto& created : created_)
         if (!created.expired()) held += "A created server entry is still referred to. ";
     return held;

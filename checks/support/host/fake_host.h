@@ -5,9 +5,11 @@
 #include "common/trap.h"
 #include "forms/engine.h"
 #include "host/fake_browser.h"
+#include "host/fake_configuration.h"
 #include "host/fake_group.h"
 #include "host/fake_servers.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -64,6 +66,12 @@ public:
     std::shared_ptr<FakeOPCServer> connection;
     std::shared_ptr<FakeBrowser> browser;
     std::shared_ptr<FakeOPCGroup> group;
+    /// A collection configuration for that server and group, and what leads from it to the database.
+    std::shared_ptr<FakeConfiguration> configuration;
+    std::shared_ptr<FakeApplication> application;
+    std::shared_ptr<FakeDatabase> database;
+    std::shared_ptr<FakePicker> picker;
+    std::map<std::int32_t, std::string> test_groups;     ///< the names by their ids
     std::shared_ptr<FakeMessageService> message_service; ///< null: the host has none
     std::shared_ptr<FakeHelpService> help_service;       ///< null: the host has none
 
@@ -71,6 +79,9 @@ public:
     std::vector<Report> reports;
     /// All that ever came.
     std::vector<Report> all_reports;
+
+    /// The configuration has a test of this characteristic.
+    std::shared_ptr<FakeTest> has_test(std::int32_t id, const std::string& name, std::int32_t group_id = 1);
 
     /// The local computer has these servers.
     void local_servers(std::vector<std::string> names) {
@@ -87,6 +98,8 @@ public:
     ObjectPtr create(const std::string& name) override;
 
 private:
+    void set_up_configuration();
+
     std::vector<std::weak_ptr<Object>> created_;
 };
 

@@ -20,7 +20,7 @@ std::shared_ptr<FakeServer> FakeServers::has_connected(const std::string& server
 
 ObjectPtr FakeServers::Parent() {
     calls_.note("hlxOPCServers.Parent");
-    return nullptr;
+    return application;
 }
 
 hlxOPCServerPtr FakeServers::Add(const std::string& server_name, const std::string& node, bool connect) {

@@ -18,6 +18,8 @@ public:
 
     /// Its connection; null when it is not connected.
     std::shared_ptr<Object> connection;
+    /// The collection that it belongs to.
+    std::weak_ptr<Object> parent;
 
     std::string ServerName() override {
         calls_.note("hlxOPCServer.ServerName");
@@ -29,7 +31,7 @@ public:
     }
     ObjectPtr Parent() override {
         calls_.note("hlxOPCServer.Parent");
-        return nullptr;
+        return parent.lock();
     }
     ObjectPtr OPCServer() override {
         calls_.note("hlxOPCServer.OPCServer");
@@ -54,6 +56,9 @@ struct Addition {
 class FakeServers : public hlxOPCServers {
 public:
     explicit FakeServers(CallLog& calls) : calls_(calls) {}
+
+    /// The application object that it belongs to.
+    ObjectPtr application;
 
     /// Configures a server without a connection.
     std::shared_ptr<FakeServer> has(const std::string& server_name, const std::string& node = "");

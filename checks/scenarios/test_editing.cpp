@@ -1,0 +1,238 @@
+#include "testing.h"
+
+// Trigger, constant and value of a test.
+
+using namespace brx;
+using namespace brx::checks;
+
+SCENARIO(TestDialog, AnExistingTestComesWithAllItsFields) {
+    Testing testing(its, a_bound_test(its, 2));
+    EXPECT_EQ(its.person.reads("txtTest"), "Length");
+    EXPECT_EQ(its.person.reads("txtItem"), "Line1.Speed");
+    EXPECT_EQ(its.person.sees("chkItemTrigger").selected, 1);
+    EXPECT_EQ(its.person.sees("cboExpression").text, " > ");
+    EXPECT_EQ(its.person.reads("txtValue"), "12");
+    EXPECT_EQ(its.person.reads("txtConstant"), "1.5");
+    EXPECT_EQ(its.person.sees("cboSaveAs").text, "Constant Value");
+    for (const char* name : {"bnOK", "chkItemTrigger", "cboExpression", "txtValue", "lblValue"})
+        EXPECT_TRUE(its.person.sees(name).enabled) << name;
+    const TestFields before = testing.fields();
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    TestFields expected = before;
+    expected.state = 1;
+    EXPECT_EQ(testing.fields(), expected);
+    EXPECT_TRUE(its.host.configuration->tests->entries[0]->data->savings.empty());
+}
+
+SCENARIO(TestDialog, ATestWithoutATriggerKeepsItsTriggerFieldsDark) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.item_trigger = false;
+    Testing testing(its, test);
+    EXPECT_EQ(its.person.sees("chkItemTrigger").selected, 0);
+    EXPECT_FALSE(its.person.sees("cboExpression").enabled);
+    EXPECT_EQ(its.person.reads("txtValue"), "");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().expression, 0);
+}
+
+SCENARIO(TestDialog, InStateTwoTheItemIsNotShown) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.state = 2;
+    test->fields.item_trigger = false;
+    Testing testing(its, test);
+    EXPECT_EQ(its.person.reads("txtItem"), "");
+    EXPECT_EQ(its.person.reads("txtTest"), "Length");
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    its.person.presses("bnOK");
+    its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
+                        .style = message::information,
+                        .title = ""});
+    its.person.is_at("dlgOPCTest");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+}
+
+SCENARIO(TestDialog, TickingTheTriggerOpensItsFieldsTheValueToo) {
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.picks_characteristic(7, "Length");
+    testing.picks_item("Line1.Speed");
+    its.person.ticks("chkItemTrigger");
+    EXPECT_TRUE(its.person.sees("cboExpression").enabled);
+    EXPECT_TRUE(its.person.sees("lblExpression").enabled);
+    EXPECT_TRUE(its.person.sees("txtValue").enabled); // although "Always" takes none
+    its.person.ticks("chkItemTrigger");
+    for (const char* name : {"cboExpression", "lblExpression", "txtValue", "lblValue"})
+        EXPECT_FALSE(its.person.sees(name).enabled) << name;
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(TestDialog, AlwaysClosesTheValueAndKeepsItsText) {
+    const Testing testing(its, a_bound_test(its, 2));
+    its.person.picks("cboExpression", "Always");
+    EXPECT_FALSE(its.person.sees("txtValue").enabled);
+    EXPECT_EQ(its.person.reads("txtValue"), "12");
+    its.person.picks("cboExpression", " <> ");
+    EXPECT_TRUE(its.person.sees("txtValue").enabled);
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(TestDialog, TheValueIsKeptAsTheItemsType) {
+    struct Case {
+        std::int16_t type;
+        const char* text;
+        Variant expected;
+    };
+    const Case cases[] = {{2, "-32768", std::int16_t{-32768}},
+                          {2, "2.5", std::int16_t{2}},
+                          {3, "2147483647", 2147483647},
+                          {4, "1.5", 1.5F},
+                          {5, "1e3", 1000.0},
+                          {11, "true", true},
+                          {11, "0", false},
+                          {8, " as it is ", std::string(" as it is ")},
+                          {7, "1/2/2026", std::string("1/2/2026")}};
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.text);
+        its.host.group->items->data_types["Line1.Speed"] = each.type;
+        its.host.configuration->tests->entries.clear();
+        Testing testing(its, [&] {
+            const auto test = a_bound_test(its, each.type);
+            test->fields.client_handle = 0;
+            return test;
+        }());
+        its.person.enters("txtValue", each.text);
+        its.person.presses("bnOK");
+        EXPECT_TRUE(testing.result());
+        EXPECT_EQ(testing.fields().value, each.expected);
+        its.host.group->items->forget_all();
+        its.host.browser->root.branches.clear();
+    }
+}
+
+SCENARIO(TestDialog, AValueOfAnotherTypeIsToldAndTheFormerOneKept) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.person.enters("txtValue", "abc");
+    its.person.presses("bnOK");
+    its.person.answers({.text = "Invalid Value for this OPC Item. (13)",
+                        .style = message::information,
+                        .title = "Invalid Value"});
+    EXPECT_TRUE(testing.result());
+    // The dialog has none of its own yet.
+    EXPECT_EQ(testing.fields().value, Variant());
+}
+
+SCENARIO(TestDialog, AValueThatIsTooLargeIsToldWithItsNumber) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.person.enters("txtValue", "32768");
+    its.person.presses("bnOK");
+    its.person.answers({.text = "Invalid Value for this OPC Item. (6)",
+                        .style = message::information,
+                        .title = "Invalid Value"});
+    EXPECT_TRUE(testing.result());
+}
+
+SCENARIO(TestDialog, ABooleanItemKeepsAnyOperator) {
+    Testing testing(its, a_bound_test(its, 11));
+    its.person.enters("txtValue", "True");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().expression, 2);
+    EXPECT_EQ(testing.fields().value, Variant(true));
+}
+
+SCENARIO(TestDialog, ATypeThatCannotBeReadIsToldAndTheValueKeptAsText) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.item_id = test->fields.item_text = "Gone";
+    test->fields.item_trigger = false;
+    Testing testing(its, test);
+    its.person.ticks("chkItemTrigger");
+    its.person.picks("cboExpression", " = ");
+    its.person.enters("txtValue", "12");
+    its.person.presses("bnOK");
+    its.person.answers({.text = "The item is not known to the server.",
+                        .style = message::exclamation,
+                        .title = "Error Getting Data Type"});
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().value, Variant(std::string("12")));
+    EXPECT_EQ(its.host.connection->error_codes, std::vector{error::subscript_out_of_range});
+}
+
+SCENARIO(TestDialog, AnUnknownOperatorHasToBeReplaced) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.expression = -1;
+    Testing testing(its, test);
+    EXPECT_EQ(its.person.sees("cboExpression").selected, -1);
+    its.person.presses("bnOK");
+    its.person.answers({.text = "An Expression must be selected before continuing.",
+                        .style = message::exclamation,
+                        .title = "Expression Error"});
+    EXPECT_TRUE(its.person.has_focus("cboExpression"));
+    its.person.picks("cboExpression", "Always");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+}
+
+SCENARIO(TestDialog, AnEmptyConstantIsStoredAsZero) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.person.enters("txtConstant", "");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().constant, 0.0);
+}
+
+SCENARIO(TestDialog, AConstantThatIsNoNumberIsReportedAndChangesNothing) {
+    const auto test = a_bound_test(its, 2);
+    const TestFields before = test->fields;
+    Testing testing(its, test);
+    its.person.enters("txtConstant", "1x");
+    its.person.presses("bnOK");
+    its.expect_report(error::type_mismatch, "dlgOPCTest.TestChoices");
+    its.person.is_at("dlgOPCTest");
+    EXPECT_EQ(its.person.reads("txtConstant"), "1x");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+    EXPECT_EQ(testing.fields(), before);
+}
+
+SCENARIO(TestDialog, ConstantAndSaveAsAreStored) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.person.enters("txtConstant", "-2.25");
+    its.person.picks("cboSaveAs", "Absolute Value");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().constant, -2.25);
+    EXPECT_EQ(testing.fields().save_as, 1);
+}
+
+SCENARIO(TestDialog, CancelChangesNothing) {
+    const auto test = a_bound_test(its, 2);
+    const TestFields before = test->fields;
+    Testing testing(its, test);
+    its.person.enters("txtValue", "99");
+    its.person.enters("txtConstant", "7");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+    EXPECT_EQ(testing.fields(), before);
+    EXPECT_EQ(testing.writes(), std::vector<std::string>());
+}
+
+SCENARIO(TestConfiguration, IsReportedAndNotShownForAnythingButATest) {
+    Showing edit(*its.stage, "TestConfiguration");
+    edit.show(nullptr);
+    EXPECT_FALSE(edit.result());
+    its.expect_report(error::type_mismatch, "TestConfiguration.ResolvehlxOPCTest");
+    edit.show(its.host.group);
+    EXPECT_FALSE(edit.result());
+    its.expect_report(error::type_mismatch, "TestConfiguration.ResolvehlxOPCTest");
+}
+
+SCENARIO(TestConfiguration, ATestThatBelongsToNobodyIsReportedAndNotShown) {
+    const auto test = its.host.has_test(7, "Length");
+    test->parent.reset();
+    Showing edit(*its.stage, "TestConfiguration");
+    edit.show(test);
+    EXPECT_FALSE(edit.result());
+    its.expect_report(error::object_not_set, "TestConfiguration.Show");
+}

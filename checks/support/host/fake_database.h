@@ -1,0 +1,137 @@
+#pragma once
+
+#include "common/model/database.h"
+#include "host/call_log.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+class FakeDatabase : public hlxDatabase {};
+
+/// The record of a test characteristic.
+class FakeTestData : public hlxTestData {
+public:
+    FakeTestData(CallLog& calls, std::int32_t of_id, std::int32_t of_group, std::string named)
+        : id(of_id), group_id(of_group), name(std::move(named)), calls_(calls) {}
+
+    std::int32_t id;
+    std::int32_t group_id;
+    std::string name;
+    std::int16_t flag = 9;
+    std::int16_t mode = 9;
+    /// The ids that were saved, each with flag and mode as they were then.
+    struct Saving {
+        std::int32_t id;
+        std::int16_t flag;
+        std::int16_t mode;
+        const hlxDatabase* database;
+        bool operator==(const Saving&) const = default;
+    };
+    std::vector<Saving> savings;
+
+    std::int32_t ID() override {
+        calls_.note("hlxTestData.ID");
+        return id;
+    }
+    void set_ID(std::int32_t value) override {
+        calls_.note("hlxTestData.ID=");
+        id = value;
+    }
+    std::int32_t GroupID() override {
+        calls_.note("hlxTestData.GroupID");
+        return group_id;
+    }
+    std::string Name() override {
+        calls_.note("hlxTestData.Name");
+        return name;
+    }
+    void set_Flag(std::int16_t value) override {
+        calls_.note("hlxTestData.Flag=");
+        flag = value;
+    }
+    void set_Mode(std::int16_t value) override {
+        calls_.note("hlxTestData.Mode=");
+        mode = value;
+    }
+    bool Load(const hlxDatabasePtr&) override {
+        calls_.note("hlxTestData.Load");
+        return true;
+    }
+    void Save(const hlxDatabasePtr& database) override {
+        calls_.note("hlxTestData.Save");
+        savings.push_back({id, flag, mode, database.get()});
+    }
+
+private:
+    CallLog& calls_;
+};
+
+/// A look-up by id, of a test group.
+class FakeTestGroup : public hlxRecord {
+public:
+    FakeTestGroup(CallLog& calls, const std::map<std::int32_t, std::string>& names)
+        : calls_(calls), names_(names) {}
+
+    std::int32_t ID() override { return id_; }
+    void set_ID(std::int32_t value) override {
+        calls_.note("hlxRecord.ID=");
+        id_ = value;
+    }
+    std::string Name() override {
+        calls_.note("hlxRecord.Name");
+        return name_;
+    }
+    void set_Name(const std::string&) override { throw Error(error::internal, "A group is looked up by id"); }
+    std::int32_t GroupID() override { return 0; }
+    void set_GroupID(std::int32_t) override { throw Error(error::internal, "A group is in no group"); }
+    void set_SearchFlag(std::int16_t value) override {
+        calls_.note("hlxRecord.SearchFlag=");
+        flag_ = value;
+    }
+    bool Load(const hlxDatabasePtr& database) override {
+        calls_.note("hlxRecord.Load");
+        const auto found = names_.find(id_);
+        if (flag_ != 1 || !database || found == names_.end()) return false;
+        name_ = found->second;
+        return true;
+    }
+
+private:
+    CallLog& calls_;
+    const std::map<std::int32_t, std::string>& names_;
+    std::int32_t id_ = 0;
+    std::int16_t flag_ = 0;
+    std::string name_;
+};
+
+/// The picker of characteristics: it picks what the story says without asking anybody.
+class FakePicker : public hlxSelection {
+public:
+    explicit FakePicker(CallLog& calls) : calls_(calls) {}
+
+    /// What will be picked; Nothing when the person cancels.
+    ObjectPtr picks;
+    /// The ids that it was shown with.
+    std::vector<std::int32_t> shown_with;
+    std::weak_ptr<hlxDatabase> database;
+
+    bool Show(const hlxDatabasePtr& connection, std::int32_t id, std::int32_t) override {
+        calls_.note("hlxSelection.Show");
+        shown_with.push_back(id);
+        database = connection;
+        return picks != nullptr;
+    }
+    ObjectPtr Record() override {
+        calls_.note("hlxSelection.Record");
+        return picks;
+    }
+
+private:
+    CallLog& calls_;
+};
+
+} // namespace brx::checks

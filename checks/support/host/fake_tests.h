@@ -1,0 +1,102 @@
+#pragma once
+
+#include "common/model/configuration.h"
+#include "host/fake_database.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// What a test holds.
+struct TestFields {
+    std::int32_t state = 0;
+    std::string item_id;
+    std::string item_text;
+    std::int32_t client_handle = 0;
+    bool item_trigger = false;
+    std::int16_t expression = 0;
+    Variant value = std::int16_t{0};
+    double constant = 0;
+    std::int16_t save_as = 0;
+    std::string characteristic;
+    bool operator==(const TestFields&) const = default;
+};
+
+/// One test of the fake host.
+class FakeTest : public hlxOPCTest {
+public:
+    FakeTest(CallLog& calls, std::shared_ptr<FakeTestData> record) : data(std::move(record)), calls_(calls) {}
+
+    TestFields fields;
+    std::shared_ptr<FakeTestData> data;
+    std::weak_ptr<hlxOPCTests> parent;
+
+    std::int32_t State() override { return read("State", fields.state); }
+    void set_State(std::int32_t value) override { write("State=", fields.state, value); }
+    hlxOPCTestsPtr Parent() override { return read("Parent", parent.lock()); }
+    std::int32_t Index() override { return read("Index", 1); }
+    ObjectPtr TestData() override { return read("TestData", data); }
+    std::string OPCItemID() override { return read("OPCItemID", fields.item_id); }
+    std::string ItemText() override { return read("ItemText", fields.item_text); }
+    void set_OPCItemID(const std::string& value) override { write("OPCItemID=", fields.item_id, value); }
+    std::int32_t ClientHandle() override { return read("ClientHandle", fields.client_handle); }
+    void set_ClientHandle(std::int32_t value) override {
+        write("ClientHandle=", fields.client_handle, value);
+    }
+    void set_ItemTrigger(bool value) override { write("ItemTrigger=", fields.item_trigger, value); }
+    bool ItemTrigger() override { return read("ItemTrigger", fields.item_trigger); }
+    std::int16_t TriggerExpression() override { return read("TriggerExpression", fields.expression); }
+    void set_TriggerExpression(std::int16_t value) override {
+        write("TriggerExpression=", fields.expression, value);
+    }
+    Variant TriggerValue() override { return read("TriggerValue", fields.value); }
+    void set_TriggerValue(const Variant& value) override { write("TriggerValue=", fields.value, value); }
+    double Constant() override { return read("Constant", fields.constant); }
+    void set_Constant(double value) override { write("Constant=", fields.constant, value); }
+    std::int16_t SaveAs() override { return read("SaveAs", fields.save_as); }
+    void set_SaveAs(std::int16_t value) override { write("SaveAs=", fields.save_as, value); }
+    std::string CharacteristicName() override { return read("CharacteristicName", fields.characteristic); }
+
+private:
+    template <class Value> Value read(const std::string& member, const Value& value) {
+        calls_.note("hlxOPCTest." + member);
+        return value;
+    }
+    template <class Value> void write(const std::string& member, Value& field, const Value& value) {
+        calls_.note("hlxOPCTest." + member);
+        field = value;
+    }
+
+    CallLog& calls_;
+};
+
+/// The tests of the fake configuration.
+class FakeTests : public hlxOPCTests {
+public:
+    explicit FakeTests(CallLog& calls) : calls_(calls) {}
+
+    std::vector<std::shared_ptr<FakeTest>> entries;
+    std::weak_ptr<hlxOPCConfiguration> parent;
+
+    hlxOPCTestPtr Add() override { throw Error(error::internal, "No test was to be added"); }
+    hlxOPCTestPtr Item(const Variant& position) override {
+        calls_.note("hlxOPCTests.Item");
+        return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
+    }
+    std::int32_t Count() override {
+        calls_.note("hlxOPCTests.Count");
+        return static_cast<std::int32_t>(entries.size());
+    }
+    void Remove(std::int32_t) override { throw Error(error::internal, "No test was to be removed"); }
+    hlxOPCConfigurationPtr Parent() override {
+        calls_.note("hlxOPCTests.Parent");
+        return parent.lock();
+    }
+
+private:
+    CallLog& calls_;
+};
+
+} // namespace brx::checks

@@ -1,0 +1,221 @@
+#include "tests/dlgOPCTest.h"
+
+#include "classes/LeafSelect.h"
+#include "common/values/convert.h"
+#include "forms/setup_form.h"
+#include "tests/group_items.h"
+
+#include <utility>
+
+namespace brx {
+
+dlgOPCTest::dlgOPCTest(Environment& environment)
+    : Form(environment, {.name = "dlgOPCTest",
+                         .caption = "OPC Test Configuration",
+                         .size = {421, 263},
+                         .font_family = "Arial"}),
+      tools_(environment.errors) {}
+
+hlxOPCConfigurationPtr dlgOPCTest::configuration() { return the(the(test_).Parent()).Parent(); }
+
+OPCServerPtr dlgOPCTest::server() {
+    return tools_.ResolveOPCServer(the(the(the(configuration()).Server()).ServerEntry()).OPCServer());
+}
+
+OPCItemsPtr dlgOPCTest::items() {
+    return the(tools_.ResolveOPCGroup(the(configuration()).OPCGroup())).OPCItems();
+}
+
+void dlgOPCTest::Form_Load() {
+    trap("Form_Load", [&] {
+        ok_pressed_ = false;
+        edit_mode_ = test_chosen_ = added_new_item_ = false;
+        server_handles_ = LongArray{{0}};
+        fill_operators(cboExpression);
+        cboExpression.select(trigger_operator::always);
+        for (const char* text :
+             {"Actual Value", "Absolute Value", "Reversed Sign of Actual Value", "Constant Value"})
+            cboSaveAs.add_line(text);
+        cboSaveAs.select(0);
+        chkItemTrigger.set_value(0);
+        chkItemTrigger.set_enabled(false);
+        bnOK.set_enabled(false);
+        ShowEvalType(0);
+        const std::string bound = the(test_).OPCItemID();
+        edit_mode_ = !item_id_.empty() || !bound.empty();
+        if (edit_mode_) EditSet();
+        SetupForm(*this, 194);
+    });
+}
+
+void dlgOPCTest::Form_Unload() {
+    test_ = nullptr;
+    database_ = nullptr;
+}
+
+void dlgOPCTest::EditSet() {
+    trap("EditSet", [&] {
+        hlxOPCTest& test = the(test_);
+        chkItemTrigger.set_enabled(true);
+        bnOK.set_enabled(true);
+        client_handle_ = test.ClientHandle();
+        test_name_ = test.CharacteristicName();
+        txtTest.set_text(test_name_);
+        txtItem.set_text(item_id_);
+        chkItemTrigger.set_value(test.ItemTrigger() ? 1 : 0);
+        txtConstant.set_text(to_text(test.Constant(), environment().locale));
+        cboSaveAs.select(test.SaveAs());
+        if (chkItemTrigger.value() != 1) return;
+        GetItemDataType();
+        ShowEvalType(chkItemTrigger.value());
+        cboExpression.select(test.TriggerExpression());
+        txtValue.set_text(to_text(test.TriggerValue(), environment().locale));
+    });
+}
+
+void dlgOPCTest::bnTest_Click() {
+    trap("bnTest_Click", [&] {
+        const auto picker = create<hlxSelection>(environment().objects, class_name::hlxTestSelection);
+        if (!picker->Show(database_, test_id_, test_group_id_)) return allow_confirming();
+        const hlxTestDataPtr picked = ResolveTestDat(picker->Record());
+        if (!picked) return;
+        const std::int32_t id = picked->ID();
+        if (is_duplicate(id)) {
+            show_message({.text = "DUPLICATE TEST!  Unable to add duplicate tests to a group.",
+                          .style = message::exclamation,
+                          .title = "Add Error"});
+            return;
+        }
+        // All of it or, when something fails, nothing.
+        const std::int32_t group_id = picked->GroupID();
+        const hlxRecordPtr group = GetTestGrp(group_id);
+        if (!group) return;
+        std::string group_name = group->Name();
+        test_name_ = picked->Name();
+        test_id_ = id;
+        test_group_id_ = group_id;
+        test_group_name_ = std::move(group_name);
+        txtTest.set_text(test_name_);
+        test_chosen_ = true;
+        allow_confirming();
+    });
+}
+
+/// The test that is being edited counts as well.
+bool dlgOPCTest::is_duplicate(std::int32_t id) {
+    const hlxOPCTestsPtr tests = the(test_).Parent();
+    const std::int32_t count = the(tests).Count();
+    for (std::int32_t i = 1; i <= count; ++i)
+        if (resolve<hlxTestData>(the(tests->Item(i)).TestData())->ID() == id) return true;
+    return false;
+}
+
+hlxRecordPtr dlgOPCTest::GetTestGrp(std::int32_t id) {
+    hlxRecordPtr group;
+    trap("GetTestGrp", [&] {
+        const auto record = create<hlxRecord>(environment().objects, class_name::hlxTestGroup);
+        record->set_ID(id);
+        record->set_SearchFlag(1);
+        record->Load(database_);
+        group = record;
+    });
+    return group;
+}
+
+hlxTestDataPtr dlgOPCTest::ResolveTestDat(const ObjectPtr& object) {
+    hlxTestDataPtr data;
+    trap("ResolveTestDat", [&] { data = resolve<hlxTestData>(object); });
+    return data;
+}
+
+void dlgOPCTest::allow_confirming() {
+    const bool complete = !item_id_.empty() && !test_name_.empty();
+    bnOK.set_enabled(complete);
+    chkItemTrigger.set_enabled(complete);
+}
+
+void dlgOPCTest::bnItem_Click() {
+    trap("bnItem_Click", [&] {
+        const hlxOPCConfigurationPtr around = configuration();
+        const hlxOPCServerPtr entry = the(the(around).Server()).ServerEntry();
+        const ObjectPtr server_object = the(entry).OPCServer();
+        const ObjectPtr group = around->OPCGroup();
+        if (!server_object) {
+            show_message({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: " +
+                                  entry->Node() + "\r\nServer Name: " + entry->ServerName(),
+                          .style = message::exclamation,
+                          .title = "Server Error"});
+            return;
+        }
+        if (!group) {
+            show_message(
+                {.text = "The OPCGroup is Invalid.", .style = message::exclamation, .title = "Server Error"});
+            return;
+        }
+        LeafSelect browser(environment());
+        browser.set_ItemID(txtItem.text());
+        if (!browser.Show(server_object, group)) return;
+        const OPCItemsPtr group_items = items();
+        const bool already_there = holds_item(the(group_items), browser.ItemID());
+        item_id_ = browser.ItemID();
+        txtItem.set_text(item_id_);
+        if (!already_there) take_item(*group_items, item_id_);
+        allow_confirming();
+    });
+}
+
+/// Adds the item to the group. One that cannot be added is not kept as the test's.
+void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
+    const auto forget_item = [&] {
+        txtItem.set_text("");
+        item_id_.clear();
+        allow_confirming();
+    };
+    try {
+        const ShortArray types{{0}};
+        const StringArray paths{{""}};
+        items.Validate({{item_id}}, types, paths);
+        const AddedItems added = items.AddItems({{item_id}}, LongArray{{test_id_}}, types, paths);
+        const std::int32_t error = added.Errors.at(1);
+        if (error == 0) {
+            server_handles_ = LongArray{{added.ServerHandles.at(1)}};
+            client_handle_ = server_handles_.at(1);
+            added_new_item_ = true;
+            return;
+        }
+        show_message({.text = "UNABLE TO ADD ITEM!\r\n\r\n" + the(server()).GetErrorString(error) +
+                              "\r\n\r\nItem: " + item_id,
+                      .style = message::critical});
+        server_handles_ = LongArray{{0}};
+        added_new_item_ = false;
+    } catch (...) {
+        forget_item();
+        throw;
+    }
+    forget_item();
+}
+
+void dlgOPCTest::bnCancel_Click() {
+    trap("bnCancel_Click", [&] {
+        ok_pressed_ = false;
+        drop_added_item();
+        client_handle_ = 0;
+        value_ = std::int16_t{0};
+        expression_ = trigger_operator::always;
+        test_id_ = 0;
+        test_name_.clear();
+        test_group_id_ = 0;
+        test_group_name_.clear();
+        item_id_.clear();
+        unload();
+    });
+}
+
+/// A handle goes back to the server once: after a failure nobody knows whether it is still good, and a stale
+/// one can bring the server down.
+void dlgOPCTest::drop_added_item() {
+    const LongArray handles = std::exchange(server_handles_, LongArray{{0}});
+    if (std::exchange(added_new_item_, false) && handles.at(1) != 0) the(items()).Remove(handles);
+}
+
+} // namespace brx

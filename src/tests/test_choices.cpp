@@ -1,0 +1,168 @@
+// How the test dialog checks what was entered and writes it into the test.
+
+#include "common/values/convert.h"
+#include "tests/dlgOPCTest.h"
+#include "tests/group_items.h"
+#include "tests/write_back.h"
+
+namespace brx {
+
+void dlgOPCTest::chkItemTrigger_Click() {
+    trap("chkItemTrigger_Click", [&] { ShowEvalType(chkItemTrigger.value()); });
+}
+
+void dlgOPCTest::ShowEvalType(int state) {
+    trap("ShowEvalType", [&] {
+        const bool on = state != 0;
+        cboExpression.set_enabled(on);
+        lblExpression.set_enabled(on);
+        txtValue.set_enabled(on);
+        lblValue.set_enabled(on);
+    });
+}
+
+void dlgOPCTest::cboExpression_Change() {
+    trap("cboExpression_Change", [&] { follow_operator(); });
+}
+
+void dlgOPCTest::cboExpression_Click() {
+    trap("cboExpression_Click", [&] { follow_operator(); });
+}
+
+void dlgOPCTest::follow_operator() {
+    const bool compares = cboExpression.selected() >= 1;
+    txtValue.set_enabled(compares);
+    txtValue.set_back_color(compares ? color::window : color::button_face);
+}
+
+/// Looks at the background and sets the text's colour.
+void dlgOPCTest::txtConstant_Change() {
+    trap("txtConstant_Change", [&] {
+        if (txtConstant.text().empty() || is_numeric(txtConstant.text(), environment().locale)) {
+            if (txtConstant.back_color() == color::red) txtConstant.set_fore_color(color::window);
+        } else {
+            if (txtConstant.back_color() == color::window) txtConstant.set_fore_color(color::red);
+        }
+    });
+}
+
+void dlgOPCTest::bnOK_Click() {
+    trap("bnOK_Click", [&] {
+        if (item_id_.empty() || test_name_.empty()) {
+            show_message({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
+                          .style = message::information});
+            return;
+        }
+        item_trigger_ = chkItemTrigger.value() == 1;
+        if (item_trigger_) GetItemDataType();
+        if (!TestChoices()) return;
+        ok_pressed_ = true;
+        unload();
+    });
+}
+
+void dlgOPCTest::GetItemDataType() {
+    const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item_id_); });
+    if (!failure) return;
+    std::string text;
+    attempt([&] { text = the(server()).GetErrorString(failure->number()); });
+    show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
+    data_type_ = data_type::variant;
+}
+
+void dlgOPCTest::StoreTriggerExpression() {
+    if (cboExpression.selected() >= 0) expression_ = static_cast<std::int16_t>(cboExpression.selected());
+}
+
+bool dlgOPCTest::TestValue() {
+    const std::string text = txtValue.text();
+    if (text.empty() && cboExpression.selected() == trigger_operator::always) return true;
+    const auto failure = failure_of([&] {
+        const Locale& locale = environment().locale;
+        switch (data_type_) {
+        case data_type::int16:
+            value_ = to_int16(text, locale);
+            break;
+        case data_type::int32:
+            value_ = to_int32(text, locale);
+            break;
+        case data_type::single:
+            value_ = to_single(text, locale);
+            break;
+        case data_type::real:
+            value_ = to_double(text, locale);
+            break;
+        case data_type::boolean:
+            value_ = to_boolean(text, locale);
+            break;
+        default:
+            value_ = text;
+        }
+    });
+    // The former value is kept, and what was typed is no obstacle.
+    if (failure)
+        show_message({.text = "Invalid Value for this OPC Item. (" + std::to_string(failure->number()) + ")",
+                      .style = message::information,
+                      .title = "Invalid Value"});
+    return true;
+}
+
+bool dlgOPCTest::TestChoices() {
+    bool written = false;
+    trap("TestChoices", [&] {
+        if (!item_trigger_) {
+            expression_ = trigger_operator::always;
+        } else if (cboExpression.selected() < 0) {
+            show_message({.text = "An Expression must be selected before continuing.",
+                          .style = message::exclamation,
+                          .title = "Expression Error"});
+            return cboExpression.set_focus();
+        } else if (!TestValue()) {
+            show_message({.text = "A Value must be entered to continue!",
+                          .style = message::information,
+                          .title = "Value Error"});
+            return;
+        } else {
+            StoreTriggerExpression();
+        }
+        if (txtConstant.back_color() == color::red) {
+            show_message({.text = "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value.",
+                          .style = message::critical});
+            return;
+        }
+        // Before anything is written: a text that is no number must not leave half of the test changed.
+        const std::string constant = txtConstant.text();
+        write_test(constant.empty() ? 0.0 : to_double(constant, environment().locale));
+        written = true;
+    });
+    return written;
+}
+
+/// Everything, or nothing when the host fails half-way.
+void dlgOPCTest::write_test(double constant) {
+    hlxOPCTest& test = the(test_);
+    const hlxTestDataPtr data = test_chosen_ ? ResolveTestDat(test.TestData()) : nullptr;
+    const auto save = [&] {
+        data->set_Flag(0);
+        data->set_Mode(1);
+        data->Save(database_);
+    };
+    WriteBack writes;
+    writes.write(test, &hlxOPCTest::ItemTrigger, &hlxOPCTest::set_ItemTrigger, item_trigger_);
+    if (item_trigger_) writes.write(test, &hlxOPCTest::TriggerValue, &hlxOPCTest::set_TriggerValue, value_);
+    writes.write(test, &hlxOPCTest::ClientHandle, &hlxOPCTest::set_ClientHandle, client_handle_);
+    writes.write(test, &hlxOPCTest::TriggerExpression, &hlxOPCTest::set_TriggerExpression, expression_);
+    writes.write(test, &hlxOPCTest::OPCItemID, &hlxOPCTest::set_OPCItemID, item_id_);
+    writes.write(test, &hlxOPCTest::State, &hlxOPCTest::set_State, std::int32_t{1});
+    if (test_chosen_) {
+        writes.finally(save);
+        writes.write(the(data), &hlxTestData::ID, &hlxTestData::set_ID, test_id_);
+        save();
+    }
+    writes.write(test, &hlxOPCTest::Constant, &hlxOPCTest::set_Constant, constant);
+    writes.write(test, &hlxOPCTest::SaveAs, &hlxOPCTest::set_SaveAs,
+                 static_cast<std::int16_t>(cboSaveAs.selected()));
+    writes.keep();
+}
+
+} // namespace brx
