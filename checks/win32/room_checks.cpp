@@ -63,10 +63,15 @@ int points_unlike(Hands& hands, HWND control, COLORREF color) {
     return unlike;
 }
 
-HWND hit_at_centre_of(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return WindowFromPoint({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+/// What the mouse hits there.
+HWND hit_at_centre_of(Hands& hands, HWND window) {
+    HWND hit = nullptr;
+    hands.run([&] {
+        RECT place{};
+        GetWindowRect(window, &place);
+        hit = WindowFromPoint({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    });
+    return hit;
 }
 
 } // namespace
@@ -163,7 +168,7 @@ TEST_F(RoomTest, APanelInFrontCoversWhatLiesThere) {
         const HWND tree = hands.control("Room", "Tree");
         const HWND cover = hands.control("Room", "Cover");
         const auto expect_at_the_place = [&](HWND wanted, int color, const char* when) {
-            EXPECT_EQ(hit_at_centre_of(tree), wanted) << when;
+            EXPECT_EQ(hit_at_centre_of(hands, tree), wanted) << when;
             // In whatever order they are drawn.
             for (const HWND each : {tree, cover, tree}) {
                 RedrawWindow(each, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
@@ -179,7 +184,7 @@ TEST_F(RoomTest, APanelInFrontCoversWhatLiesThere) {
     });
     show(form, [&](Hands& hands) {
         hands.form("Room");
-        EXPECT_EQ(hit_at_centre_of(hands.control("Room", "Tree")), hands.control("Room", "Tree"));
+        EXPECT_EQ(hit_at_centre_of(hands, hands.control("Room", "Tree")), hands.control("Room", "Tree"));
     });
 }
 
