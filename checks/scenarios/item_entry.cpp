@@ -163,6 +163,19 @@ SCENARIO(ItemEntry, AStartingItemShowsAndCanBeConfirmed) {
     EXPECT_EQ(browsing.ItemID(), "Line2.Count");
 }
 
+SCENARIO(ItemEntry, AStartingItemShowsOnAFlatServerToo) {
+    a_plant(its);
+    its.host.browser->organization = 2;
+    Browsing browsing(its, "Line2.Count");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line2.Count");
+    EXPECT_EQ(its.person.lines_of("lstItem").size(), 7U);
+    its.person.picks("lstItem", "Line1.Speed");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(browsing.result());
+    EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
+}
+
 SCENARIO(ItemEntry, AStartingItemIsNotSearchedFor) {
     a_plant(its);
     Browsing browsing(its, "Nowhere at all");

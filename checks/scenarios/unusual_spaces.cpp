@@ -149,6 +149,20 @@ SCENARIO(UnusualSpace, ASubBranchThatComesTwiceIsReportedAndEndsTheLevel) {
     its.person.presses("bnCancel");
 }
 
+SCENARIO(UnusualSpace, ABranchWhoseFirstReadingFailsHasNothingBelowItUntilARefresh) {
+    a_plant(its);
+    const Browsing browsing(its);
+    its.host.browser->failing = {"Count"};
+    its.person.expands("TrView", "Line1");
+    its.expect_report(-2147467259, "dlgItemSelect.BuildNodes");
+    EXPECT_EQ(its.person.lines_of("TrView"), Lines({" Line1", "+Line2"}));
+    its.host.browser->failing.clear();
+    its.person.presses("cmdRefresh");
+    its.person.expands("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("TrView"), Lines({"-Line1", "  +Oven", "  +Press", "+Line2"}));
+    its.person.presses("bnCancel");
+}
+
 SCENARIO(UnusualSpace, TheSameNameInDifferentBranchesIsFine) {
     its.host.browser->root.has("A").has("Valve");
     its.host.browser->root.has("B").has("Valve", {"Open"});
