@@ -78,6 +78,9 @@ private:
     const WindowThread& windows_;
 };
 
+/// What the form answers to "brx.Describe".
+std::wstring describe_form(HWND window);
+
 /// A host that has nothing and remembers what it is told.
 class BareHost : public ErrorReporter, public ObjectFactory {
 public:

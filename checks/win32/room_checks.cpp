@@ -152,12 +152,15 @@ TEST_F(RoomTest, NothingIsLeftOfWhatLayThereBefore) {
     show(form, [&](Hands& hands) {
         const HWND window = hands.form("Room");
         const HWND list = hands.control("Room", "List");
+        constexpr Color mint = 0x00C0F0C0;
+        change_scale(window, 288); // where the list lay is partly the tree's place then, partly its own
+        hands.run([&] { form.run_event([&] { form.Tree.set_back_color(mint); }); });
         EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_WINDOW)), 0);
         PostMessageW(window, WM_SYSCOMMAND, SC_MAXIMIZE, 0);
         EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_WINDOW)), 0);
         PostMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0);
         EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_WINDOW)), 0);
-        EXPECT_EQ(points_unlike(hands, hands.control("Room", "Tree"), GetSysColor(COLOR_WINDOW)), 0);
+        EXPECT_EQ(points_unlike(hands, hands.control("Room", "Tree"), mint), 0);
     });
 }
 
@@ -226,6 +229,30 @@ TEST_F(RoomTest, APanelHasAnEdgeWhereItIsDesignedSo) {
         hands.form("Panels");
         EXPECT_TRUE(client_size(hands.control("Panels", "Plain")) == (SIZE{50, 50}));
         EXPECT_TRUE(client_size(hands.control("Panels", "Edged")) == (SIZE{48, 48}));
+    });
+}
+
+TEST_F(RoomTest, WhatIsInAFrameIsDrawnWithinIt) {
+    class Framed : public Form {
+    public:
+        explicit Framed(Environment& on)
+            : Form(on, {.name = "Framed", .caption = "Framed", .size = {200, 100}}) {}
+        Button Press{*this, "Press", {.place = {0, 0, 10, 10}}}; // the focus is there
+        Frame Group{*this, "Group", {.place = {10, 10, 180, 80}, .caption = "Group", .tab = 1}};
+        Panel Area{Group, "Area", {.place = {10, 15, 160, 60}, .tab = 2}};
+        ListBox List{Area, "List", {.place = {10, 5, 140, 50}, .tab = 3}};
+    };
+    Framed form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Framed");
+        const HWND list = hands.control("Framed", "List");
+        for (const HWND each :
+             {list, hands.control("Framed", "Group"), hands.control("Framed", "Area"), list}) {
+            EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_WINDOW)), 0);
+            hands.run(
+                [&] { RedrawWindow(each, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
+        }
+        EXPECT_EQ(hit_at_centre_of(hands, list), list);
     });
 }
 

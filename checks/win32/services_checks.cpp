@@ -52,15 +52,6 @@ public:
     }
 };
 
-std::wstring describe_form(HWND window) {
-    const LRESULT needed = SendMessageW(window, describe_message(), 0, 0);
-    std::wstring answer(static_cast<std::size_t>(needed), L'?');
-    SendMessageW(window, describe_message(), answer.size(), reinterpret_cast<LPARAM>(answer.data()));
-    EXPECT_EQ(answer.back(), L'\0');
-    answer.pop_back();
-    return answer;
-}
-
 /// Handles are numbers of slots in a table. Where the system does not count its objects, the slots that new
 /// ones get tell how many there are, roughly.
 struct Handles {

@@ -44,6 +44,9 @@ TEST_F(TreeTest, ChildrenAreInTheWindowOnlyOnceTheirParentWasOpen) {
     show_food(form, [&](Hands& hands, HWND tree) {
         EXPECT_EQ(count(tree), 2);
         EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"})) << "The sign shows that there are children.";
+        run(hands, form, [&] { form.Tree.add_child(form.Tree.node("spice"), "pepper", "Pepper"); });
+        EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", "+Spice"}));
+        EXPECT_EQ(count(tree), 2);
         // What stands for children that are not known yet is replaced before they show.
         form.on_expand = [&](TreeNode& node) {
             form.Tree.remove(*node.child());
@@ -52,12 +55,12 @@ TEST_F(TreeTest, ChildrenAreInTheWindowOnlyOnceTheirParentWasOpen) {
         };
         click_sign(hands, tree, 0);
         EXPECT_EQ(count(tree), 4);
-        EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", " Spice"}));
+        EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", "+Spice"}));
         click_sign(hands, tree, 0);
         form.on_expand = nullptr;
         run(hands, form, [&] { form.Tree.add_child(form.Tree.node("fruit"), "fig", "Fig"); });
         click_sign(hands, tree, 0);
-        EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", "   Fig", " Spice"}));
+        EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", "   Fig", "+Spice"}));
     });
 }
 
@@ -116,6 +119,20 @@ TEST_F(TreeTest, AnyMixtureOfChangesShowsItsOutcome) {
     });
 }
 
+TEST_F(TreeTest, ATreeThatIsFilledAnewOpensAnew) {
+    Trees form(environment);
+    show_food(form, [&](Hands& hands, HWND tree) {
+        click_sign(hands, tree, 0);
+        run(hands, form, [&] {
+            form.Tree.clear();
+            form.add_food();
+        });
+        EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"}));
+        click_sign(hands, tree, 0);
+        EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "   Apple", "  +Pear", " Spice"}));
+    });
+}
+
 TEST_F(TreeTest, TheSelectionIsTheControlsWhateverComesAndGoes) {
     Trees form(environment);
     form.on_load = [&] {
@@ -149,6 +166,9 @@ TEST_F(TreeTest, ANodeThatIsSelectedWithinAClosedOneShowsSoOnceThatIsOpen) {
         EXPECT_EQ(selected_row(tree), 1);
         click_sign(hands, tree, 0);
         EXPECT_EQ(selected_row(tree), 0) << "Closing moves it up.";
+        run(hands, form, [&] { form.Tree.select(&form.Tree.node("apple")); });
+        EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"})) << "Nor does it open again.";
+        EXPECT_EQ(selected_row(tree), -1);
         EXPECT_EQ(form.events, "Expand Fruit. ");
     });
 }
@@ -266,6 +286,24 @@ TEST_F(TreeTest, ATreeThatIsFilledWhileItIsHiddenStaysHidden) {
         MapWindowPoints(nullptr, GetParent(tree), reinterpret_cast<POINT*>(&place), 2);
         const RECT wanted{20, 30, 120, 140};
         EXPECT_TRUE(EqualRect(&place, &wanted));
+    });
+}
+
+TEST_F(TreeTest, AFormDescribesItsTreeRowByRow) {
+    Trees form(environment);
+    show_food(form, [&](Hands& hands, HWND tree) {
+        click_sign(hands, tree, 0);
+        click_text(hands, tree, 1);
+        EXPECT_EQ(describe_form(GetParent(tree)), L"Trees\tform\t1\t1\t-1\t0\tTrees\n"
+                                                  L"Tree\ttree_view\t1\t1\t1\t4\tApple\n"
+                                                  L"Tree\trow\t1\t1\t-1\t0\t-Fruit\n"
+                                                  L"Tree\trow\t1\t1\t-1\t0\t   Apple\n"
+                                                  L"Tree\trow\t1\t1\t-1\t0\t  +Pear\n"
+                                                  L"Tree\trow\t1\t1\t-1\t0\t Spice\n"
+                                                  L"Press\tbutton\t1\t1\t-1\t0\tPress\n");
+        run(hands, form, [&] { form.Tree.select(&form.Tree.node("core")); });
+        EXPECT_NE(describe_form(GetParent(tree)).find(L"tree_view\t1\t1\t-1\t4\t\n"), std::wstring::npos)
+            << "It is not in view.";
     });
 }
 

@@ -195,6 +195,8 @@ TEST_F(TreeTest, WhatTheControlRefusesIsNotShown) {
     Trees form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         click_text(hands, tree, 0);
+        click_sign(hands, tree, 0);
+        click_sign(hands, tree, 0); // the window knows the children by now
         form.events.clear();
         POINT sign{};
         ASSERT_TRUE(point_on_sign(tree, item(tree, 0), sign));

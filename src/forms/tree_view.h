@@ -54,6 +54,8 @@ private:
     TreeNode* next_ = nullptr;
 };
 
+/// Whether a click on the selected node starts editing its text. What a person edits would have nowhere to
+/// go: windows never offer it.
 enum class LabelEdit { automatic = 0, manual = 1 };
 enum class LineStyle { tree_lines = 0, root_lines = 1 };
 /// Which parts of a node show, beside its text.

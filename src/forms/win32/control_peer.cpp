@@ -12,22 +12,13 @@ namespace brx {
 
 namespace {
 constexpr UINT_PTR subclass_id = 1;
-
-/// Nothing draws over what lies before it. The line around a group lies before the controls in it, but they
-/// are drawn within it.
-DWORD clipping(const Control& control) {
-    for (const Control* around = control.container().as_control(); around;
-         around = around->container().as_control())
-        if (around->kind() == Kind::frame) return 0;
-    return WS_CLIPSIBLINGS;
 }
-} // namespace
 
 ControlPeer::ControlPeer(FormWindow& window, Control& control, const NativeControl& native)
     : Peer(control), window_(window), control_(control) {
     const VisualStyles styles;
     handle_ = CreateWindowExW(native.ex_style, native.window_class, L"",
-                              WS_CHILD | clipping(control) | native.style, 0, 0, 0, 0, window.handle(),
+                              WS_CHILD | WS_CLIPSIBLINGS | native.style, 0, 0, 0, 0, window.handle(),
                               reinterpret_cast<HMENU>(window.next_id()), this_module(), nullptr);
     if (handle_) native_procedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
     if (!handle_ || !set_window_name(handle_, control.name()) ||
@@ -74,7 +65,7 @@ void ControlPeer::font_changed() {
 }
 
 void ControlPeer::move_to(const RECT& place) {
-    // Nothing is copied: controls that make room for each other lie over each other meanwhile.
+    // Nothing is copied: where it lay something else may have been drawn already.
     SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_NOCOPYBITS);
 }

@@ -64,7 +64,7 @@ void CheckBoxPeer::notified(WORD code) {
 }
 
 FramePeer::FramePeer(FormWindow& window, Frame& frame)
-    : ControlPeer(window, frame, {WC_BUTTONW, BS_GROUPBOX | WS_GROUP}) {
+    : ControlPeer(window, frame, {WC_BUTTONW, BS_GROUPBOX | WS_GROUP, WS_EX_TRANSPARENT}) {
     show_text(frame.caption());
 }
 

@@ -44,7 +44,8 @@ private:
     CheckBox& box_;
 };
 
-/// The line around a group. The controls in it are the form's children and lie over it.
+/// The line around a group. The controls in it are the form's children. They come after it in the tab order,
+/// so it lies before them and has to be transparent: they do not draw over what lies before them.
 class FramePeer : public ControlPeer {
 public:
     FramePeer(FormWindow& window, Frame& frame);

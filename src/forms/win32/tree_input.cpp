@@ -87,8 +87,11 @@ void TreePeer::press(POINT point, bool twice) {
 /// What a tree itself would do with these keys is more than is wanted, or nothing.
 bool TreePeer::take_key(WPARAM key) {
     sign_key_ = key == VK_ADD || key == VK_SUBTRACT || key == VK_MULTIPLY;
-    TreeNode* const selected = node_of(neighbour(TVGN_CARET));
-    if (selected) return key == VK_MULTIPLY && (toggle(*selected, true), true);
+    if (TreeNode* const selected = node_of(neighbour(TVGN_CARET))) {
+        if (key != VK_MULTIPLY) return false;
+        toggle(*selected, true);
+        return true;
+    }
     const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
     TreeNode* const first = tree_.first();
     return moves && first && window().report([&] { return tree_.user_select(*first); });

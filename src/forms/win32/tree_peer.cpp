@@ -111,12 +111,10 @@ void TreePeer::show_change(const TreeView::Change& change) {
     }
 }
 
-/// Children become items when their parent is first expanded, so that what stands for children that are not
-/// known yet is never to be seen.
+/// Children become items when their parent is first opened, so that what stands for children that are not
+/// known yet is never to be seen. Those that come later follow the ones that are there.
 bool TreePeer::belongs_on_screen(const TreeNode& node) const {
-    const TreeNode* const parent = node.parent();
-    if (!parent) return true;
-    return item_of(*parent) && (parent->expanded() || (node.previous() && item_of(*node.previous())));
+    return !node.parent() || (node.previous() && item_of(*node.previous()));
 }
 
 void TreePeer::show_expansion(const TreeNode& node) {
