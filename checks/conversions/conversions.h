@@ -13,6 +13,9 @@ const std::vector<ComparedLocale>& compared_locales();
 /// The automation library's conversions, in one locale.
 void compare_library(Comparison& comparison, const ComparedLocale& where);
 
+/// The same of the texts that the dialogs' value checks are checked with, in US English and German.
+void compare_limits(Comparison& comparison, const ComparedLocale& where);
+
 /// The automation library's conversions that know no locale.
 void compare_numbers(Comparison& comparison);
 

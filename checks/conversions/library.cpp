@@ -6,6 +6,7 @@
 #include "conversions/generator.h"
 #include "conversions/reasons.h"
 #include "conversions/reference.h"
+#include "tests/limit_texts.h"
 
 #include <cmath>
 #include <limits>
@@ -129,6 +130,13 @@ void compare_library(Comparison& comparison, const ComparedLocale& where) {
     const OfNumber of_date = date_conversion(where);
     for (const double days : date_values(date_count)) compare(comparison, of_date, days);
     compare_amounts(comparison, where);
+}
+
+void compare_limits(Comparison& comparison, const ComparedLocale& where) {
+    const ComparedLocale at_limits = {where.name + " limits", where.identifier, where.locale};
+    for (const OfText& conversion : text_conversions(at_limits))
+        for (const checks::LimitText& each : checks::limit_texts(where.locale))
+            compare(comparison, conversion, each.text);
 }
 
 void compare_numbers(Comparison& comparison) {

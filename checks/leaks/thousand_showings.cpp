@@ -1,5 +1,5 @@
 #include "leaks/system_handles.h"
-#include "scenario.h"
+#include "scenarios/testing.h"
 
 #include <windows.h>
 
@@ -34,8 +34,8 @@ void show_again_and_again(Play& its, const std::string& class_name, const Object
     its.stage->start([&] { after = system_handles(); });
     EXPECT_LT(after.user - before.user, slack) << "Windows or other USER objects stayed.";
     EXPECT_LT(after.gdi - before.gdi, slack) << "Fonts, brushes or other GDI objects stayed.";
-    for (const wchar_t* name :
-         {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation", L"dlgItemSelect", L"TrView"})
+    for (const wchar_t* name : {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation",
+                                L"dlgItemSelect", L"TrView", L"dlgOPCTest", L"chkItemTrigger"})
         EXPECT_EQ(GlobalFindAtomW(name), 0) << "The name of a window stayed.";
 }
 
@@ -59,6 +59,10 @@ SCENARIO(AThousandShowings, OfTheItemBrowserLeaveNothingBehind) {
     its.host.browser->root.has("Line1", {"Speed"});
     its.host.browser->root.has("Line2");
     show_again_and_again(its, "LeafSelect", its.host.connection, its.host.group);
+}
+
+SCENARIO(AThousandShowings, OfTheTestDialogLeaveNothingBehind) {
+    show_again_and_again(its, "TestConfiguration", a_bound_test(its, 2));
 }
 
 TEST(SystemHandlesCheck, NoticesWindowsAndPensThatStay) {

@@ -46,7 +46,7 @@ SCENARIO(TestDialog, ANewTestGetsItsCharacteristicAndItsItem) {
     EXPECT_EQ(testing.fields().client_handle, 101);
     EXPECT_EQ(testing.fields().state, 1);
     const auto& data = *its.host.configuration->tests->entries[0]->data;
-    EXPECT_EQ(data.savings, (std::vector<FakeTestData::Saving>{{7, 0, 1, its.host.database.get()}}));
+    EXPECT_EQ(data.savings, (std::vector<FakeTestData::Saving>{{7, 0, 1, true}}));
 }
 
 SCENARIO(TestDialog, WritesInOneOrder) {
@@ -81,7 +81,7 @@ SCENARIO(TestDialog, ThePickerShowsThePresentCharacteristicAndMayBeCancelled) {
     its.host.picker->picks = nullptr;
     its.person.presses("bnTest");
     EXPECT_EQ(its.host.picker->shown_with, std::vector<std::int32_t>({0, 7}));
-    EXPECT_EQ(its.host.picker->database.lock(), its.host.database);
+    EXPECT_TRUE(its.host.picker->shows_the_hosts_database);
     EXPECT_EQ(its.person.reads("txtTest"), "Length");
     its.person.presses("bnCancel");
     EXPECT_FALSE(testing.result());
@@ -162,7 +162,7 @@ SCENARIO(TestDialog, AnItemThatCannotBeAddedIsToldAndForgotten) {
     its.person.answers({.text = "UNABLE TO ADD ITEM!\r\n\r\nThe item is not known to the server.\r\n\r\n"
                                 "Item: Line1.Speed",
                         .style = message::critical,
-                        .title = ""});
+                        .title = component_name});
     EXPECT_EQ(its.person.reads("txtItem"), "");
     EXPECT_FALSE(its.person.can_press("bnOK"));
     EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);

@@ -48,7 +48,7 @@ SCENARIO(TestDialog, InStateTwoTheItemIsNotShown) {
     its.person.presses("bnOK");
     its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
                         .style = message::information,
-                        .title = ""});
+                        .title = component_name});
     its.person.is_at("dlgOPCTest");
     its.person.presses("bnCancel");
     EXPECT_FALSE(testing.result());

@@ -34,6 +34,9 @@ protected:
         result = VARIANT_TRUE;
         EXPECT_EQ(dll.create<_LeafSelect>(CLSID_LeafSelect)->Show(object, object, &result), S_OK);
         EXPECT_EQ(result, VARIANT_FALSE);
+        result = VARIANT_TRUE;
+        EXPECT_EQ(dll.create<_TestConfiguration>(CLSID_TestConfiguration)->Show(object, &result), S_OK);
+        EXPECT_EQ(result, VARIANT_FALSE);
     }
 
     void show_nothing() {
@@ -74,7 +77,7 @@ TEST_F(ReportTest, NothingIsReportedByEachClassAndOpensNoWindow) {
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
                             L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
-                            L"CommonTools.ResolveOPCGroup"));
+                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }
@@ -86,7 +89,7 @@ TEST_F(ReportTest, AnObjectOfAnotherKindIsReportedByEachClassAndOpensNoWindow) {
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
                             L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
-                            L"CommonTools.ResolveOPCGroup"));
+                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }

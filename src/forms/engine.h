@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/error.h"
+
 #include <cstdint>
 #include <string>
 
@@ -11,8 +13,11 @@ class Form;
 struct Message {
     std::string text;
     std::int32_t style = 0;
-    std::string title = {};
+    std::string title = {}; ///< "" for the component's name
     bool operator==(const Message&) const = default;
+
+    /// What a person reads in its title bar.
+    std::string shown_title() const { return title.empty() ? component_name : title; }
 };
 namespace message {
 inline constexpr std::int32_t ok_cancel = 1;

@@ -33,7 +33,11 @@ Sight HeadlessScreen::look(const std::string& control) {
 }
 
 std::optional<Message> HeadlessScreen::message() {
-    return there([&] { return engine_.message(); });
+    return there([&] {
+        std::optional<Message> box = engine_.message();
+        if (box) box->title = box->shown_title();
+        return box;
+    });
 }
 
 bool HeadlessScreen::hourglass() {

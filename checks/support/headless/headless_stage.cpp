@@ -74,6 +74,10 @@ std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
 
 std::string HeadlessStage::leaks() { return engine_.hourglasses() == 0 ? "" : "The hourglass was left on. "; }
 
+bool is_the_hosts_database(const hlxDatabasePtr& database) {
+    return std::dynamic_pointer_cast<FakeDatabase>(database) != nullptr;
+}
+
 std::unique_ptr<Stage> make_stage(FakeHost& host) { return std::make_unique<HeadlessStage>(host); }
 
 } // namespace brx::checks

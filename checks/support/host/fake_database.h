@@ -12,6 +12,9 @@ namespace brx::checks {
 
 class FakeDatabase : public hlxDatabase {};
 
+/// Whether a call was given the very database that the host gave out. Each stage has its own way to tell.
+bool is_the_hosts_database(const hlxDatabasePtr& database);
+
 /// The record of a test characteristic.
 class FakeTestData : public hlxTestData {
 public:
@@ -28,7 +31,7 @@ public:
         std::int32_t id;
         std::int16_t flag;
         std::int16_t mode;
-        const hlxDatabase* database;
+        bool in_the_hosts_database;
         bool operator==(const Saving&) const = default;
     };
     std::vector<Saving> savings;
@@ -63,7 +66,7 @@ public:
     }
     void Save(const hlxDatabasePtr& database) override {
         calls_.note("hlxTestData.Save");
-        savings.push_back({id, flag, mode, database.get()});
+        savings.push_back({id, flag, mode, is_the_hosts_database(database)});
     }
 
 private:
@@ -95,7 +98,7 @@ public:
     bool Load(const hlxDatabasePtr& database) override {
         calls_.note("hlxRecord.Load");
         const auto found = names_.find(id_);
-        if (flag_ != 1 || !database || found == names_.end()) return false;
+        if (flag_ != 1 || !is_the_hosts_database(database) || found == names_.end()) return false;
         name_ = found->second;
         return true;
     }
@@ -117,12 +120,12 @@ public:
     ObjectPtr picks;
     /// The ids that it was shown with.
     std::vector<std::int32_t> shown_with;
-    std::weak_ptr<hlxDatabase> database;
+    bool shows_the_hosts_database = false;
 
     bool Show(const hlxDatabasePtr& connection, std::int32_t id, std::int32_t) override {
         calls_.note("hlxSelection.Show");
         shown_with.push_back(id);
-        database = connection;
+        shows_the_hosts_database = is_the_hosts_database(connection);
         return picks != nullptr;
     }
     ObjectPtr Record() override {

@@ -95,6 +95,7 @@ std::unique_ptr<PublicClass> Component::create(const std::string& name) const {
     if (name == "ServerSelect") return bound<_ServerSelect>(instance_of(CLSID_ServerSelect));
     if (name == "ServerAdd") return bound<_ServerAdd>(instance_of(CLSID_ServerAdd));
     if (name == "ServerInformation") return bound<_ServerInformation>(instance_of(CLSID_ServerInformation));
+    if (name == "TestConfiguration") return bound<_TestConfiguration>(instance_of(CLSID_TestConfiguration));
     throw std::runtime_error("There is no class " + name);
 }
 

@@ -4,9 +4,11 @@
 #include "com/com_object.h"
 #include "com/failure.h"
 #include "com/guid_text.h"
+#include "win32/this_module.h"
 #include "windows/class_name.h"
 #include "windows/error_object.h"
 
+#include <brxDatabase6.h>
 #include <brxError6.h>
 #include <brxOpcAuto6.h>
 
@@ -22,8 +24,9 @@ constexpr const wchar_t* error_class_name = L"hlxER01.Error";
 } // namespace
 
 HostClasses::HostClasses(FakeHost& host) : host_(host) {
-    offer(CLSID_hlxOPCServer,
-          make_factory([&host] { return to_dispatch(host.create(class_name::hlxOPCServer)); }));
+    offer(CLSID_hlxOPCServer, class_name::hlxOPCServer);
+    offer(CLSID_hlxTestGroup, class_name::hlxTestGroup);
+    offer(CLSID_hlxTestSelection, class_name::hlxTestSelection);
     offer(CLSID_Error, make_factory([&host] { return make_error_object(host, ErrorLibrary::brxError6); }));
     offer(error_class_by_name,
           make_factory([&host] { return make_error_object(host, ErrorLibrary::hlxER01); }));
@@ -44,9 +47,14 @@ void HostClasses::offer_services() {
 void HostClasses::offer_service(const CLSID& clsid, const char* name, bool has_it) {
     const bool offered = offered_.contains(guid_text(clsid));
     if (has_it && !offered)
-        offer(clsid, make_factory([this, name] { return to_dispatch(host_.create(name)); }));
+        offer(clsid, name);
     else if (!has_it && offered)
         withdraw(clsid);
+}
+
+/// The class of the host's that has this name.
+void HostClasses::offer(const CLSID& clsid, const char* name) {
+    offer(clsid, make_factory([this, name] { return to_dispatch(host_.create(name)); }));
 }
 
 void HostClasses::offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory) {
@@ -59,6 +67,16 @@ void HostClasses::withdraw(const CLSID& clsid) {
     const auto found = offered_.find(guid_text(clsid));
     CoRevokeClassObject(found->second);
     offered_.erase(found);
+}
+
+bool is_the_hosts_database(const hlxDatabasePtr& database) {
+    // The component hands on the object that it was given, and none of its own around it.
+    const com_ptr<IDispatch> object = to_dispatch(database);
+    if (!object) return false;
+    HMODULE maker = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       *reinterpret_cast<const wchar_t* const*>(object.get()), &maker);
+    return maker == this_module();
 }
 
 } // namespace brx::checks

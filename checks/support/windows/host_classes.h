@@ -23,6 +23,7 @@ public:
     void offer_services();
 
 private:
+    void offer(const CLSID& clsid, const char* name);
     void offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory);
     void withdraw(const CLSID& clsid);
     void offer_service(const CLSID& clsid, const char* name, bool has_it);

@@ -47,6 +47,10 @@ const wchar_t* window_class(const wchar_t* name, WNDPROC procedure) {
     return name;
 }
 
+/// In the corner, beside all windows. From the window that the mouse has entered Wine concludes what lies in
+/// front; when it learns late of what was in front before, it puts a host's window before its dialogs.
+void rest_the_mouse() { SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1); }
+
 } // namespace
 
 thread_local UiThread* UiThread::current_ = nullptr;
@@ -107,6 +111,7 @@ bool UiThread::make_windows() {
     ShowWindow(window_, SW_SHOWNORMAL);
     ShowWindow(window_, SW_SHOWNORMAL);
     SetForegroundWindow(window_);
+    rest_the_mouse();
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
 #include "classes/ServerSelect.h"
+#include "classes/TestConfiguration.h"
 #include "com/com_object.h"
 #include "com/server/public_object.h"
 #include "com/server/show.h"
@@ -90,6 +91,15 @@ private:
     std::string item_id_;
 };
 
+class TestConfigurationObject final : public PublicObject<_TestConfiguration, ::TestConfiguration> {
+public:
+    HRESULT STDMETHODCALLTYPE Show(IDispatch* hlxOPCTest, VARIANT_BOOL* result) override {
+        return show(self(), "TestConfiguration", result, [&](Environment& environment) {
+            return TestConfiguration(environment).Show(object_of(hlxOPCTest));
+        });
+    }
+};
+
 template <class Object> com_ptr<IDispatch> create() { return make_com<Object>(); }
 
 constexpr auto classes = std::to_array<PublicClass>({
@@ -97,6 +107,7 @@ constexpr auto classes = std::to_array<PublicClass>({
     {CLSID_ServerAdd, create<ServerAddObject>},
     {CLSID_ServerInformation, create<ServerInformationObject>},
     {CLSID_LeafSelect, create<LeafSelectObject>},
+    {CLSID_TestConfiguration, create<TestConfigurationObject>},
 });
 
 } // namespace

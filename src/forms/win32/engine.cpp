@@ -104,7 +104,7 @@ std::int32_t Win32Engine::message_box(const Message& message) {
     int pressed = 0;
     {
         const std::wstring text = to_wide(message.text);
-        const std::wstring title = to_wide(message.title.empty() ? component_name : message.title);
+        const std::wstring title = to_wide(message.shown_title());
         // The box disables its owner itself, and enables it at the right moment.
         const DisabledThreadWindows others(owner);
         const VisualStyles styles;
