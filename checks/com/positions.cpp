@@ -22,6 +22,9 @@ const std::vector<Positions>& positions_of_dialogs() {
 2 get ItemID() -> BSTR #2
 3 put ItemID(BSTR) #2
 )"},
+        {"_ConfigurationSetup", R"(
+1 Show(IDispatch* hlxOPCConfiguration) #1
+)"},
         {"_TestConfiguration", R"(
 1 Show(IDispatch* hlxOPCTest) -> VARIANT_BOOL #1
 )"},

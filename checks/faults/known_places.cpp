@@ -1,9 +1,10 @@
+#include "known_places.h"
 #include "scenario.h"
 
 // Errors are ignored: in SetupForm; as a named node is enumerated; as a browser is made, moved and asked for
 // an identifier.
 const std::set<std::string>& brx::checks::known_places_of_failure() {
-    static const std::set<std::string> places = {
+    static const std::set<std::string> own = {
         "hlxHelp.HelpFile in nobody's trap",
 
         "hlxOPCServers.Count in dlgServerSelect.BuildList",
@@ -158,5 +159,10 @@ const std::set<std::string>& brx::checks::known_places_of_failure() {
         "hlxTestData.Name in dlgOPCTest.bnTest_Click",
         "hlxTestData.Save in dlgOPCTest.TestChoices",
     };
+    static const std::set<std::string> places = [] {
+        std::set<std::string> all = own;
+        for (std::string& place : configuration_places()) all.insert(std::move(place));
+        return all;
+    }();
     return places;
 }

@@ -1,4 +1,5 @@
 #include "leaks/system_handles.h"
+#include "scenarios/configuring.h"
 #include "scenarios/testing.h"
 
 #include <windows.h>
@@ -18,14 +19,7 @@ constexpr int showings = 1000;
 /// behind.
 constexpr int slack = showings / 10;
 
-template <class... Objects>
-void show_again_and_again(Play& its, const std::string& class_name, const Objects&... objects) {
-    Showing dialog(*its.stage, class_name);
-    const auto show_once = [&] {
-        dialog.show(objects...);
-        its.person.closes_the_window();
-        dialog.result();
-    };
+void leaves_nothing_behind(Play& its, const std::function<void()>& show_once) {
     for (int i = 0; i < 20; ++i) show_once(); // what the system makes once is made now
     SystemHandles before;
     its.stage->start([&] { before = system_handles(); });
@@ -34,8 +28,20 @@ void show_again_and_again(Play& its, const std::string& class_name, const Object
     its.stage->start([&] { after = system_handles(); });
     EXPECT_LT(after.user - before.user, slack) << "Windows or other USER objects stayed.";
     EXPECT_LT(after.gdi - before.gdi, slack) << "Fonts, brushes or other GDI objects stayed.";
-    for (const wchar_t* name : {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation",
-                                L"dlgItemSelect", L"TrView", L"dlgOPCTest", L"chkItemTrigger"})
+}
+
+template <class... Objects>
+void show_again_and_again(Play& its, const std::string& class_name, const Objects&... objects) {
+    Showing dialog(*its.stage, class_name);
+    leaves_nothing_behind(its, [&] {
+        dialog.show(objects...);
+        its.person.closes_the_window();
+        dialog.result();
+    });
+    for (const wchar_t* name :
+         {L"bnOK", L"dlgServerSelect", L"dlgServerAdd", L"dlgServerInformation", L"dlgItemSelect", L"TrView",
+          L"dlgOPCTest", L"chkItemTrigger", L"dlgConfiguration", L"TabStrip1", L"dlgEvaluation",
+          L"dlgDescriptorType", L"dlgDescriptorProperties"})
         EXPECT_EQ(GlobalFindAtomW(name), 0) << "The name of a window stayed.";
 }
 
@@ -63,6 +69,29 @@ SCENARIO(AThousandShowings, OfTheItemBrowserLeaveNothingBehind) {
 
 SCENARIO(AThousandShowings, OfTheTestDialogLeaveNothingBehind) {
     show_again_and_again(its, "TestConfiguration", a_bound_test(its, 2));
+}
+
+SCENARIO(AThousandShowings, OfTheConfigurationDialogLeaveNothingBehind) {
+    a_filled_configuration(its);
+    show_again_and_again(its, "ConfigurationSetup", its.host.configuration);
+}
+
+SCENARIO(AThousandShowings, OfTheDialogsOverTheConfigurationLeaveNothingBehind) {
+    a_filled_configuration(its);
+    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
+    Configuring dialog(its);
+    leaves_nothing_behind(its, [&] {
+        dialog.turns_to_sampling();
+        its.person.presses("cmdSubgroupTrigger");
+        its.person.closes_the_window();
+        dialog.turns_to_descriptors();
+        its.person.presses("bnAddDesc");
+        its.person.closes_the_window();
+        its.person.picks("lvwDescriptors", "Part | Castings | Wheel");
+        its.person.presses("bnEditDesc");
+        its.person.closes_the_window();
+    });
+    dialog.leaves();
 }
 
 TEST(SystemHandlesCheck, NoticesWindowsAndPensThatStay) {

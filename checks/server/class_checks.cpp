@@ -22,6 +22,7 @@ TEST_F(ClassTest, EachPublicClassGivesItsOwnInterface) {
     EXPECT_TRUE(dll.create<_ServerInformation>(CLSID_ServerInformation));
     EXPECT_TRUE(dll.create<_LeafSelect>(CLSID_LeafSelect));
     EXPECT_TRUE(dll.create<_TestConfiguration>(CLSID_TestConfiguration));
+    EXPECT_TRUE(dll.create<_ConfigurationSetup>(CLSID_ConfigurationSetup));
     EXPECT_FALSE(dll.create<_ServerAdd>(CLSID_ServerSelect));
     EXPECT_FALSE(dll.create<_ServerSelect>(CLSID_ServerInformation));
 }

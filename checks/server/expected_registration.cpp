@@ -71,11 +71,14 @@ RegistrySnapshot expected_registration(const std::wstring& path) {
                    L"Lets a person choose one item of an OPC server", path);
     lines.of_class(L"brxOpcDlgs6.TestConfiguration", L"{A5F1F9D1-BAAD-4A96-8258-5CE6EA008F9F}",
                    L"Lets a person edit one test of a collection configuration", path);
+    lines.of_class(L"brxOpcDlgs6.ConfigurationSetup", L"{2E1AACA0-0E1A-4650-9010-30195D91947B}",
+                   L"Lets a person edit a collection configuration", path);
     lines.of_interface(L"_ServerSelect", L"{D497772F-7523-4AE5-813E-D8E1B101DB16}");
     lines.of_interface(L"_ServerAdd", L"{D39D5860-BDBE-44D0-A783-8546DEFB1A03}");
     lines.of_interface(L"_ServerInformation", L"{BC765970-03C7-46B7-B24A-66850C251B6D}");
     lines.of_interface(L"_LeafSelect", L"{699C2C24-157C-42AB-ACCA-5F8F27DFD59A}");
     lines.of_interface(L"_TestConfiguration", L"{5D12C8BF-CB0C-48C9-9146-C6F97FB01FA5}");
+    lines.of_interface(L"_ConfigurationSetup", L"{8A998943-6CD1-4E82-A293-C208147D384B}");
     lines.of_library(path);
     return lines.take();
 }

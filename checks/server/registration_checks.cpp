@@ -13,9 +13,9 @@ namespace {
 const std::wstring classes = classes_key;
 const std::wstring select_class = classes + L"\\CLSID\\{FFF1633C-31EE-4CFE-BE2F-C0E070EC992B}";
 const std::wstring library = classes + L"\\TypeLib\\{438E101D-A88C-4F38-BC9F-703D56A00BBB}";
-const wchar_t* const class_names[] = {L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd",
+const wchar_t* const class_names[] = {L"brxOpcDlgs6.ServerSelect",      L"brxOpcDlgs6.ServerAdd",
                                       L"brxOpcDlgs6.ServerInformation", L"brxOpcDlgs6.LeafSelect",
-                                      L"brxOpcDlgs6.TestConfiguration"};
+                                      L"brxOpcDlgs6.TestConfiguration", L"brxOpcDlgs6.ConfigurationSetup"};
 
 #ifdef _WIN64
 constexpr const wchar_t* platform = L"win64";

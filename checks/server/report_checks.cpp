@@ -37,6 +37,7 @@ protected:
         result = VARIANT_TRUE;
         EXPECT_EQ(dll.create<_TestConfiguration>(CLSID_TestConfiguration)->Show(object, &result), S_OK);
         EXPECT_EQ(result, VARIANT_FALSE);
+        EXPECT_EQ(dll.create<_ConfigurationSetup>(CLSID_ConfigurationSetup)->Show(object), S_OK);
     }
 
     void show_nothing() {
@@ -77,7 +78,8 @@ TEST_F(ReportTest, NothingIsReportedByEachClassAndOpensNoWindow) {
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
                             L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
-                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest"));
+                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest",
+                            L"ConfigurationSetup.ResolveOPCConfiguration"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }
@@ -89,7 +91,8 @@ TEST_F(ReportTest, AnObjectOfAnotherKindIsReportedByEachClassAndOpensNoWindow) {
     EXPECT_THAT(locations(errors),
                 ElementsAre(L"ServerSelect.ResolvehlxOPCServers", L"ServerAdd.ResolvehlxOPCServers",
                             L"CommonTools.ResolveOPCServer", L"CommonTools.ResolveOPCServer",
-                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest"));
+                            L"CommonTools.ResolveOPCGroup", L"TestConfiguration.ResolvehlxOPCTest",
+                            L"ConfigurationSetup.ResolveOPCConfiguration"));
     for (const HeardReport& each : errors.heard) EXPECT_EQ(each.number, 13);
     EXPECT_EQ(windows.count(), 0);
 }

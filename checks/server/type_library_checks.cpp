@@ -96,6 +96,7 @@ TEST_F(TypeLibraryTest, MembersHaveTheirPublishedSlotsNamesAndParameters) {
                 ElementsAre("7 1 Show(OPCServer:9, OPCGroup:9, Result:*11 retval)",
                             "8 2 get ItemID(*8 retval)", "9 2 put ItemID(8)"));
     EXPECT_THAT(members_of(IID__TestConfiguration), ElementsAre("7 1 Show(hlxOPCTest:9, Result:*11 retval)"));
+    EXPECT_THAT(members_of(IID__ConfigurationSetup), ElementsAre("7 1 Show(hlxOPCConfiguration:9)"));
 }
 
 TEST_F(TypeLibraryTest, EverythingInItHasAHelpText) {
@@ -133,7 +134,7 @@ TEST_F(TypeLibraryTest, EveryClassInItCanBeMadeAndHasItsInterfaceAsDefault) {
                   S_OK);
         first->ReleaseTypeAttr(attributes);
     }
-    EXPECT_EQ(classes, 5);
+    EXPECT_EQ(classes, 6);
 }
 
 TEST_F(TypeLibraryTest, TheSlotsAreWhereItSays) {

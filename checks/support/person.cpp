@@ -32,6 +32,13 @@ Sight Person::sees(const std::string& control) {
     return sight;
 }
 
+std::string Person::line_of(const std::string& list, int line) {
+    const Lines lines = lines_of(list);
+    must(line >= 0 && line < static_cast<int>(lines.size()),
+         "see line " + std::to_string(line) + " of " + list);
+    return lines[static_cast<std::size_t>(line)];
+}
+
 bool Person::can_press(const std::string& button) {
     const Sight sight = sees(button);
     return sight.enabled && sight.visible;
@@ -82,12 +89,22 @@ void Person::collapses(const std::string& tree, const std::string& node) {
 
 void Person::ticks(const std::string& check_box) { must(screen_.toggle(check_box), "tick " + check_box); }
 
+void Person::sets(const std::string& picker, const std::string& date) {
+    must(screen_.set_date(picker, date), "set " + picker + " to " + date);
+}
+
 void Person::goes_to(const std::string& control) { must(screen_.focus(control), "go to " + control); }
 
 void Person::enters(const std::string& box, const std::string& text) {
     goes_to(box);
     const std::string before = sees(box).text;
     for (std::size_t i = 0; i < before.size() && !reads(box).empty(); ++i) hits(Key::backspace);
+    types(text);
+}
+
+void Person::replaces(const std::string& box, const std::string& text) {
+    goes_to(box);
+    hits(Key::erase);
     types(text);
 }
 

@@ -27,6 +27,8 @@ public:
     Sight sees(const std::string& control);
     std::string reads(const std::string& control) { return sees(control).text; }
     Lines lines_of(const std::string& list) { return sees(list).lines; }
+    /// One line of a list, from 0, which must be there.
+    std::string line_of(const std::string& list, int line);
     std::string title() { return screen_.caption(); }
     bool can_press(const std::string& button);
     /// The name of the control that has the focus, of those given; "" when none of them has it.
@@ -40,9 +42,13 @@ public:
     void expands(const std::string& tree, const std::string& node);
     void collapses(const std::string& tree, const std::string& node);
     void ticks(const std::string& check_box);
+    /// In a picker of dates "2026-11-21", in one of times "13:04:05".
+    void sets(const std::string& picker, const std::string& date);
     void goes_to(const std::string& control);
     /// Goes to the box and replaces what is in it.
     void enters(const std::string& box, const std::string& text);
+    /// The same in a box that refuses Backspace.
+    void replaces(const std::string& box, const std::string& text);
     void types(const std::string& text);
     void pastes(const std::string& text);
     void hits(Key key);

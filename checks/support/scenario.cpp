@@ -45,7 +45,7 @@ bool Showing::result() {
     return instance_->result;
 }
 
-void Play::expect_report(std::int32_t number, const std::string& location) {
+void Play::expect_report(std::int32_t number, const std::string& location, ErrorLibrary library) {
     if (host.reports.empty()) {
         ADD_FAILURE() << "There is no report of error " << number << " in " << location;
         return;
@@ -54,7 +54,7 @@ void Play::expect_report(std::int32_t number, const std::string& location) {
     host.reports.erase(host.reports.begin());
     EXPECT_EQ(report.what.number, number);
     EXPECT_EQ(report.what.location, location);
-    EXPECT_EQ(report.library, ErrorLibrary::brxError6);
+    EXPECT_EQ(report.library, library);
     EXPECT_FALSE(report.what.description.empty());
     EXPECT_FALSE(report.what.source.empty());
     EXPECT_EQ(report.what.application, "brxOpcDlgs6 6.0.0");

@@ -62,7 +62,8 @@ struct Play {
     ~Play() { close_everything(); }
 
     /// The oldest report that nobody has looked at yet must be this one.
-    void expect_report(std::int32_t number, const std::string& location);
+    void expect_report(std::int32_t number, const std::string& location,
+                       ErrorLibrary library = ErrorLibrary::brxError6);
 
     /// Answers and closes whatever is open, as a person would who wants to go home.
     void close_everything();

@@ -12,15 +12,33 @@ namespace brx::checks {
 /// What a person sees of one control.
 struct Sight {
     bool exists = false;
-    std::string text;               ///< caption, text, or the selected line's text
-    std::vector<std::string> lines; ///< of a list; of a tree the rows in view, see `rows_of`
-    int selected = -1;              ///< line of a list, -1 for none; value of a check box
+    std::string text; ///< caption, text, or the selected line's text
+    std::vector<std::string>
+        lines; ///< of a list; of a tree or a list view its rows, see `rows_of`; of a tab strip its captions
+    int selected = -1; ///< line, row or tab from 0, -1 for none; value of a check box
     bool enabled = false;
     bool visible = false;
     bool focused = false;
 };
 
-enum class Key { enter, escape, tab, back_tab, space, up, down, left, right, plus, minus, f1, backspace };
+enum class Key {
+    enter,
+    escape,
+    tab,
+    back_tab,
+    space,
+    up,
+    down,
+    left,
+    right,
+    plus,
+    minus,
+    f1,
+    backspace,
+    erase, ///< all of a box's text: Home, Shift+End, Delete
+    next_tab,
+    previous_tab
+};
 
 /// A screen with dialogs on it, and the hands of a person before it. Deeds return when everything that they
 /// led to is done and the program waits for input again; false when a person could not do it (no such
@@ -46,6 +64,8 @@ public:
     virtual bool expand(const std::string& tree, int row) = 0;
     virtual bool collapse(const std::string& tree, int row) = 0;
     virtual bool toggle(const std::string& check_box) = 0;
+    /// Of a picker of dates "2026-11-21", of one of times "13:04:05".
+    virtual bool set_date(const std::string& picker, const std::string& text) = 0;
     virtual bool focus(const std::string& control) = 0; ///< by clicking into it
     virtual bool type(const std::string& text) = 0;     ///< into the control that has the focus
     virtual bool paste(const std::string& text) = 0;

@@ -54,6 +54,32 @@ TEST_F(LayoutTest, AFormMadeLargerStretchesAndMovesItsControlsByTheirAnchors) {
     });
 }
 
+TEST_F(LayoutTest, AFrameThatGrowsLeavesNothingOfItsFormerEdgeBehind) {
+    Sample form(environment, true);
+    show(form, [&](Hands& hands) {
+        const HWND window = hands.form("Sample");
+        const auto pixels = [&] {
+            std::vector<COLORREF> found;
+            hands.run([&] {
+                UpdateWindow(window);
+                const HDC dc = GetDC(window);
+                for (int y = 136; y < 146; ++y) found.push_back(GetPixel(dc, 60, y));
+                ReleaseDC(window, dc);
+            });
+            return found;
+        };
+        const std::vector<COLORREF> nothing(10, GetSysColor(COLOR_BTNFACE));
+        hands.wait_until_idle();
+        EXPECT_NE(pixels(), nothing) << "The edge is there.";
+        RECT outer{};
+        GetWindowRect(window, &outer);
+        SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left + 100, outer.bottom - outer.top + 60,
+                     SWP_NOMOVE);
+        hands.wait_until_idle();
+        EXPECT_EQ(pixels(), nothing);
+    });
+}
+
 TEST_F(LayoutTest, AResizableFormCannotBeMadeSmallerThanItsDesign) {
     Sample form(environment, true);
     show(form, [&](Hands& hands) {

@@ -20,7 +20,6 @@ public:
 
 private:
     hlxOPCTestPtr ResolvehlxOPCTest(const ObjectPtr& object) const;
-    hlxDatabasePtr database_of(const hlxOPCTestPtr& test) const;
 
     Environment& environment_;
     CommonTools tools_;

@@ -22,6 +22,13 @@ OPCGroupPtr CommonTools::ResolveOPCGroup(const ObjectPtr& object) const {
     return resolved;
 }
 
+hlxDatabasePtr CommonTools::database_of(const hlxOPCConfigurationPtr& configuration) const {
+    const hlxOPCServerPtr entry = the(the(configuration).Server()).ServerEntry();
+    const auto servers = resolve<hlxOPCServers>(the(entry).Parent());
+    const auto application = resolve<hlxApplication>(servers->Parent());
+    return ResolveDatabase(application->Database());
+}
+
 std::string DescriptorTypeName(std::int32_t type_code) {
     static constexpr std::array names = {"Part",
                                          "Process",

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/model/collection.h"
+#include "common/model/configuration.h"
 #include "common/model/database.h"
 #include "common/model/opc_automation.h"
 #include "common/trap.h"
@@ -19,6 +20,10 @@ public:
     hlxDatabasePtr ResolveDatabase(const ObjectPtr& object) const;
     OPCServerPtr ResolveOPCServer(const ObjectPtr& object) const;
     OPCGroupPtr ResolveOPCGroup(const ObjectPtr& object) const;
+
+    /// The database of the host that the configuration belongs to: by way of its server entry, the servers
+    /// and the application. Nothing when that is no database.
+    hlxDatabasePtr database_of(const hlxOPCConfigurationPtr& configuration) const;
 };
 
 /// The display name of a descriptor type code 0 to 8; "" for any other code.

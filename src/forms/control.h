@@ -11,7 +11,21 @@ namespace brx {
 using Handler = std::function<void()>;
 
 /// The kinds of control, for engines to choose a peer by.
-enum class Kind { label, text_box, button, check_box, list_box, combo_box, tree_view, frame, panel, timer };
+enum class Kind {
+    label,
+    text_box,
+    button,
+    check_box,
+    list_box,
+    combo_box,
+    tree_view,
+    list_view,
+    tab_strip,
+    date_picker,
+    frame,
+    panel,
+    timer
+};
 
 /// What has controls in it: the form, a frame, a panel.
 class Container {

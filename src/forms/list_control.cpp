@@ -45,4 +45,9 @@ void ListControl::reset() {
     selected_ = -1;
 }
 
+void ListControl::select_text(std::string_view text) {
+    for (int index = 0; index < count(); ++index)
+        if (line(index) == text) return select(index);
+}
+
 } // namespace brx

@@ -44,6 +44,8 @@ public:
     int selected() const { return selected_; }
     /// Selects a line (Click fires when it was another) or, with -1, none (without Click).
     void select(int index);
+    /// Selects the first line with exactly this text; nothing changes when there is none.
+    void select_text(std::string_view text);
     /// The selected line's text, "" when there is none.
     std::string text() const { return selected_ < 0 ? std::string() : text(selected_); }
 

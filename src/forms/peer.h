@@ -8,13 +8,13 @@ class Element;
 enum class Aspect : unsigned {
     none = 0,
     text = 1,      ///< the caption or the text
-    lines = 2,     ///< the lines of a list; the nodes of a tree
-    selection = 4, ///< the selected line or node; the selected part of a text
+    lines = 2,     ///< the lines of a list; the nodes of a tree; the rows and columns of a list view
+    selection = 4, ///< the selected line, node, row or tab; the selected part of a text
     enabled = 8,   ///< whether it takes input, its containers considered
     visible = 16,  ///< whether it shows, its containers considered
     colors = 32,   ///< back and fore colour
     place = 64,    ///< where it lies
-    value = 128,   ///< the tick of a check box; the interval and state of a timer; a tree's style
+    value = 128,   ///< the tick of a check box; the interval and state of a timer; a tree's style; a date
     focus = 256,   ///< of a form: which control has the focus
     order = 512,   ///< whether it lies before the controls that it overlaps, or behind them
     everything = 0xFFFFFFFF,

@@ -1,10 +1,10 @@
 #include "tests/dlgEvaluation.h"
 
 #include "classes/LeafSelect.h"
+#include "common/group_items.h"
 #include "common/values/convert.h"
 #include "common/values/text.h"
 #include "forms/setup_form.h"
-#include "tests/group_items.h"
 
 namespace brx {
 
@@ -50,7 +50,7 @@ void dlgEvaluation::BuildDlg() {
             cboItem.add_line(item.ItemID());
             return true;
         });
-        if (!item_id_.empty()) select_text(cboItem, item_id_);
+        if (!item_id_.empty()) cboItem.select_text(item_id_);
         if (cboItem.selected() < 0) cboItem.select(0);
         cboExpression.select(expression_);
         txtValue.set_text(to_text(value_, environment().locale));
@@ -126,7 +126,7 @@ void dlgEvaluation::take_item(const std::string& item_id) {
         added_new_item_ = true;
         cboItem.add_line(item_id);
     }
-    select_text(cboItem, item_id);
+    cboItem.select_text(item_id);
 }
 
 void dlgEvaluation::CheckDataType() {

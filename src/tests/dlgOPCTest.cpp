@@ -1,9 +1,9 @@
 #include "tests/dlgOPCTest.h"
 
 #include "classes/LeafSelect.h"
+#include "common/group_items.h"
 #include "common/values/convert.h"
 #include "forms/setup_form.h"
-#include "tests/group_items.h"
 
 #include <utility>
 
@@ -183,8 +183,7 @@ void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
             added_new_item_ = true;
             return;
         }
-        show_message({.text = "UNABLE TO ADD ITEM!\r\n\r\n" + the(server()).GetErrorString(error) +
-                              "\r\n\r\nItem: " + item_id,
+        show_message({.text = refusal_text(the(server()).GetErrorString(error), item_id),
                       .style = message::critical});
         server_handles_ = LongArray{{0}};
         added_new_item_ = false;

@@ -1,9 +1,9 @@
 // How the test dialog checks what was entered and writes it into the test.
 
+#include "common/group_items.h"
 #include "common/values/convert.h"
 #include "tests/dlgOPCTest.h"
-#include "tests/group_items.h"
-#include "tests/write_back.h"
+#include "common/write_back.h"
 
 namespace brx {
 

@@ -62,6 +62,9 @@ bool HeadlessScreen::collapse(const std::string& tree, int row) {
 bool HeadlessScreen::toggle(const std::string& check_box) {
     return deed([=, this] { return user_.click(check_box); });
 }
+bool HeadlessScreen::set_date(const std::string& picker, const std::string& text) {
+    return deed([=, this] { return user_.set_date(picker, text); });
+}
 bool HeadlessScreen::focus(const std::string& control) {
     return deed([=, this] { return user_.focus(control); });
 }
@@ -101,6 +104,12 @@ bool HeadlessScreen::key(Key key) {
             return user_.help();
         case Key::backspace:
             return user_.backspace();
+        case Key::erase:
+            return user_.erase();
+        case Key::next_tab:
+            return user_.turn_tab(false);
+        case Key::previous_tab:
+            return user_.turn_tab(true);
         }
         return false;
     });

@@ -1,10 +1,13 @@
 #include "headless/headless_stage.h"
 
+#include "classes/ConfigurationSetup.h"
 #include "classes/LeafSelect.h"
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
 #include "classes/ServerSelect.h"
 #include "classes/TestConfiguration.h"
+
+#include <type_traits>
 
 namespace brx::checks {
 
@@ -35,6 +38,8 @@ public:
     bool Show(const std::vector<ObjectPtr>& objects) override {
         if constexpr (requires { class_.Show(nullptr, nullptr); })
             return class_.Show(objects.at(0), objects.at(1));
+        else if constexpr (std::is_void_v<decltype(class_.Show(nullptr))>)
+            return class_.Show(objects.at(0)), true;
         else
             return class_.Show(objects.at(0));
     }
@@ -64,6 +69,7 @@ void HeadlessStage::start(std::function<void()> job) {
 }
 
 std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
+    if (name == "ConfigurationSetup") return std::make_unique<Portable<ConfigurationSetup>>(environment_);
     if (name == "LeafSelect") return std::make_unique<Portable<LeafSelect>>(environment_);
     if (name == "ServerSelect") return std::make_unique<Portable<ServerSelect>>(environment_);
     if (name == "ServerAdd") return std::make_unique<Portable<ServerAdd>>(environment_);

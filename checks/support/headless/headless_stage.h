@@ -28,6 +28,7 @@ public:
     bool expand(const std::string& tree, int row) override;
     bool collapse(const std::string& tree, int row) override;
     bool toggle(const std::string& check_box) override;
+    bool set_date(const std::string& picker, const std::string& text) override;
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;
     bool paste(const std::string& text) override;

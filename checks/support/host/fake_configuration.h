@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/fake_descriptors.h"
 #include "host/fake_tests.h"
 
 #include <memory>
@@ -64,10 +65,11 @@ public:
     std::shared_ptr<FakeServerHolder> server;
     ObjectPtr group;
     std::shared_ptr<FakeTests> tests;
+    std::shared_ptr<FakeDescriptors> descriptors;
 
     hlxOPCServerHolderPtr Server() override { return read("Server", server); }
     ObjectPtr OPCGroup() override { return read("OPCGroup", group); }
-    hlxOPCDescriptorsPtr Descriptors() override { return read("Descriptors", hlxOPCDescriptorsPtr()); }
+    hlxOPCDescriptorsPtr Descriptors() override { return read("Descriptors", descriptors); }
     hlxOPCTestsPtr Tests() override { return read("Tests", tests); }
     std::int32_t SubgroupSize() override { return read("SubgroupSize", fields.subgroup_size); }
     void set_SubgroupSize(std::int32_t value) override {

@@ -24,6 +24,8 @@ public:
     std::int32_t id;
     std::int32_t group_id;
     std::string name;
+    /// Where the name of an id is found as the record is saved; null when it stays as it is.
+    const std::map<std::int32_t, std::string>* names = nullptr;
     std::int16_t flag = 9;
     std::int16_t mode = 9;
     /// The ids that were saved, each with flag and mode as they were then.
@@ -66,6 +68,7 @@ public:
     }
     void Save(const hlxDatabasePtr& database) override {
         calls_.note("hlxTestData.Save");
+        if (names && names->contains(id)) name = names->at(id);
         savings.push_back({id, flag, mode, is_the_hosts_database(database)});
     }
 
@@ -120,11 +123,13 @@ public:
     ObjectPtr picks;
     /// The ids that it was shown with.
     std::vector<std::int32_t> shown_with;
+    std::vector<std::int32_t> shown_with_groups;
     bool shows_the_hosts_database = false;
 
-    bool Show(const hlxDatabasePtr& connection, std::int32_t id, std::int32_t) override {
+    bool Show(const hlxDatabasePtr& connection, std::int32_t id, std::int32_t group_id) override {
         calls_.note("hlxSelection.Show");
         shown_with.push_back(id);
+        shown_with_groups.push_back(group_id);
         shows_the_hosts_database = is_the_hosts_database(connection);
         return picks != nullptr;
     }

@@ -24,6 +24,12 @@ std::int32_t FakeOPCItems::handle_of(const std::string& item_id) const {
     return 0;
 }
 
+bool FakeOPCItems::is_active(const std::string& item_id) const {
+    return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+        return entry.item->id() == item_id && entry.item->active();
+    });
+}
+
 std::int32_t FakeOPCItems::error_of(const std::string& item_id) const {
     const auto known = answers.find(item_id);
     return known == answers.end() ? unknown_item : known->second;
@@ -46,10 +52,11 @@ OPCItemPtr FakeOPCItems::Item(const Variant& item_specifier) {
 }
 
 AddedItems FakeOPCItems::AddItems(const StringArray& item_ids, const LongArray& handles,
-                                  const std::optional<ShortArray>&, const std::optional<StringArray>&) {
+                                  const std::optional<ShortArray>& types, const std::optional<StringArray>&) {
     calls_.note("OPCItems.AddItems");
     added.push_back(item_ids);
     client_handles.push_back(handles);
+    requested_types.push_back(types);
     AddedItems result;
     for (const std::string& id : item_ids.elements) {
         result.Errors.elements.push_back(error_of(id));

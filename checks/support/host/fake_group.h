@@ -31,9 +31,13 @@ public:
     }
     bool IsActive() override {
         calls_.note("OPCItem.IsActive");
-        return true;
+        return active_;
     }
-    void set_IsActive(bool) override { calls_.note("OPCItem.IsActive="); }
+    void set_IsActive(bool value) override {
+        calls_.note("OPCItem.IsActive=");
+        active_ = value;
+    }
+    bool active() const { return active_; }
     std::int16_t CanonicalDataType() override {
         calls_.note("OPCItem.CanonicalDataType");
         return data_type_;
@@ -44,6 +48,7 @@ private:
     CallLog& calls_;
     std::string item_id_;
     std::int16_t data_type_;
+    bool active_ = false;
 };
 
 /// The items of the simulated group.
@@ -64,12 +69,15 @@ public:
     /// What was handed to AddItems and Remove.
     std::vector<StringArray> added;
     std::vector<LongArray> client_handles;
+    std::vector<std::optional<ShortArray>> requested_types;
     std::vector<LongArray> removed;
 
     /// Puts an item into the group and gives its handle.
     std::int32_t has(const std::string& item_id);
     std::vector<std::string> ids() const;
     void forget_all() { entries_.clear(); }
+    /// Whether the group has the item and collects it.
+    bool is_active(const std::string& item_id) const;
     /// 0 for an item that is not in the group.
     std::int32_t handle_of(const std::string& item_id) const;
 
@@ -100,6 +108,7 @@ public:
     explicit FakeOPCGroup(CallLog& calls) : items(std::make_shared<FakeOPCItems>(calls)), calls_(calls) {}
 
     std::weak_ptr<brx::OPCServer> server;
+    std::string name = "Group1";
     std::shared_ptr<FakeOPCItems> items;
 
     OPCServerPtr Parent() override {
@@ -108,12 +117,41 @@ public:
     }
     std::string Name() override {
         calls_.note("OPCGroup.Name");
-        return "Group1";
+        return name;
     }
     OPCItemsPtr OPCItems() override {
         calls_.note("OPCGroup.OPCItems");
         return items;
     }
+
+private:
+    CallLog& calls_;
+};
+
+/// The groups of the simulated server.
+class FakeOPCGroups : public OPCGroups {
+public:
+    explicit FakeOPCGroups(CallLog& calls) : calls_(calls) {}
+
+    std::vector<std::shared_ptr<FakeOPCGroup>> entries;
+    void has(const std::string& name) {
+        entries.push_back(std::make_shared<FakeOPCGroup>(calls_));
+        entries.back()->name = name;
+    }
+
+    std::int32_t Count() override {
+        calls_.note("OPCGroups.Count");
+        return static_cast<std::int32_t>(entries.size());
+    }
+    OPCGroupPtr Item(const Variant& position) override {
+        calls_.note("OPCGroups.Item");
+        return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
+    }
+    OPCGroupPtr Add(const std::optional<std::string>&) override {
+        throw Error(error::internal, "No group was to be added");
+    }
+    void RemoveAll() override { throw Error(error::internal, "No group was to be removed"); }
+    void Remove(const Variant&) override { throw Error(error::internal, "No group was to be removed"); }
 
 private:
     CallLog& calls_;

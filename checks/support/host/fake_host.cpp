@@ -1,5 +1,7 @@
 #include "host/fake_host.h"
 
+#include <set>
+
 namespace brx::checks {
 
 FakeHost::FakeHost()
@@ -33,16 +35,21 @@ void FakeHost::set_up_configuration() {
     configuration->group = group;
     configuration->tests = std::make_shared<FakeTests>(calls);
     configuration->tests->parent = configuration;
+    configuration->tests->characteristics = {{7, "Length"}, {8, "Width"}, {9, "Mass"}};
+    configuration->descriptors = std::make_shared<FakeDescriptors>(calls);
+    groups = std::make_shared<FakeOPCGroups>(calls);
+    connection->groups = groups;
+    for (const char* selection :
+         {class_name::hlxPartSelection, class_name::hlxProcessSelection, class_name::hlxJobSelection,
+          class_name::hlxShiftSelection, class_name::hlxDescriptorSelection})
+        pickers[selection] = std::make_shared<FakePicker>(calls);
     test_groups = {{1, "Dimensions"}, {2, "Weights"}};
 }
 
 std::shared_ptr<FakeTest> FakeHost::has_test(std::int32_t id, const std::string& name,
                                              std::int32_t group_id) {
-    const auto test =
-        std::make_shared<FakeTest>(calls, std::make_shared<FakeTestData>(calls, id, group_id, name));
-    test->parent = configuration->tests;
+    const auto test = configuration->tests->has(id, name, group_id);
     test->fields.characteristic = name;
-    configuration->tests->entries.push_back(test);
     return test;
 }
 
@@ -67,6 +74,17 @@ ObjectPtr FakeHost::create(const std::string& name) {
         created_.push_back(test_group);
         return test_group;
     }
+    if (const auto found = pickers.find(name); found != pickers.end()) return found->second;
+    static const std::set<std::string> record_classes = {
+        class_name::hlxPart,           class_name::hlxPartGroup,  class_name::hlxProcess,
+        class_name::hlxProcessGroup,   class_name::hlxJob,        class_name::hlxJobGroup,
+        class_name::hlxShift,          class_name::hlxShiftGroup, class_name::hlxDescriptor,
+        class_name::hlxDescriptorGroup};
+    if (record_classes.contains(name)) {
+        const auto record = std::make_shared<FakeRecord>(calls, records, name);
+        created_.push_back(record);
+        return record;
+    }
     throw Error(error::cannot_create_object);
 }
 
@@ -88,6 +106,12 @@ std::string FakeHost::still_held() const {
         if (test->data.use_count() > 2) held += "A test's record is still referred to. ";
     }
     if (database.use_count() > 2) held += "The database is still referred to. ";
+    if (configuration->descriptors.use_count() > 1) held += "The descriptors are still referred to. ";
+    for (const auto& descriptor : configuration->descriptors->entries)
+        if (descriptor.use_count() > 1) held += "A descriptor is still referred to. ";
+    if (groups.use_count() > 2) held += "The groups are still referred to. ";
+    for (const auto& [name, selection] : pickers)
+        if (selection.use_count() > 1) held += "A selection dialog is still referred to. ";
     if (picker.use_count() > 1) held += "The picker is still referred to. ";
     for (const auto& created : created_)
         if (!created.expired()) held += "A created server entry is still referred to. ";

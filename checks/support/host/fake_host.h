@@ -7,6 +7,7 @@
 #include "host/fake_browser.h"
 #include "host/fake_configuration.h"
 #include "host/fake_group.h"
+#include "host/fake_records.h"
 #include "host/fake_servers.h"
 
 #include <map>
@@ -71,7 +72,11 @@ public:
     std::shared_ptr<FakeApplication> application;
     std::shared_ptr<FakeDatabase> database;
     std::shared_ptr<FakePicker> picker;
-    std::map<std::int32_t, std::string> test_groups;     ///< the names by their ids
+    std::map<std::int32_t, std::string> test_groups; ///< the names by their ids
+    Records records;                                 ///< parts, processes, jobs, shifts, descriptors
+    /// The dialogs in which these are picked, by their class.
+    std::map<std::string, std::shared_ptr<FakePicker>> pickers;
+    std::shared_ptr<FakeOPCGroups> groups;               ///< of the connected server
     std::shared_ptr<FakeMessageService> message_service; ///< null: the host has none
     std::shared_ptr<FakeHelpService> help_service;       ///< null: the host has none
 

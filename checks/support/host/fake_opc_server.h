@@ -28,6 +28,7 @@ public:
     std::map<std::string, Variant> registered;
     bool can_browse = true;
     OPCBrowserPtr browser;
+    OPCGroupsPtr groups;
     std::string error_string = "The item is not known to the server.";
     /// What GetErrorString was asked for.
     std::vector<std::int32_t> error_codes;
@@ -46,7 +47,7 @@ public:
     std::string ServerNode() override { return answer("OPCServer.ServerNode", server_node); }
     std::string ClientName() override { return answer("OPCServer.ClientName", std::string()); }
     std::int32_t Bandwidth() override { return answer("OPCServer.Bandwidth", 4); }
-    OPCGroupsPtr OPCGroups() override { return answer("OPCServer.OPCGroups", OPCGroupsPtr()); }
+    OPCGroupsPtr OPCGroups() override { return answer("OPCServer.OPCGroups", groups); }
     OPCBrowserPtr CreateBrowser() override {
         calls_.note("OPCServer.CreateBrowser");
         if (!can_browse) throw Error(-2147467263, "Not implemented", "OPCServer"); // 0x80004001

@@ -3,6 +3,7 @@
 #include "common/model/configuration.h"
 #include "host/fake_database.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,7 +37,7 @@ public:
     std::int32_t State() override { return read("State", fields.state); }
     void set_State(std::int32_t value) override { write("State=", fields.state, value); }
     hlxOPCTestsPtr Parent() override { return read("Parent", parent.lock()); }
-    std::int32_t Index() override { return read("Index", 1); }
+    std::int32_t Index() override;
     ObjectPtr TestData() override { return read("TestData", data); }
     std::string OPCItemID() override { return read("OPCItemID", fields.item_id); }
     std::string ItemText() override { return read("ItemText", fields.item_text); }
@@ -57,7 +58,9 @@ public:
     void set_Constant(double value) override { write("Constant=", fields.constant, value); }
     std::int16_t SaveAs() override { return read("SaveAs", fields.save_as); }
     void set_SaveAs(std::int16_t value) override { write("SaveAs=", fields.save_as, value); }
-    std::string CharacteristicName() override { return read("CharacteristicName", fields.characteristic); }
+    std::string CharacteristicName() override {
+        return read("CharacteristicName", fields.characteristic.empty() ? data->name : fields.characteristic);
+    }
 
 private:
     template <class Value> Value read(const std::string& member, const Value& value) {
@@ -73,14 +76,30 @@ private:
 };
 
 /// The tests of the fake configuration.
-class FakeTests : public hlxOPCTests {
+class FakeTests : public hlxOPCTests, public std::enable_shared_from_this<FakeTests> {
 public:
     explicit FakeTests(CallLog& calls) : calls_(calls) {}
 
     std::vector<std::shared_ptr<FakeTest>> entries;
+    bool keeps_all = false; ///< Remove fails
     std::weak_ptr<hlxOPCConfiguration> parent;
 
-    hlxOPCTestPtr Add() override { throw Error(error::internal, "No test was to be added"); }
+    /// The characteristics that the database has, by their ids.
+    std::map<std::int32_t, std::string> characteristics;
+
+    std::shared_ptr<FakeTest> has(std::int32_t id, const std::string& name, std::int32_t group_id) {
+        const auto test =
+            std::make_shared<FakeTest>(calls_, std::make_shared<FakeTestData>(calls_, id, group_id, name));
+        test->data->names = &characteristics;
+        test->parent = weak_from_this();
+        entries.push_back(test);
+        return test;
+    }
+
+    hlxOPCTestPtr Add() override {
+        calls_.note("hlxOPCTests.Add");
+        return has(0, "", 0);
+    }
     hlxOPCTestPtr Item(const Variant& position) override {
         calls_.note("hlxOPCTests.Item");
         return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
@@ -89,7 +108,13 @@ public:
         calls_.note("hlxOPCTests.Count");
         return static_cast<std::int32_t>(entries.size());
     }
-    void Remove(std::int32_t) override { throw Error(error::internal, "No test was to be removed"); }
+    void Remove(std::int32_t position) override {
+        calls_.note("hlxOPCTests.Remove");
+        if (keeps_all) throw Error(error::invalid_procedure_call);
+        if (position < 1 || static_cast<std::size_t>(position) > entries.size())
+            throw Error(error::subscript_out_of_range);
+        entries.erase(entries.begin() + position - 1);
+    }
     hlxOPCConfigurationPtr Parent() override {
         calls_.note("hlxOPCTests.Parent");
         return parent.lock();
@@ -98,5 +123,15 @@ public:
 private:
     CallLog& calls_;
 };
+
+inline std::int32_t FakeTest::Index() {
+    calls_.note("hlxOPCTest.Index");
+    std::int32_t position = 0;
+    for (const auto& entry : std::dynamic_pointer_cast<FakeTests>(parent.lock())->entries) {
+        ++position;
+        if (entry.get() == this) return position;
+    }
+    return 0;
+}
 
 } // namespace brx::checks

@@ -78,12 +78,12 @@ bool LateBound::Show(const std::vector<ObjectPtr>& objects) {
         V_VARIANTREF(&references[i]) = &variables[i];
     }
     const OwnedVariant result =
-        invoke(*object_.get(), "Show", DISPATCH_METHOD, by_reference_ ? references : variables, VT_BOOL);
+        invoke(*object_.get(), "Show", DISPATCH_METHOD, by_reference_ ? references : variables, result_);
     for (std::size_t i = 0; i < variables.size(); ++i)
         brx::check(V_VT(&variables[i]) == VT_DISPATCH && V_DISPATCH(&variables[i]) == held[i].get()
                        ? S_OK
                        : E_UNEXPECTED);
-    return V_BOOL(&result.get()) != VARIANT_FALSE;
+    return result_ == VT_EMPTY || V_BOOL(&result.get()) != VARIANT_FALSE;
 }
 
 } // namespace brx::checks

@@ -45,6 +45,9 @@ public:
             check(object_->Show(&reference, &result));
             // It may look at the host's variable, not change it.
             check(reference == argument.get() ? S_OK : E_UNEXPECTED);
+        } else if constexpr (requires { object_->Show(argument.get()); }) {
+            check(object_->Show(argument.get()));
+            result = VARIANT_TRUE;
         } else {
             check(object_->Show(argument.get(), &result));
         }
@@ -58,9 +61,10 @@ private:
 /// A public class by the names of its members, as a script calls it.
 class LateBound : public PublicClass {
 public:
-    /// Scripts pass a variable by reference, and by value when it stands in brackets.
-    LateBound(com_ptr<IDispatch> object, bool by_reference)
-        : object_(std::move(object)), by_reference_(by_reference) {}
+    /// Scripts pass a variable by reference, and by value when it stands in brackets. `result` is what Show
+    /// gives: VT_BOOL, or VT_EMPTY for nothing.
+    LateBound(com_ptr<IDispatch> object, bool by_reference, VARTYPE result)
+        : object_(std::move(object)), by_reference_(by_reference), result_(result) {}
 
     std::int16_t ServerIndex() override;
     void set_ServerIndex(std::int16_t index) override;
@@ -71,6 +75,7 @@ public:
 private:
     com_ptr<IDispatch> object_;
     bool by_reference_;
+    VARTYPE result_;
 };
 
 } // namespace brx::checks

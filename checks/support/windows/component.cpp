@@ -42,14 +42,15 @@ Binding next_binding() {
     return static_cast<Binding>(turn++ % 3);
 }
 
-template <class Interface> std::unique_ptr<PublicClass> bound(const com_ptr<IDispatch>& instance) {
+template <class Interface>
+std::unique_ptr<PublicClass> bound(const com_ptr<IDispatch>& instance, VARTYPE result = VT_BOOL) {
     switch (next_binding()) {
     case Binding::early:
         break;
     case Binding::late_by_reference:
-        return std::make_unique<LateBound>(instance, true);
+        return std::make_unique<LateBound>(instance, true, result);
     case Binding::late_by_value:
-        return std::make_unique<LateBound>(instance, false);
+        return std::make_unique<LateBound>(instance, false, result);
     }
     return std::make_unique<EarlyBound<Interface>>(instance.as<Interface>());
 }
@@ -95,6 +96,8 @@ std::unique_ptr<PublicClass> Component::create(const std::string& name) const {
     if (name == "ServerSelect") return bound<_ServerSelect>(instance_of(CLSID_ServerSelect));
     if (name == "ServerAdd") return bound<_ServerAdd>(instance_of(CLSID_ServerAdd));
     if (name == "ServerInformation") return bound<_ServerInformation>(instance_of(CLSID_ServerInformation));
+    if (name == "ConfigurationSetup")
+        return bound<_ConfigurationSetup>(instance_of(CLSID_ConfigurationSetup), VT_EMPTY);
     if (name == "TestConfiguration") return bound<_TestConfiguration>(instance_of(CLSID_TestConfiguration));
     throw std::runtime_error("There is no class " + name);
 }

@@ -3,6 +3,7 @@
 #include "com/bstr.h"
 #include "common/values/text.h"
 #include "windows/native.h"
+#include "windows/native_table.h"
 #include "windows/native_tree.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace brx::checks {
 namespace {
 
 constexpr std::size_t field_count = 7;
-constexpr std::size_t most_rows = 2'000; ///< of a tree are compared, after each deed
+constexpr std::size_t most_rows = 2'000; ///< of a tree or table are compared, after each deed
 
 std::string plain(const std::string& escaped) {
     std::string text;
@@ -53,7 +54,8 @@ Described described_in(const std::string& line) {
             .number = std::stoi(fields[4]),
             .lines = std::stoi(fields[5]),
             .text = plain(fields[6]),
-            .rows = {}};
+            .rows = {},
+            .columns = {}};
 }
 
 /// Gathers what differs, a line each.
@@ -85,6 +87,13 @@ void compare_rows(const Described& held, const std::vector<std::string>& shown, 
         differences.compare(held.name, "a row", shown[i], held.rows[i]);
 }
 
+void compare_columns(const Described& held, const std::vector<std::string>& shown, Differences& differences) {
+    differences.compare(held.name, "the number of columns", static_cast<int>(shown.size()),
+                        static_cast<int>(held.columns.size()));
+    for (std::size_t i = 0; i < std::min(shown.size(), held.columns.size()); ++i)
+        differences.compare(held.name, "a column", shown[i], held.columns[i]);
+}
+
 /// A panel lies before everything else or behind it.
 void compare_order(HWND form, HWND panel, const Described& held, Differences& differences) {
     const bool in_front = GetWindow(form, GW_CHILD) == panel;
@@ -100,7 +109,12 @@ void compare_control(HWND form, const Described& held, Differences& differences)
     if (IsWindowEnabled(form)) differences.compare(held.name, "enabled", shown.enabled, held.enabled);
     differences.compare(held.name, "visible", shown.visible, held.visible);
     const bool is_tree = held.kind == "tree_view";
-    const bool is_list = held.kind == "list_box" || held.kind == "combo_box";
+    const bool is_table = held.kind == "list_view";
+    const bool is_tabs = held.kind == "tab_strip";
+    const bool is_list = held.kind == "list_box" || held.kind == "combo_box" || is_table || is_tabs;
+    if (is_table) compare_columns(held, column_captions(window), differences);
+    if (is_table) compare_rows(held, table_rows(window, static_cast<int>(most_rows)), differences);
+    if (is_tabs) compare_rows(held, tab_captions(window), differences);
     if (is_tree) compare_rows(held, tree_rows(window, most_rows), differences);
     if (is_list || (is_tree && held.rows.size() < most_rows))
         differences.compare(held.name, "the number of lines", count_lines(window), held.lines);
@@ -131,8 +145,11 @@ std::vector<Described> described(HWND form) {
     for (const std::string& line : split(brx::text_of(answer.c_str(), answer.size() - 1), "\n")) {
         if (line.empty()) continue;
         Described each = described_in(line);
-        if (each.kind == "row" && !all.empty() && all.back().name == each.name)
+        const bool goes_on = !all.empty() && all.back().name == each.name;
+        if (each.kind == "row" && goes_on)
             all.back().rows.push_back(std::move(each.text));
+        else if (each.kind == "column" && goes_on)
+            all.back().columns.push_back(std::move(each.text));
         else
             all.push_back(std::move(each));
     }

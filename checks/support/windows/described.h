@@ -13,10 +13,11 @@ struct Described {
     std::string kind;
     bool enabled = false;
     bool visible = false;
-    int number = -1; ///< the selected line, the value of a check box, whether a panel is in front
+    int number = -1; ///< the selected line, row or tab, the value of a check box, whether a panel is in front
     int lines = 0;
     std::string text;
-    std::vector<std::string> rows; ///< of a tree
+    std::vector<std::string> rows;    ///< of a tree, a list view, a tab strip
+    std::vector<std::string> columns; ///< of a list view
 };
 
 /// The form first, then its controls. On the form's thread.

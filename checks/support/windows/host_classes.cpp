@@ -12,6 +12,9 @@
 #include <brxError6.h>
 #include <brxOpcAuto6.h>
 
+#include <array>
+#include <utility>
+
 namespace brx::checks {
 
 namespace {
@@ -21,12 +24,31 @@ constexpr CLSID error_class_by_name = {
     0x1CC7C4FE, 0x229C, 0x47DC, {0x83, 0x1A, 0xE3, 0xF6, 0x19, 0x53, 0xD4, 0x74}};
 constexpr const wchar_t* error_class_name = L"hlxER01.Error";
 
+constexpr auto database_classes = std::to_array<std::pair<const CLSID*, const char*>>({
+    {&CLSID_hlxTestGroup, class_name::hlxTestGroup},
+    {&CLSID_hlxTestSelection, class_name::hlxTestSelection},
+    {&CLSID_hlxPart, class_name::hlxPart},
+    {&CLSID_hlxPartGroup, class_name::hlxPartGroup},
+    {&CLSID_hlxPartSelection, class_name::hlxPartSelection},
+    {&CLSID_hlxProcess, class_name::hlxProcess},
+    {&CLSID_hlxProcessGroup, class_name::hlxProcessGroup},
+    {&CLSID_hlxProcessSelection, class_name::hlxProcessSelection},
+    {&CLSID_hlxJob, class_name::hlxJob},
+    {&CLSID_hlxJobGroup, class_name::hlxJobGroup},
+    {&CLSID_hlxJobSelection, class_name::hlxJobSelection},
+    {&CLSID_hlxShift, class_name::hlxShift},
+    {&CLSID_hlxShiftGroup, class_name::hlxShiftGroup},
+    {&CLSID_hlxShiftSelection, class_name::hlxShiftSelection},
+    {&CLSID_hlxDescriptor, class_name::hlxDescriptor},
+    {&CLSID_hlxDescriptorGroup, class_name::hlxDescriptorGroup},
+    {&CLSID_hlxDescriptorSelection, class_name::hlxDescriptorSelection},
+});
+
 } // namespace
 
 HostClasses::HostClasses(FakeHost& host) : host_(host) {
     offer(CLSID_hlxOPCServer, class_name::hlxOPCServer);
-    offer(CLSID_hlxTestGroup, class_name::hlxTestGroup);
-    offer(CLSID_hlxTestSelection, class_name::hlxTestSelection);
+    for (const auto& [clsid, name] : database_classes) offer(*clsid, name);
     offer(CLSID_Error, make_factory([&host] { return make_error_object(host, ErrorLibrary::brxError6); }));
     offer(error_class_by_name,
           make_factory([&host] { return make_error_object(host, ErrorLibrary::hlxER01); }));

@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "common/values/text.h"
+#include "windows/native_table.h"
 #include "windows/native_tree.h"
 
 #include <algorithm>
@@ -117,6 +118,9 @@ NativeKind kind_of(HWND control) {
     if (name == L"ListBox" || name == L"ComboLBox") return NativeKind::list_box;
     if (name == L"ComboBox") return NativeKind::combo_box;
     if (name == WC_TREEVIEWW) return NativeKind::tree;
+    if (name == WC_LISTVIEWW) return NativeKind::table;
+    if (name == WC_TABCONTROLW) return NativeKind::tabs;
+    if (name == DATETIMEPICK_CLASSW) return NativeKind::date_picker;
     if (name == L"Static") return NativeKind::label;
     if (name != L"Button") return NativeKind::other;
     switch (style_of(control) & BS_TYPEMASK) {
@@ -141,13 +145,19 @@ bool takes_input(HWND window) {
 }
 
 int count_lines(HWND control) {
-    if (kind_of(control) == NativeKind::tree) return static_cast<int>(items_in_view(control).size());
+    const NativeKind kind = kind_of(control);
+    if (kind == NativeKind::tree) return static_cast<int>(items_in_view(control).size());
+    if (kind == NativeKind::table) return row_count(control);
+    if (kind == NativeKind::tabs) return static_cast<int>(ask(control, TCM_GETITEMCOUNT));
     const ListMessages* messages = list_messages_of(control);
     return messages ? static_cast<int>(std::max<LRESULT>(0, ask(control, messages->count))) : 0;
 }
 
 std::vector<std::string> lines_of(HWND control) {
-    if (kind_of(control) == NativeKind::tree) return tree_rows(control);
+    const NativeKind kind = kind_of(control);
+    if (kind == NativeKind::tree) return tree_rows(control);
+    if (kind == NativeKind::table) return table_rows(control, row_count(control));
+    if (kind == NativeKind::tabs) return tab_captions(control);
     std::vector<std::string> lines;
     const ListMessages* messages = list_messages_of(control);
     for (int line = 0; line < count_lines(control); ++line)
@@ -163,13 +173,21 @@ Sight sight_of(HWND control, HWND focused) {
         sight.selected = static_cast<int>(ask(control, messages->selected));
         if (sight.selected >= 0)
             sight.text = line_of(control, *messages, static_cast<WPARAM>(sight.selected));
-    } else if (kind_of(control) == NativeKind::tree) {
+    } else if (const NativeKind kind = kind_of(control); kind == NativeKind::table) {
+        sight.selected = selected_row_of(control);
+        if (sight.selected >= 0) sight.text = cell_text(control, sight.selected, 0);
+    } else if (kind == NativeKind::tabs) {
+        const std::vector<std::string> captions = tab_captions(control);
+        sight.selected = static_cast<int>(ask(control, TCM_GETCURSEL));
+        if (sight.selected >= 0) sight.text = captions.at(static_cast<std::size_t>(sight.selected));
+    } else if (kind == NativeKind::date_picker) {
+        sight.text = date_text(control);
+    } else if (kind == NativeKind::tree) {
         sight.selected = selected_row(control);
         if (sight.selected >= 0) sight.text = text_of_item(control, selected_item(control));
     } else {
         sight.text = text_of(control);
-        if (kind_of(control) == NativeKind::check_box)
-            sight.selected = static_cast<int>(ask(control, BM_GETCHECK));
+        if (kind == NativeKind::check_box) sight.selected = static_cast<int>(ask(control, BM_GETCHECK));
     }
     sight.enabled = takes_input(control);
     sight.visible = IsWindowVisible(control) != FALSE;

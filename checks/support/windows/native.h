@@ -30,13 +30,27 @@ std::vector<HWND> windows_of(DWORD thread);
 /// The control's window within a form's window, or null.
 HWND find_control(HWND form, const std::string& name);
 
-enum class NativeKind { push_button, check_box, group, text_box, list_box, combo_box, tree, label, other };
+enum class NativeKind {
+    push_button,
+    check_box,
+    group,
+    text_box,
+    list_box,
+    combo_box,
+    tree,
+    table,
+    tabs,
+    date_picker,
+    label,
+    other
+};
 NativeKind kind_of(HWND control);
 
 /// Whether a control and everything around it takes input.
 bool takes_input(HWND window);
 
-/// The lines of a list, the rows of a tree (see `tree_rows`); none for other kinds of control.
+/// The lines of a list, the rows of a tree or a table (see `tree_rows`, `table_rows`), the captions of tabs;
+/// none for other kinds of control.
 int count_lines(HWND control);
 std::vector<std::string> lines_of(HWND control);
 

@@ -24,6 +24,10 @@ enum Id : WORD {
     list_box,
     combo_box,
     tree_box,
+    table_box,
+    tab_box,
+    day_box,
+    time_box,
     message_button,
     chain_button,
     off_button,
@@ -57,7 +61,7 @@ void PlainDialog::run() {
     EmptyTemplate empty;
     empty.dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | WS_VISIBLE;
     empty.dialog.x = empty.dialog.y = 20;
-    empty.dialog.cx = 260;
+    empty.dialog.cx = 420;
     empty.dialog.cy = 200;
     DialogBoxIndirectParamW(GetModuleHandleW(nullptr), &empty.dialog, owner_, procedure,
                             reinterpret_cast<LPARAM>(this));
@@ -96,6 +100,17 @@ void PlainDialog::make_controls() {
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
         SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
     }
+    fill_table(add(WC_LISTVIEWW, L"", WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
+                   {400, 10, 600, 110}, table_box, L"lvwBox"));
+    fill_tabs(add(WC_TABCONTROLW, L"", WS_TABSTOP | TCS_FOCUSONBUTTONDOWN, {400, 120, 600, 180}, tab_box,
+                  L"tabBox"));
+    const SYSTEMTIME day{2026, 11, 6, 21, 0, 0, 0, 0};
+    SendMessageW(add(DATETIMEPICK_CLASSW, L"", WS_TABSTOP | DTS_SHORTDATEFORMAT, {400, 190, 490, 213},
+                     day_box, L"dtpDay"),
+                 DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&day));
+    add(DATETIMEPICK_CLASSW, L"", WS_TABSTOP | DTS_TIMEFORMAT | DTS_UPDOWN, {500, 190, 600, 213}, time_box,
+        L"dtpTime");
+    EnableWindow(add(DATETIMEPICK_CLASSW, L"", WS_TABSTOP, {400, 220, 490, 243}, 0, L"dtpOff"), FALSE);
     add(L"Button", L"&Message...", WS_TABSTOP, {10, 150, 110, 175}, message_button, L"bnMessage");
     add(L"Button", L"Chain", WS_TABSTOP, {10, 180, 110, 205}, chain_button, L"bnChain");
     EnableWindow(add(L"Button", L"Off", WS_TABSTOP, {120, 150, 200, 175}, off_button, L"bnOff"), FALSE);
@@ -129,6 +144,39 @@ void PlainDialog::fill_tree(HWND tree) {
     }
 }
 
+void PlainDialog::fill_table(HWND table) {
+    for (const wchar_t* caption : {L"Name", L"Value"}) {
+        std::wstring text = caption;
+        LVCOLUMNW column{};
+        column.mask = LVCF_TEXT | LVCF_WIDTH;
+        column.pszText = text.data();
+        column.cx = 80;
+        SendMessageW(table, LVM_INSERTCOLUMNW, 9, reinterpret_cast<LPARAM>(&column));
+    }
+    for (int i = 0; i < 30; ++i) {
+        std::wstring name = L"Row " + std::to_wstring(i);
+        std::wstring value = L"Value " + std::to_wstring(i);
+        LVITEMW item{};
+        item.mask = LVIF_TEXT;
+        item.iItem = i;
+        item.pszText = name.data();
+        SendMessageW(table, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        item.iSubItem = 1;
+        item.pszText = value.data();
+        SendMessageW(table, LVM_SETITEMTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void PlainDialog::fill_tabs(HWND tabs) {
+    for (const wchar_t* caption : {L"&One", L"&Two", L"T&hree"}) {
+        std::wstring text = caption;
+        TCITEMW item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text.data();
+        SendMessageW(tabs, TCM_INSERTITEMW, 9, reinterpret_cast<LPARAM>(&item));
+    }
+}
+
 INT_PTR PlainDialog::describe(WPARAM capacity, LPARAM buffer) const {
     const std::wstring::size_type size = description.size() + 1;
     if (buffer && capacity >= size)
@@ -149,7 +197,10 @@ INT_PTR CALLBACK PlainDialog::procedure(HWND handle, UINT message, WPARAM wparam
         self->happened(LOWORD(wparam), HIWORD(wparam));
         return TRUE;
     case WM_NOTIFY:
-        if (self) self->happened_in_tree(*reinterpret_cast<const NMTREEVIEWW*>(lparam));
+        if (!self) return FALSE;
+        if (wparam == table_box) return self->happened_in_table(*reinterpret_cast<NMHDR*>(lparam));
+        self->happened_in_tree(*reinterpret_cast<const NMTREEVIEWW*>(lparam));
+        self->happened_elsewhere(*reinterpret_cast<const NMHDR*>(lparam));
         return FALSE;
     case WM_TIMER:
         self->note("tick");
@@ -227,6 +278,33 @@ void PlainDialog::happened_in_tree(const NMTREEVIEWW& notification) {
     if (notification.hdr.code == TVN_ITEMEXPANDEDW)
         note((notification.action == TVE_EXPAND ? "open " : "close ") + number);
     if (notification.hdr.code == NM_DBLCLK) note("tree twice");
+}
+
+/// The value of row 2 is drawn in red, its name in bold type.
+INT_PTR PlainDialog::happened_in_table(NMHDR& notification) {
+    const auto answer = [&](LRESULT result) {
+        SetWindowLongPtrW(handle_, DWLP_MSGRESULT, result);
+        return TRUE;
+    };
+    if (notification.code == NM_CUSTOMDRAW) {
+        auto& drawing = reinterpret_cast<NMLVCUSTOMDRAW&>(notification);
+        if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return answer(CDRF_NOTIFYITEMDRAW);
+        if (drawing.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return answer(CDRF_NOTIFYSUBITEMDRAW);
+        if (drawing.nmcd.dwItemSpec != 2) return FALSE;
+        if (drawing.iSubItem == 1) drawing.clrText = RGB(255, 0, 0);
+        if (drawing.iSubItem == 0) SelectObject(drawing.nmcd.hdc, bold_);
+        return answer(CDRF_NEWFONT);
+    }
+    const auto& changed = reinterpret_cast<const NMLISTVIEW&>(notification);
+    if (notification.code == LVN_ITEMCHANGED && (changed.uNewState & ~changed.uOldState & LVIS_SELECTED) != 0)
+        note("row " + std::to_string(changed.iItem));
+    if (notification.code == NM_DBLCLK) note("table twice");
+    return FALSE;
+}
+
+void PlainDialog::happened_elsewhere(const NMHDR& notification) {
+    if (notification.code == TCN_SELCHANGE)
+        note("tab " + std::to_string(SendMessageW(notification.hwndFrom, TCM_GETCURSEL, 0, 0)));
 }
 
 LRESULT CALLBACK PlainDialog::box_procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,

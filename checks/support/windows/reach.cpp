@@ -2,6 +2,7 @@
 
 #include "windows/hands.h"
 #include "windows/native.h"
+#include "windows/native_table.h"
 #include "windows/native_tree.h"
 
 #include <commctrl.h>
@@ -53,6 +54,8 @@ bool find_line(HWND list, int line, POINT& point) {
         if (item) point = point_on_text(list, item);
         return item != nullptr;
     }
+    if (kind_of(list) == NativeKind::table) return point_on_row(list, line, point);
+    if (kind_of(list) == NativeKind::tabs) return point_on_tab(list, line, point);
     if (kind_of(list) != NativeKind::list_box || !bring_into_view(list, line)) return false;
     point = centre_of_line(list, line);
     return true;

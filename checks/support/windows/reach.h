@@ -19,8 +19,8 @@ bool click_into(HWND window, POINT client);
 /// Scrolls a row of a tree into view where needed, as a person would first. Null when there is no such row.
 HTREEITEM bring_row_into_view(HWND tree, int row);
 
-/// Where to click on a line of a list box or on a row of a tree, which is brought into view. False when there
-/// is none.
+/// Where to click on a line of a list box, a row of a tree or table, which is brought into view, or a tab.
+/// False when there is none.
 bool find_line(HWND list, int line, POINT& point);
 
 bool click_line(HWND list, int line);

@@ -158,6 +158,67 @@ TEST_F(WindowsScreenTest, TheKeysOfATreeWork) {
     EXPECT_EQ(events(), (Events{"close 1", "open 1", "close 1"}));
 }
 
+TEST_F(WindowsScreenTest, SeesTheRowsOfATableAsTheyAreDrawn) {
+    Sight table = screen.look("lvwBox");
+    ASSERT_EQ(table.lines.size(), 30U);
+    EXPECT_EQ(table.lines[1], "Row 1 | Value 1");
+    EXPECT_EQ(table.lines[2], "*Row 2* | red:Value 2");
+    EXPECT_EQ(table.selected, -1);
+    EXPECT_EQ(table.text, "");
+    EXPECT_TRUE(screen.choose("lvwBox", 3));
+    table = screen.look("lvwBox");
+    EXPECT_EQ(table.selected, 3);
+    EXPECT_EQ(table.text, "Row 3");
+    EXPECT_TRUE(table.focused);
+}
+
+TEST_F(WindowsScreenTest, ChoosesRowsOfATableAlsoThoseOutOfView) {
+    EXPECT_TRUE(screen.choose("lvwBox", 1));
+    EXPECT_TRUE(screen.choose("lvwBox", 28));
+    EXPECT_EQ(events(), (Events{"row 1", "row 28"}));
+    EXPECT_FALSE(screen.choose("lvwBox", 30));
+    EXPECT_FALSE(screen.choose("lvwBox", -1));
+    EXPECT_TRUE(screen.double_click("lvwBox", 0));
+    EXPECT_EQ(events(), (Events{"row 0", "table twice"}));
+    EXPECT_TRUE(screen.key(Key::down));
+    EXPECT_TRUE(screen.type("r"));
+    EXPECT_EQ(screen.look("lvwBox").text, "Row 2") << "The next one that begins so.";
+    ui.call([&] { EnableWindow(window("lvwBox"), FALSE); });
+    EXPECT_FALSE(screen.choose("lvwBox", 1));
+}
+
+TEST_F(WindowsScreenTest, SeesAndChoosesTabs) {
+    Sight tabs = screen.look("tabBox");
+    EXPECT_EQ(tabs.lines, (Events{"&One", "&Two", "T&hree"}));
+    EXPECT_EQ(tabs.selected, 0);
+    EXPECT_EQ(tabs.text, "&One");
+    EXPECT_TRUE(screen.choose("tabBox", 2));
+    EXPECT_EQ(events(), Events{"tab 2"});
+    tabs = screen.look("tabBox");
+    EXPECT_EQ(tabs.text, "T&hree");
+    EXPECT_TRUE(tabs.focused);
+    EXPECT_TRUE(screen.key(Key::left));
+    EXPECT_EQ(screen.look("tabBox").selected, 1);
+    EXPECT_FALSE(screen.choose("tabBox", 3));
+    EXPECT_FALSE(screen.choose("tabBox", -1));
+}
+
+TEST_F(WindowsScreenTest, SetsDatesAndTimesByTyping) {
+    for (const char* each : {"2026-11-21", "2028-02-29", "1999-12-31", "2001-01-01"}) {
+        EXPECT_TRUE(screen.set_date("dtpDay", each)) << each;
+        EXPECT_EQ(screen.look("dtpDay").text, each);
+    }
+    for (const char* each : {"00:00:00", "09:05:07", "12:00:01", "13:04:05", "23:59:59"}) {
+        EXPECT_TRUE(screen.set_date("dtpTime", each)) << each;
+        EXPECT_EQ(screen.look("dtpTime").text, each);
+    }
+    EXPECT_TRUE(screen.look("dtpTime").focused);
+    EXPECT_FALSE(screen.set_date("dtpDay", "2027-02-29")) << "There is no such day.";
+    EXPECT_FALSE(screen.set_date("dtpDay", "soon"));
+    EXPECT_FALSE(screen.set_date("dtpOff", "2026-11-21"));
+    EXPECT_FALSE(screen.set_date("txtBox", "2026-11-21"));
+}
+
 TEST_F(WindowsScreenTest, TicksACheckBox) {
     EXPECT_TRUE(screen.toggle("chkBox"));
     EXPECT_EQ(events(), Events{"tick box 1"});
@@ -299,6 +360,15 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
                           L"treBox\ttree_view\t1\t1\t-1\t30\t\n"
                           L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
                           L"treBox\trow\t1\t1\t-1\t0\t+Node 1\n"
+                          L"lvwBox\tlist_view\t1\t1\t-1\t30\t\n"
+                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tName\n"
+                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tValue\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | Value 0\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 1 | Value 1\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\t*Row 2* | red:Value 2\n"
+                          L"tabBox\ttab_strip\t1\t1\t0\t3\t&One\n"
+                          L"tabBox\trow\t1\t1\t-1\t0\t&One\n"
+                          L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-21\n"
                           L"bnOff\tbutton\t0\t1\t-1\t0\tOff\n"
                           L"bnHidden\tbutton\t1\t0\t-1\t0\tHidden\n"
                           L"Timer1\ttimer\t1\t0\t-1\t0\t\n"),
@@ -309,6 +379,12 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
                           L"treBox\ttree_view\t1\t1\t2\t31\tNode 2\n"
                           L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
                           L"treBox\trow\t1\t1\t-1\t0\t-Node 1\n"
+                          L"lvwBox\tlist_view\t1\t1\t1\t31\tRow 1\n"
+                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tItem\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | red:Value 0\n"
+                          L"tabBox\ttab_strip\t1\t1\t1\t3\t&Two\n"
+                          L"tabBox\trow\t1\t1\t-1\t0\tOne\n"
+                          L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-22\n"
                           L"lblBox\tpanel\t1\t1\t1\t0\t&Text:\n"
                           L"bnOff\tbutton\t1\t1\t-1\t0\tOff\n"
                           L"bnNone\tbutton\t1\t1\t-1\t0\tNone\n"),
@@ -322,6 +398,16 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
               "dlgPlain.treBox: a row is \"+Node 1\", but should be \"-Node 1\"\n"
               "dlgPlain.treBox: the number of lines is 30, but should be 31\n"
               "dlgPlain.treBox: the selected line or value is -1, but should be 2\n"
+              "dlgPlain.lvwBox: the text is \"\", but should be \"Row 1\"\n"
+              "dlgPlain.lvwBox: the number of columns is 2, but should be 1\n"
+              "dlgPlain.lvwBox: a column is \"Name\", but should be \"Item\"\n"
+              "dlgPlain.lvwBox: a row is \"Row 0 | Value 0\", but should be \"Row 0 | red:Value 0\"\n"
+              "dlgPlain.lvwBox: the number of lines is 30, but should be 31\n"
+              "dlgPlain.lvwBox: the selected line or value is -1, but should be 1\n"
+              "dlgPlain.tabBox: the text is \"&One\", but should be \"&Two\"\n"
+              "dlgPlain.tabBox: a row is \"&One\", but should be \"One\"\n"
+              "dlgPlain.tabBox: the selected line or value is 0, but should be 1\n"
+              "dlgPlain.dtpDay: the text is \"2026-11-21\", but should be \"2026-11-22\"\n"
               "dlgPlain.lblBox: in front is false, but should be true\n"
               "dlgPlain.bnOff: enabled is false, but should be true\n"
               "dlgPlain.bnNone: it has no window\n");

@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "windows/native.h"
+#include "windows/native_table.h"
 #include "windows/native_tree.h"
 #include "windows/reach.h"
 
@@ -13,6 +14,9 @@ namespace brx::checks {
 namespace {
 
 constexpr int most_tabs = 100;
+
+/// A day that the month of the moment has not, for example, comes right the second time.
+constexpr int most_tries = 3;
 
 HWND dropped_list_of(HWND combo_box) {
     COMBOBOXINFO info{};
@@ -165,6 +169,33 @@ bool WindowsScreen::click_sign(const std::string& tree, int row, bool open) {
     });
 }
 
+bool WindowsScreen::set_date(const std::string& picker, const std::string& text) {
+    const auto is_picker = [&] {
+        const HWND window = reachable(picker);
+        return window && kind_of(window) == NativeKind::date_picker;
+    };
+    if (!asked(is_picker) || !focus(picker)) return false;
+    for (int i = 0; i < most_tries && look(picker).text != text; ++i)
+        if (!type_date(picker, text)) return false;
+    return look(picker).text == text;
+}
+
+/// Field by field, from the left one on. Going on to the next one takes over what was typed.
+bool WindowsScreen::type_date(const std::string& picker, const std::string& text) {
+    std::vector<std::string> fields;
+    const bool begun = done([&] {
+        const HWND window = reachable(picker);
+        if (!window || GetFocus() != window) return false;
+        fields = date_fields(window, text);
+        return !fields.empty() && click_into(window, {5, centre_of(window).y});
+    });
+    return begun && std::ranges::all_of(fields, [&](const std::string& field) {
+               return std::ranges::all_of(strokes_for(field),
+                                          [&](const Stroke& each) { return stroke(each); }) &&
+                      key(Key::right);
+           });
+}
+
 bool WindowsScreen::focus(const std::string& control) {
     // A click would do more than that to any other control.
     const auto is_text_box = [&] {
@@ -212,7 +243,9 @@ bool WindowsScreen::stroke(const Stroke& stroke) {
 bool WindowsScreen::type(const std::string& text) {
     const auto takes_text = [&] {
         const HWND focused = focused_in_front();
-        return focused && (kind_of(focused) == NativeKind::text_box || kind_of(focused) == NativeKind::tree);
+        if (!focused) return false;
+        const NativeKind kind = kind_of(focused);
+        return kind == NativeKind::text_box || kind == NativeKind::tree || kind == NativeKind::table;
     };
     return std::ranges::all_of(strokes_for(text),
                                [&](const Stroke& each) { return asked(takes_text) && stroke(each); });
@@ -257,6 +290,13 @@ bool WindowsScreen::key(Key key) {
         return stroke({.key = VK_F1});
     case Key::backspace:
         return stroke({.key = VK_BACK});
+    case Key::erase:
+        return stroke({.key = VK_HOME}) && stroke({.key = VK_END, .shift = true}) &&
+               stroke({.key = VK_DELETE});
+    case Key::next_tab:
+        return stroke({.key = VK_TAB, .control = true});
+    case Key::previous_tab:
+        return stroke({.key = VK_TAB, .shift = true, .control = true});
     }
     return false;
 }

@@ -34,6 +34,7 @@ public:
     bool expand(const std::string& tree, int row) override;
     bool collapse(const std::string& tree, int row) override;
     bool toggle(const std::string& check_box) override { return press(check_box); }
+    bool set_date(const std::string& picker, const std::string& text) override;
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;
     bool paste(const std::string& text) override;
@@ -57,6 +58,7 @@ private:
     bool stroke(const Stroke& stroke);
     bool click_sign(const std::string& tree, int row, bool open);
     bool choose_in_combo_box(const std::string& list, int line);
+    bool type_date(const std::string& picker, const std::string& text);
     bool go_to_by_tab(const std::string& control);
     void note_differences();
 

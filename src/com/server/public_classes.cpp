@@ -1,5 +1,6 @@
 #include "com/server/public_classes.h"
 
+#include "classes/ConfigurationSetup.h"
 #include "classes/LeafSelect.h"
 #include "classes/ServerAdd.h"
 #include "classes/ServerInformation.h"
@@ -100,6 +101,16 @@ public:
     }
 };
 
+class ConfigurationSetupObject final : public PublicObject<_ConfigurationSetup, ::ConfigurationSetup> {
+public:
+    HRESULT STDMETHODCALLTYPE Show(IDispatch* hlxOPCConfiguration) override {
+        return show(self(), "ConfigurationSetup", nullptr, [&](Environment& environment) {
+            ConfigurationSetup(environment).Show(object_of(hlxOPCConfiguration));
+            return true;
+        });
+    }
+};
+
 template <class Object> com_ptr<IDispatch> create() { return make_com<Object>(); }
 
 constexpr auto classes = std::to_array<PublicClass>({
@@ -108,6 +119,7 @@ constexpr auto classes = std::to_array<PublicClass>({
     {CLSID_ServerInformation, create<ServerInformationObject>},
     {CLSID_LeafSelect, create<LeafSelectObject>},
     {CLSID_TestConfiguration, create<TestConfigurationObject>},
+    {CLSID_ConfigurationSetup, create<ConfigurationSetupObject>},
 });
 
 } // namespace

@@ -2,9 +2,12 @@
 
 #include "forms/button.h"
 #include "forms/check_box.h"
+#include "forms/date_picker.h"
 #include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list_control.h"
+#include "forms/list_rows.h"
+#include "forms/tab_strip.h"
 #include "forms/text_box.h"
 #include "forms/tree_rows.h"
 
@@ -31,6 +34,16 @@ std::string text_of(const Control& control) {
         const TreeNode* selected = static_cast<const TreeView&>(control).selected();
         return selected ? selected->text() : std::string();
     }
+    case Kind::list_view: {
+        const auto& list = static_cast<const ListView&>(control);
+        return list.selected() == 0 ? std::string() : list.row(list.selected()).text();
+    }
+    case Kind::tab_strip: {
+        const auto& strip = static_cast<const TabStrip&>(control);
+        return strip.caption(strip.selected());
+    }
+    case Kind::date_picker:
+        return static_cast<const DatePicker&>(control).text();
     case Kind::panel:
     case Kind::timer:
         break;
@@ -45,7 +58,8 @@ HeadlessPeer::HeadlessPeer(Control& control) : Peer(control), control_(control) 
 }
 
 void HeadlessPeer::refresh(Aspect aspects) {
-    if (has(aspects, Aspect::text | Aspect::lines | Aspect::selection)) shown_.text = text_of(control_);
+    if (has(aspects, Aspect::text | Aspect::lines | Aspect::selection | Aspect::value))
+        shown_.text = text_of(control_);
     if (has(aspects, Aspect::enabled)) shown_.enabled = control_.takes_input();
     if (has(aspects, Aspect::visible)) shown_.visible = control_.shows();
     if (has(aspects, Aspect::place)) shown_.place = control_.place();
@@ -67,6 +81,17 @@ void HeadlessPeer::refresh(Aspect aspects) {
         }
         if (has(aspects, Aspect::lines | Aspect::selection))
             shown_.selected = row_of(*tree, tree->selected());
+    }
+    if (auto* list = dynamic_cast<ListView*>(&control_)) {
+        if (has(aspects, Aspect::lines)) {
+            list->take_changes();
+            shown_.lines = rows_of(*list);
+        }
+        if (has(aspects, Aspect::selection)) shown_.selected = list->selected() - 1;
+    }
+    if (const auto* strip = dynamic_cast<const TabStrip*>(&control_)) {
+        shown_.lines = strip->captions();
+        if (has(aspects, Aspect::selection)) shown_.selected = strip->selected() - 1;
     }
     if (const auto* panel = dynamic_cast<const Panel*>(&control_))
         if (has(aspects, Aspect::order)) shown_.in_front = panel->in_front();

@@ -1,17 +1,19 @@
 #include "forms/headless/user.h"
 
-#include "common/values/text.h"
+#include "common/values/calendar.h"
+#include "forms/accelerator.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/list_control.h"
+#include "forms/date_picker.h"
+#include "forms/headless/user_parts.h"
+#include "forms/list_view.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
-#include "forms/tree_rows.h"
+#include "forms/tree_view.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 
 namespace brx {
 
@@ -19,26 +21,7 @@ namespace {
 
 constexpr std::int32_t backspace_key = 8;
 constexpr std::int32_t enter_key = 13;
-
-template <class Kind> Kind* as(Control* control) { return dynamic_cast<Kind*>(control); }
-
-/// The letter after the single "&" of a caption, in lower case; 0 for none.
-int mnemonic_of(const std::string& caption) {
-    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
-        if (caption[i] != '&') continue;
-        if (caption[i + 1] != '&') return std::tolower(static_cast<unsigned char>(caption[i + 1]));
-        ++i;
-    }
-    return 0;
-}
-
-int mnemonic_of(Control* control) {
-    if (const auto* label = as<Label>(control)) return label->mnemonic() ? mnemonic_of(label->caption()) : 0;
-    if (const auto* button = as<Button>(control)) return mnemonic_of(button->caption());
-    if (const auto* box = as<CheckBox>(control)) return mnemonic_of(box->caption());
-    if (const auto* frame = as<Frame>(control)) return mnemonic_of(frame->caption());
-    return 0;
-}
+constexpr std::int32_t delete_key = 46;
 
 /// UTF-8 text cut into its characters.
 std::vector<std::string> characters(const std::string& text) {
@@ -86,45 +69,6 @@ bool HeadlessUser::click(const std::string& name) {
     return control->focusable();
 }
 
-bool HeadlessUser::choose(const std::string& name, int line) {
-    if (auto* tree = as<TreeView>(find(name))) {
-        TreeNode* node = node_at(*tree, line);
-        if (!node || !tree->can_focus()) return false;
-        tree->user_focus();
-        return tree->user_click(*node);
-    }
-    auto* list = as<ListControl>(find(name));
-    if (!list || !list->can_focus()) return false;
-    list->user_focus();
-    return list->user_select(line);
-}
-
-bool HeadlessUser::double_click(const std::string& name, int line) {
-    if (auto* tree = as<TreeView>(find(name))) {
-        if (!choose(name, line)) return false;
-        TreeNode* node = node_at(*tree, line);
-        if (!node || !node->child()) return true;
-        return node->expanded() ? tree->user_collapse(*node) : tree->user_expand(*node);
-    }
-    return choose(name, line) && as<ListControl>(find(name))->user_double_click();
-}
-
-bool HeadlessUser::expand(const std::string& name, int row) {
-    auto* tree = as<TreeView>(find(name));
-    TreeNode* node = tree ? node_at(*tree, row) : nullptr;
-    if (!node || !node->child() || node->expanded() || !tree->can_focus()) return false;
-    tree->user_focus();
-    return tree->user_expand(*node);
-}
-
-bool HeadlessUser::collapse(const std::string& name, int row) {
-    auto* tree = as<TreeView>(find(name));
-    TreeNode* node = tree ? node_at(*tree, row) : nullptr;
-    if (!node || !node->expanded() || !tree->can_focus()) return false;
-    tree->user_focus();
-    return tree->user_collapse(*node);
-}
-
 bool HeadlessUser::focus(const std::string& name) {
     Control* control = find(name);
     return control && control->user_focus();
@@ -149,25 +93,9 @@ bool HeadlessUser::press_character(TextBox& box, const std::string& character) {
     return true;
 }
 
-/// A tree goes to the next node in view that begins with what is typed, round the end.
-bool HeadlessUser::search_tree(const std::string& text) {
-    auto& tree = *as<TreeView>(focused());
-    const auto begins = [&](const TreeNode& node) {
-        return to_upper(node.text()).rfind(to_upper(text), 0) == 0;
-    };
-    const int start = row_of(tree, tree.selected());
-    TreeNode* first = nullptr;
-    int row = 0;
-    for (TreeNode* each = tree.first(); each; each = TreeView::next_in_view(*each), ++row) {
-        if (!begins(*each)) continue;
-        if (row > start) return tree.user_select(*each);
-        if (!first) first = each;
-    }
-    return first && tree.user_select(*first);
-}
-
 bool HeadlessUser::type(const std::string& text) {
     if (as<TreeView>(focused())) return search_tree(text);
+    if (as<ListView>(focused())) return search_table(text);
     for (const std::string& character : characters(text)) {
         auto* box = as<TextBox>(focused());
         if (!box || !press_character(*box, character)) return false;
@@ -182,6 +110,15 @@ bool HeadlessUser::paste(const std::string& text) {
 }
 
 bool HeadlessUser::backspace() { return type(std::string(1, static_cast<char>(backspace_key))); }
+
+/// Delete is no character: no KeyPress comes with it.
+bool HeadlessUser::erase() {
+    auto* box = as<TextBox>(focused());
+    if (!box || box->display_only() || !box->user_key_down(delete_key)) return false;
+    if (!box->text().empty()) box->user_text("");
+    box->user_key_up(delete_key);
+    return true;
+}
 
 bool HeadlessUser::enter() {
     if (!form()) return false;
@@ -209,75 +146,45 @@ bool HeadlessUser::tab(bool backwards) {
     return (*here)->user_focus();
 }
 
+bool HeadlessUser::turn_tab(bool backwards) {
+    TabStrip* strip = form() ? tab_strip_of(*form()) : nullptr;
+    return strip && strip->user_turn(backwards);
+}
+
+bool HeadlessUser::set_date(const std::string& name, const std::string& text) {
+    auto* picker = as<DatePicker>(find(name));
+    int a = 0;
+    unsigned b = 0;
+    unsigned c = 0;
+    if (!picker || !picker->can_focus() || std::sscanf(text.c_str(), "%d%*c%u%*c%u", &a, &b, &c) != 3)
+        return false;
+    picker->user_focus();
+    Moment moment;
+    if (picker->part() == DatePart::date)
+        moment.day = day_number(a, b, c).value();
+    else
+        moment.second = a * 3600 + static_cast<int>(b) * 60 + static_cast<int>(c);
+    return picker->user_set(to_date(moment));
+}
+
 bool HeadlessUser::space() {
     if (auto* button = as<Button>(focused())) return button->user_click();
     if (auto* box = as<CheckBox>(focused())) return box->user_toggle();
+    if (auto* table = as<ListView>(focused()); table && table->selected() == 0) return move(0);
     return type(" ");
-}
-
-bool HeadlessUser::left() {
-    auto* tree = as<TreeView>(focused());
-    TreeNode* node = tree ? tree->selected() : nullptr;
-    if (!node) return false;
-    if (node->expanded()) return tree->user_collapse(*node);
-    return !node->parent() || tree->user_select(*node->parent());
-}
-
-bool HeadlessUser::right() {
-    auto* tree = as<TreeView>(focused());
-    TreeNode* node = tree ? tree->selected() : nullptr;
-    if (!node) return false;
-    if (!node->child()) return true;
-    return node->expanded() ? tree->user_select(*node->child()) : tree->user_expand(*node);
-}
-
-bool HeadlessUser::plus() {
-    auto* tree = as<TreeView>(focused());
-    TreeNode* node = tree ? tree->selected() : nullptr;
-    return node && (!node->child() || tree->user_expand(*node));
-}
-
-bool HeadlessUser::minus() {
-    auto* tree = as<TreeView>(focused());
-    TreeNode* node = tree ? tree->selected() : nullptr;
-    return node && tree->user_collapse(*node);
-}
-
-bool HeadlessUser::move(int lines) {
-    if (auto* tree = as<TreeView>(focused())) {
-        const int row = row_of(*tree, tree->selected());
-        TreeNode* node = node_at(*tree, std::max(row + lines, 0));
-        return node ? tree->user_select(*node) : row >= 0;
-    }
-    auto* list = as<ListControl>(focused());
-    if (!list || list->count() == 0) return false;
-    return list->user_select(std::clamp(list->selected() + lines, 0, list->count() - 1));
 }
 
 bool HeadlessUser::help() { return form() && form()->user_help(); }
 
 bool HeadlessUser::accelerator(char letter) {
     if (!form()) return false;
-    const int wanted = std::tolower(static_cast<unsigned char>(letter));
-    const std::vector<Control*> order = form()->controls_in_tab_order();
-    std::vector<Control*> named;
-    for (Control* control : order)
-        if (control->shows() && control->takes_input() && mnemonic_of(control) == wanted)
-            named.push_back(control);
-    if (named.empty()) return false;
-    // Of several with one letter the next one after the focus is meant, and none of them is pressed.
-    const auto position = [&](const Control* control) {
-        return std::find(order.begin(), order.end(), control);
-    };
-    const auto here = position(focused());
-    const auto later = std::find_if(named.begin(), named.end(), [&](Control* each) {
-        return here != order.end() && position(each) > here;
-    });
-    Control* meant = later == named.end() ? named.front() : *later;
-    if (meant->focusable()) return named.size() == 1 ? click(meant->name()) : meant->user_focus();
-    const auto next = std::find_if(position(meant), order.end(),
-                                   [](const Control* control) { return control->can_focus(); });
-    return next != order.end() && (*next)->user_focus();
+    const auto [meant, alone] = accelerator_of(*form(), letter);
+    if (!meant) return false;
+    Control* const target = focus_for(*meant);
+    if (!target) return false;
+    if (!alone || target != meant) return target->user_focus();
+    if (auto* strip = as<TabStrip>(meant)) return strip->user_select(tab_with(*strip, letter));
+    return click(meant->name());
 }
 
 bool HeadlessUser::close_box() { return form() && form()->user_close(); }

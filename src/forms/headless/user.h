@@ -6,8 +6,9 @@
 
 namespace brx {
 
+class Control;
+class ListView;
 class TextBox;
-class ListControl;
 
 /// What the keyboard and the mouse do to the window in front, by the platform's rules. On the forms' thread.
 /// False when nothing there takes the input.
@@ -21,12 +22,16 @@ public:
     /// Of a tree, with the mouse on the sign before the node.
     bool expand(const std::string& tree, int row);
     bool collapse(const std::string& tree, int row);
+    /// Of a date picker: "2026-11-21", or "13:04:05" where it shows times.
+    bool set_date(const std::string& picker, const std::string& text);
     bool focus(const std::string& control);
     bool type(const std::string& text);
     bool paste(const std::string& text);
     bool enter();
     bool escape();
     bool tab(bool backwards);
+    /// Ctrl+Tab
+    bool turn_tab(bool backwards);
     bool space();
     bool move(int lines);
     bool left();
@@ -35,6 +40,7 @@ public:
     bool minus();
     bool help();
     bool backspace();
+    bool erase();
     bool accelerator(char letter);
     bool close_box();
     void tick();
@@ -44,6 +50,7 @@ private:
     Control* find(const std::string& name) const;
     Control* focused() const;
     bool search_tree(const std::string& text);
+    bool search_table(const std::string& text);
     bool press_character(TextBox& box, const std::string& character);
 
     HeadlessEngine& engine_;

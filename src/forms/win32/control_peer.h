@@ -37,6 +37,8 @@ public:
         static_cast<void>(notification);
         return 0;
     }
+    /// Enter or an accelerator acts now: what a person has begun to type counts.
+    virtual void finish_typing() {}
     /// The form has another font or scale.
     virtual void font_changed();
     /// Sets its colours and returns the background; null leaves both to the system.

@@ -2,9 +2,12 @@
 
 #include "forms/button.h"
 #include "forms/check_box.h"
+#include "forms/date_picker.h"
 #include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list_control.h"
+#include "forms/list_rows.h"
+#include "forms/tab_strip.h"
 #include "forms/text_box.h"
 #include "forms/tree_rows.h"
 #include "forms/win32/wide.h"
@@ -20,11 +23,12 @@ struct Description {
     int number = -1;
     int lines = 0;
     std::string text = {};
+    std::vector<std::string> columns = {};
     std::vector<std::string> rows = {};
 };
 
 Description describe_list(const char* kind, const ListControl& list) {
-    return {kind, list.selected(), list.count(), list.text(), {}};
+    return {.kind = kind, .number = list.selected(), .lines = list.count(), .text = list.text()};
 }
 
 Description describe_tree(const TreeView& tree) {
@@ -35,6 +39,25 @@ Description describe_tree(const TreeView& tree) {
             .lines = static_cast<int>(rows.size()),
             .text = row < 0 ? std::string() : tree.selected()->text(),
             .rows = std::move(rows)};
+}
+
+Description describe_table(const ListView& list) {
+    const int selected = list.selected();
+    Description all{.kind = "list_view",
+                    .number = selected - 1,
+                    .lines = list.count(),
+                    .text = selected == 0 ? std::string() : list.row(selected).text(),
+                    .rows = rows_of(list)};
+    for (const ListView::Column& column : list.columns()) all.columns.push_back(column.caption);
+    return all;
+}
+
+Description describe_tabs(const TabStrip& strip) {
+    return {.kind = "tab_strip",
+            .number = strip.selected() - 1,
+            .lines = strip.count(),
+            .text = strip.caption(strip.selected()),
+            .rows = strip.captions()};
 }
 
 Description describe(const Control& control) {
@@ -55,6 +78,12 @@ Description describe(const Control& control) {
         return describe_list("combo_box", dynamic_cast<const ListControl&>(control));
     case Kind::tree_view:
         return describe_tree(dynamic_cast<const TreeView&>(control));
+    case Kind::list_view:
+        return describe_table(dynamic_cast<const ListView&>(control));
+    case Kind::tab_strip:
+        return describe_tabs(dynamic_cast<const TabStrip&>(control));
+    case Kind::date_picker:
+        return {.kind = "date_picker", .text = dynamic_cast<const DatePicker&>(control).text()};
     case Kind::frame:
         return {.kind = "frame", .text = dynamic_cast<const Frame&>(control).caption()};
     case Kind::panel:
@@ -107,10 +136,12 @@ LRESULT describe(const Form& form, WPARAM capacity, LPARAM buffer) {
     std::string all = line(form.name(), form.in_front(), true, {.kind = "form", .text = form.caption()});
     for (const Control* control : form.controls()) {
         const Description what = describe(*control);
-        all += line(control->name(), control->takes_input(), control->shows(), what);
-        for (const std::string& row : what.rows)
-            all +=
-                line(control->name(), control->takes_input(), control->shows(), {.kind = "row", .text = row});
+        const auto add = [&](const Description& part) {
+            all += line(control->name(), control->takes_input(), control->shows(), part);
+        };
+        add(what);
+        for (const std::string& column : what.columns) add({.kind = "column", .text = column});
+        for (const std::string& row : what.rows) add({.kind = "row", .text = row});
     }
     const std::wstring answer = to_wide(all);
     if (buffer != 0 && capacity > 0) {

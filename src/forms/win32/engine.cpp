@@ -15,7 +15,7 @@ namespace brx {
 namespace {
 
 /// Serves the window until its form is no longer loaded. Gives the exit code when the thread is asked to end.
-std::optional<WPARAM> serve(const FormWindow& window) {
+std::optional<WPARAM> serve(FormWindow& window) {
     while (window.form().loaded()) {
         MSG message{};
         if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -26,7 +26,7 @@ std::optional<WPARAM> serve(const FormWindow& window) {
         } else if (message.message == WM_QUIT) {
             window.form().unload();
             return message.wParam;
-        } else if (!IsDialogMessageW(window.handle(), &message)) {
+        } else if (!window.takes(message) && !IsDialogMessageW(window.handle(), &message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }

@@ -40,7 +40,8 @@ void FormWindow::create(HWND owner) {
     EmptyTemplate empty;
     empty.dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
     if (form_.design().resizable)
-        empty.dialog.style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
+        empty.dialog.style |=
+            WS_THICKFRAME | WS_MAXIMIZEBOX | WS_CLIPCHILDREN; // no flicker while it is sized
     else
         empty.dialog.style |= DS_MODALFRAME;
     empty.dialog.dwExtendedStyle = WS_EX_DLGMODALFRAME;
@@ -137,8 +138,10 @@ FormWindow::Area FormWindow::area_of(const Control* control) const {
     }
     const auto [around, growth] = area_of(control->container().as_control());
     const Place& place = control->place();
+    // What code has put beyond the upper left corner is away, however large the form is.
+    const bool away = place.left + place.width <= 0 || place.top + place.height <= 0;
     const auto given = [&](Anchor anchor, LONG length) {
-        return has(control->anchor(), anchor) ? length : 0;
+        return !away && has(control->anchor(), anchor) ? length : 0;
     };
     // Of two halves the right one takes what cannot be divided.
     const LONG half = growth.cx / 2;

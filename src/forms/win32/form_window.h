@@ -30,6 +30,8 @@ public:
     /// Puts it on the screen, with the focus where the form has it.
     void open();
     void refresh(Aspect aspects) override;
+    /// Whether the form itself takes a message of its controls that would else go to the dialog manager.
+    bool takes(const MSG& message);
 
     // For the peers of its controls.
 
@@ -92,6 +94,9 @@ private:
     static INT_PTR CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
     INT_PTR handle_message(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     bool command(WPARAM wparam, HWND sender);
+    bool turn_tabs();
+    bool take_accelerator(WPARAM character);
+    void finish_typing();
     void tick(UINT_PTR timer);
     void dpi_changed(unsigned dpi, const RECT& proposed);
     void looks_changed();

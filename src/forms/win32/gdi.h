@@ -11,6 +11,7 @@ struct GdiDelete {
     void operator()(void* object) const noexcept { DeleteObject(object); }
 };
 using FontHandle = std::unique_ptr<std::remove_pointer_t<HFONT>, GdiDelete>;
+using RegionHandle = std::unique_ptr<std::remove_pointer_t<HRGN>, GdiDelete>;
 using BrushHandle = std::unique_ptr<std::remove_pointer_t<HBRUSH>, GdiDelete>;
 
 /// A window's device context with a font in it, for measuring text.

@@ -1,5 +1,8 @@
+#include "forms/win32/date_picker_peer.h"
 #include "forms/win32/list_peer.h"
+#include "forms/win32/list_view_peer.h"
 #include "forms/win32/simple_peers.h"
+#include "forms/win32/tab_peer.h"
 #include "forms/win32/text_box_peer.h"
 #include "forms/win32/timer_peer.h"
 #include "forms/win32/tree_peer.h"
@@ -31,6 +34,12 @@ std::unique_ptr<Peer> make_peer(FormWindow& window, Control& control) {
         return make<ComboBoxPeer, ComboBox>(window, control);
     case Kind::tree_view:
         return make<TreePeer, TreeView>(window, control);
+    case Kind::list_view:
+        return make<ListViewPeer, ListView>(window, control);
+    case Kind::tab_strip:
+        return make<TabPeer, TabStrip>(window, control);
+    case Kind::date_picker:
+        return make<DatePickerPeer, DatePicker>(window, control);
     case Kind::frame:
         return make<FramePeer, Frame>(window, control);
     case Kind::panel:

@@ -14,6 +14,14 @@ public:
         return is_system(color) ? GetSysColor(index(color)) : color & 0xFFFFFF;
     }
 
+    /// Whether the user wants nothing but the system's own colours.
+    static bool high_contrast() {
+        HIGHCONTRASTW setting{};
+        setting.cbSize = sizeof setting;
+        return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
+               (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
+    }
+
     /// Valid as long as the palette.
     HBRUSH brush(Color color) {
         // The system keeps its own brushes current, whatever colours the user chooses meanwhile.

@@ -68,6 +68,12 @@ FramePeer::FramePeer(FormWindow& window, Frame& frame)
     show_text(frame.caption());
 }
 
+void FramePeer::move_to(const RECT& place) {
+    // What it drew lies on the form, which does not know that it went.
+    window().redraw_area_of(handle());
+    ControlPeer::move_to(place);
+}
+
 PanelPeer::PanelPeer(FormWindow& window, Panel& panel)
     : ControlPeer(
           window, panel,

@@ -49,6 +49,9 @@ private:
 class FramePeer : public ControlPeer {
 public:
     FramePeer(FormWindow& window, Frame& frame);
+
+protected:
+    void move_to(const RECT& place) override;
 };
 
 class PanelPeer : public ControlPeer {

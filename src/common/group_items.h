@@ -1,14 +1,13 @@
 #pragma once
 
 #include "common/model/opc_automation.h"
-#include "forms/list_control.h"
 
 #include <cstdint>
 #include <string>
 
 namespace brx {
 
-// What both dialogs do with the items of the configuration's OPC group.
+// What dialogs do with the items of a configuration's OPC group.
 
 /// Goes through the items in their order until `visit` says false.
 template <class Visit> void for_each_item(OPCItems& items, Visit&& visit) {
@@ -32,10 +31,9 @@ inline std::int16_t canonical_data_type(OPCItems& items, const std::string& item
     return the(items.Item(item_id)).CanonicalDataType();
 }
 
-/// Selects the first line with exactly this text; nothing changes when there is none.
-inline void select_text(ListControl& list, const std::string& text) {
-    for (int line = 0; line < list.count(); ++line)
-        if (list.text(line) == text) return list.select(line);
+/// What a person is told when the server refuses an item.
+inline std::string refusal_text(const std::string& error_string, const std::string& item_id) {
+    return "UNABLE TO ADD ITEM!\r\n\r\n" + error_string + "\r\n\r\nItem: " + item_id;
 }
 
 } // namespace brx

@@ -1,0 +1,266 @@
+#include "configuring.h"
+
+// The descriptors of a configuration, and the dialog in which their kind is chosen.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+using Fields = std::vector<DescriptorFields>;
+
+void three_descriptors(Play& its) {
+    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
+    its.host.configuration->descriptors->has({.type = 7, .item = "(%Line1.Serial)", .group = ""});
+    its.host.configuration->descriptors->has({.type = 5, .item = "Red", .group = "Colours"});
+}
+
+const Lines three_rows = {"Part | Castings | Wheel", "Serial Number |  | (%Line1.Serial)",
+                          "User Defined (Subgroup) | Colours | Red"};
+
+} // namespace
+
+SCENARIO(DescriptorsTab, ListsTheDescriptorsInTheirOrder) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, -1);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ANewDescriptorGetsItsKindAndItsNames) {
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.is_at("dlgDescriptorType");
+    its.person.picks("List1", "Lot");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - Lot");
+    EXPECT_EQ(its.person.reads("txtItem"), "");
+    its.person.enters("txtItem", "L-7");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{"Lot |  | L-7"}));
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), (Fields{{3, "L-7", ""}}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 0);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, CancellingEitherDialogAddsNothing) {
+    three_descriptors(its);
+    const Fields before = its.host.configuration->descriptors->fields();
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.host.calls.count("hlxOPCDescriptors.Add"), 0);
+    its.person.presses("bnAddDesc");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 4U);
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, AfterAnOkTheDialogsStartAfresh) {
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Lot");
+    its.person.presses("bnOK");
+    its.person.enters("txtItem", "L-7");
+    its.person.presses("bnOK");
+    its.person.presses("bnAddDesc");
+    its.person.closes_the_window();
+    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 1U);
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Serial Number");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - Serial Number");
+    EXPECT_EQ(its.person.reads("txtItem"), "");
+    its.person.closes_the_window();
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), (Fields{{3, "L-7", ""}}));
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{"Lot |  | L-7"}));
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, EditChangesTheNamesAndTheRow) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[2]);
+    its.person.presses("bnEditDesc");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.reads("txtGroup"), "Colours");
+    EXPECT_EQ(its.person.reads("txtItem"), "Red");
+    its.person.enters("txtItem", "Blue");
+    its.person.enters("txtGroup", "Paints");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.person.line_of("lvwDescriptors", 2), "User Defined (Subgroup) | Paints | Blue");
+    EXPECT_EQ(its.host.configuration->descriptors->entries[2]->fields,
+              (DescriptorFields{5, "Blue", "Paints"}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 2);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ADoubleClickEditsAndACancelledEditChangesNothing) {
+    three_descriptors(its);
+    const Fields before = its.host.configuration->descriptors->fields();
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.double_clicks("lvwDescriptors", three_rows[0]);
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - Part");
+    its.person.enters("txtItem", "Axle");
+    its.person.presses("bnCancel");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, WithoutASelectedRowEditAndRemoveDoNothing) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnEditDesc");
+    its.person.is_at("dlgConfiguration");
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 3U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, TheSelectionGoesToTheRowThatTookTheRemovedOnesPlace) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[1]);
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], three_rows[2]}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 1);
+    its.person.presses("bnRemoveDesc"); // the last one now
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 0);
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), (Fields{{0, "Wheel", "Castings"}}));
+    its.person.presses("bnRemoveDesc"); // the only one
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines());
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, -1);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, RemovingTheLastOfThreeSelectsTheNewLastOne) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[2]);
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 1);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, WithoutADatabaseANewDescriptorCanStillBeTyped) {
+    its.host.application->database = nullptr;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Shift");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorProperties");
+    its.expect_report(error::type_mismatch, "CommonTools.ResolveDatabase");
+    its.person.enters("txtGroup", "Days");
+    its.person.enters("txtItem", "Early");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), (Fields{{4, "Early", "Days"}}));
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ADescriptorThatNobodyCouldFinishIsTakenBack) {
+    its.host.servers->application = nullptr;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgConfiguration");
+    its.expect_report(error::type_mismatch, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 0U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->keeps_all = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Job");
+    its.person.presses("bnOK");
+    its.person.presses("bnCancel");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 4U);
+    EXPECT_EQ(its.person.line_of("lvwDescriptors", 3), "Job |  | ");
+    its.person.picks("lvwDescriptors", three_rows[0]);
+    its.person.presses("bnRemoveDesc");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 4U);
+    dialog.leaves();
+}
+
+namespace {
+
+void opens_the_kinds(Play& its, Configuring& dialog) {
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.is_at("dlgDescriptorType");
+}
+
+} // namespace
+
+SCENARIO(DescriptorTypeDialog, AnEmptyConfigurationIsOfferedEveryKind) {
+    Configuring dialog(its);
+    opens_the_kinds(its, dialog);
+    EXPECT_EQ(its.person.title(), "Descriptor Type");
+    EXPECT_EQ(its.person.lines_of("List1"),
+              (Lines{"Part", "Process", "Job", "Lot", "Shift", "Serial Number", "Subgroup Comment",
+                     "User Defined (Subgroup)", "User Defined (Piece)"}));
+    EXPECT_EQ(its.person.sees("List1").selected, 0);
+    its.person.hits(Key::escape);
+    its.person.is_at("dlgConfiguration");
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorTypeDialog, OnlyTheUserDefinedKindsAreOfferedTwice) {
+    for (const std::int32_t type : {0, 1, 2, 3, 4, 5, 5, 6, 7, 8, 9, 100, -1})
+        its.host.configuration->descriptors->has({.type = type, .item = "x", .group = "y"});
+    Configuring dialog(its);
+    opens_the_kinds(its, dialog);
+    EXPECT_EQ(its.person.lines_of("List1"), (Lines{"User Defined (Subgroup)", "User Defined (Piece)"}));
+    EXPECT_EQ(its.person.sees("List1").selected, 0);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorTypeDialog, UnknownCodesHideNoKind) {
+    its.host.configuration->descriptors->has({.type = 9, .item = "x", .group = "y"});
+    Configuring dialog(its);
+    opens_the_kinds(its, dialog);
+    EXPECT_EQ(its.person.lines_of("List1").size(), 9U);
+    its.person.presses("bnCancel");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{" | y | x"}));
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorTypeDialog, ADoubleClickChooses) {
+    Configuring dialog(its);
+    opens_the_kinds(its, dialog);
+    its.person.double_clicks("List1", "User Defined (Piece)");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - User Defined (Piece)");
+    EXPECT_EQ(its.host.configuration->descriptors->fields()[0].type, 6);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}

@@ -1,0 +1,156 @@
+#include "configuring.h"
+
+// The tests of a configuration.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+void three_tests(Play& its) {
+    a_filled_configuration(its);
+    its.host.has_test(8, "Width")->fields.item_id = "Line1.Force";
+    its.host.has_test(9, "Mass")->fields.item_id = "Line1.Torque";
+}
+
+Lines characteristics(const Play& its) {
+    Lines names;
+    for (const auto& test : its.host.configuration->tests->entries) names.push_back(test->data->name);
+    return names;
+}
+
+} // namespace
+
+SCENARIO(TestsTab, ListsTheTestsInTheirOrder) {
+    three_tests(its);
+    Configuring dialog(its);
+    EXPECT_EQ(its.person.lines_of("lvwTest"),
+              (Lines{"Length | Line1.Speed | Matrix | PC7", "Width | Line1.Force | Matrix | PC7",
+                     "Mass | Line1.Torque | Matrix | PC7"}));
+    EXPECT_EQ(its.person.sees("lvwTest").selected, -1);
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, ATestWhoseItemCouldNotBeHadIsBoldAndRedWithoutIt) {
+    three_tests(its);
+    its.host.configuration->tests->entries[1]->fields.state = 2;
+    Configuring dialog(its);
+    EXPECT_EQ(its.person.line_of("lvwTest", 1), "*red:Width* |  | *red:Matrix* | *red:PC7*");
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, AConfirmedNewTestIsListed) {
+    a_filled_configuration(its);
+    its.host.picker->picks = std::make_shared<FakeTestData>(its.host.calls, 8, 1, "Width");
+    its.host.browser->root.has("Line1", {"Speed", "Force"});
+    its.host.group->items->answers["Line1.Force"] = 0;
+    Configuring dialog(its);
+    its.person.presses("bnAdd");
+    its.person.is_at("dlgOPCTest");
+    EXPECT_EQ(its.host.configuration->tests->entries.size(), 2U);
+    its.person.presses("bnTest");
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Force");
+    its.person.presses("bnOK");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.lines_of("lvwTest"),
+              (Lines{"Length | Line1.Speed | Matrix | PC7", "Width | Line1.Force | Matrix | PC7"}));
+    EXPECT_EQ(its.person.sees("lvwTest").selected, 1);
+    dialog.leaves();
+    EXPECT_EQ(its.host.configuration->tests->entries.size(), 2U);
+}
+
+SCENARIO(TestsTab, ACancelledNewTestIsTakenBack) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.presses("bnAdd");
+    EXPECT_EQ(its.host.configuration->tests->entries.size(), 4U);
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Width", "Mass"}));
+    its.person.presses("bnAdd");
+    its.person.closes_the_window();
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Width", "Mass"}));
+    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 3U);
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, EditOpensTheSelectedTest) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", "Width | Line1.Force | Matrix | PC7");
+    its.person.presses("cmdEdit");
+    its.person.is_at("dlgOPCTest");
+    EXPECT_EQ(its.person.reads("txtTest"), "Width");
+    its.host.configuration->tests->entries[1]->fields.characteristic = "Breadth";
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.line_of("lvwTest", 1), "Width | Line1.Force | Matrix | PC7"); // not confirmed
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, AConfirmedEditShowsAndTheTestStaysSelected) {
+    three_tests(its);
+    its.host.configuration->tests->entries[1]->fields.item_text = "Line1.Force";
+    Configuring dialog(its);
+    its.person.double_clicks("lvwTest", "Width | Line1.Force | Matrix | PC7");
+    its.person.is_at("dlgOPCTest");
+    its.host.configuration->tests->entries[1]->fields.characteristic = "Breadth";
+    its.person.presses("bnOK");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.line_of("lvwTest", 1), "Breadth | Line1.Force | Matrix | PC7");
+    EXPECT_EQ(its.person.sees("lvwTest").selected, 1);
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, RemoveTakesTheSelectedTestWithoutAsking) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", "Width | Line1.Force | Matrix | PC7");
+    its.person.presses("bnRemove");
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Mass"}));
+    EXPECT_EQ(its.person.lines_of("lvwTest"),
+              (Lines{"Length | Line1.Speed | Matrix | PC7", "Mass | Line1.Torque | Matrix | PC7"}));
+    its.person.presses("bnRemove"); // nothing is selected now
+    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 2U);
+    its.person.picks("lvwTest", "Mass | Line1.Torque | Matrix | PC7");
+    its.person.presses("bnRemove");
+    EXPECT_EQ(characteristics(its), (Lines{"Length"}));
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, WithoutASelectedTestTheButtonsDoNothing) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.presses("cmdEdit");
+    its.person.is_at("dlgConfiguration");
+    its.person.presses("bnRemove");
+    EXPECT_EQ(its.host.configuration->tests->entries.size(), 3U);
+    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 3U);
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, RemovingTheLastTestMakesCloseAsk) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", "Length | Line1.Speed | Matrix | PC7");
+    its.person.presses("bnRemove");
+    its.person.presses("bnClose");
+    EXPECT_EQ(its.person.screen().front(), "message");
+    its.person.screen().answer(message::cancel);
+    dialog.leaves();
+    EXPECT_TRUE(its.host.configuration->tests->entries.empty());
+}
+
+SCENARIO(TestsTab, ACancelledTestThatTheHostKeepsIsListed) {
+    a_filled_configuration(its);
+    its.host.configuration->tests->keeps_all = true;
+    Configuring dialog(its);
+    its.person.presses("bnAdd");
+    its.person.presses("bnCancel");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAdd_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"),
+              (Lines{"Length | Line1.Speed | Matrix | PC7", " |  | Matrix | PC7"}));
+    dialog.leaves();
+}

@@ -1,0 +1,50 @@
+#include "common/values/convert.h"
+#include "configuration/dlgConfiguration.h"
+
+namespace brx {
+
+void dlgConfiguration::Timer1_Timer() {
+    trap(ErrorLibrary::brxError6, "Timer1_Timer", [&] {
+        const hlxOPCServerPtr entry = the(the(configuration_).Server()).ServerEntry();
+        const ObjectPtr connection = the(entry).OPCServer();
+        if (!connection) return;
+        const auto server = resolve<OPCServer>(connection);
+        const auto show = [&](const char* key, const char* caption, const Variant& value) {
+            UpdateServerInfo(key, caption, to_text(value, environment().locale));
+        };
+        show("Node", "Server Node", server->ServerNode());
+        show("Name", "Server Name", server->ServerName());
+        show("StartTime", "Start Time", server->StartTime());
+        show("CurrentTime", "Current Time", server->CurrentTime());
+        show("LastUpdate", "Last Updated", server->LastUpdateTime());
+        show("Bandwidth", "Band Width", server->Bandwidth());
+        show("Build", "Build Number", server->BuildNumber());
+        show("Client", "Client Name", server->ClientName());
+        show("Major", "Major Version", server->MajorVersion());
+        show("Minor", "Minor Version", server->MinorVersion());
+        show("State", "Server State", server->ServerState());
+        show("Vendor", "Vendor Information", server->VendorInfo());
+
+        const OPCGroupsPtr groups = server->OPCGroups();
+        const std::int32_t count = the(groups).Count();
+        for (std::int32_t n = 1; n <= count; ++n) {
+            const std::string number = std::to_string(n);
+            // The first one goes without a number.
+            UpdateServerInfo("Group" + number, "Group " + (n == 1 ? std::string() : number),
+                             the(groups->Item(n)).Name());
+        }
+    });
+}
+
+/// An unchanged value is not written again, so that the list does not flicker.
+void dlgConfiguration::UpdateServerInfo(const std::string& key, const std::string& caption,
+                                        const std::string& value) {
+    ListRow* row = nullptr;
+    attempt([&] { row = &lvwServerInfo.row(key); });
+    if (!row) attempt([&] { row = &lvwServerInfo.add(key, caption); });
+    attempt([&] {
+        if (row && row->text(1) != value) row->set_text(1, value);
+    });
+}
+
+} // namespace brx

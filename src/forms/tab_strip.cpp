@@ -1,0 +1,51 @@
+#include "forms/tab_strip.h"
+
+#include "common/error.h"
+
+#include <algorithm>
+
+namespace brx {
+
+const std::string& TabStrip::caption(int tab) const {
+    if (tab < 1 || tab > count()) throw Error(error::index_out_of_bounds);
+    return design_.captions[static_cast<std::size_t>(tab) - 1];
+}
+
+void TabStrip::select(int tab) {
+    static_cast<void>(caption(tab));
+    if (selected_ == tab) return;
+    selected_ = tab;
+    changed(Aspect::selection);
+    fire(design_.Click);
+}
+
+bool TabStrip::user_select(int tab) {
+    if (tab < 1 || tab > count()) return false;
+    return by_person([&] {
+        select(tab);
+        const Control* focused = form().focused();
+        if (!form().loaded() || (focused && focused->can_focus())) return;
+        const std::vector<Control*> order = form().controls_in_tab_order();
+        const auto first =
+            std::find_if(order.begin(), order.end(), [](const Control* each) { return each->can_focus(); });
+        if (first != order.end()) (*first)->set_focus();
+    });
+}
+
+bool TabStrip::user_turn(bool backwards) {
+    const int next = backwards ? selected_ - 1 : selected_ + 1;
+    return user_select(next < 1 ? count() : next > count() ? 1 : next);
+}
+
+void TabStrip::reset() {
+    Control::reset();
+    selected_ = 1;
+}
+
+TabStrip* tab_strip_of(const Form& form) {
+    for (Control* control : form.controls())
+        if (auto* strip = dynamic_cast<TabStrip*>(control); strip && strip->can_focus()) return strip;
+    return nullptr;
+}
+
+} // namespace brx

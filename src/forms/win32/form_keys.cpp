@@ -1,0 +1,61 @@
+// The keys that are the form's own, wherever in it the focus is.
+
+#include "forms/accelerator.h"
+#include "forms/win32/form_window.h"
+
+namespace brx {
+
+namespace {
+
+bool is_held(int key) { return (GetKeyState(key) & 0x8000) != 0; }
+
+} // namespace
+
+bool FormWindow::takes(const MSG& message) {
+    if (!handle_ || !IsChild(handle_, message.hwnd)) return false;
+    bool taken = false;
+    attempt([&] {
+        switch (message.message) {
+        case WM_KEYDOWN:
+            if (message.wParam == VK_RETURN) finish_typing();
+            taken = message.wParam == VK_TAB && is_held(VK_CONTROL) && turn_tabs();
+            break;
+        case WM_SYSCHAR:
+            finish_typing();
+            taken = take_accelerator(message.wParam);
+            break;
+        default:
+            break;
+        }
+    });
+    return taken;
+}
+
+/// Also where nothing came of it: a form with tabs has no other use for these keys.
+bool FormWindow::turn_tabs() {
+    TabStrip* const strip = tab_strip_of(form_);
+    if (!strip) return false;
+    report([&] { return strip->user_turn(is_held(VK_SHIFT)); });
+    return true;
+}
+
+/// The dialog manager knows the accelerators of all controls but tabs. Of several with one letter not every
+/// system's goes to the next one and presses none of them.
+bool FormWindow::take_accelerator(WPARAM character) {
+    if (character > 0x7F) return false;
+    const auto letter = static_cast<char>(character);
+    const Accelerator found = accelerator_of(form_, letter);
+    auto* const strip = dynamic_cast<TabStrip*>(found.control);
+    if (!found.control || (found.alone && !strip)) return false;
+    Control* const target = focus_for(*found.control);
+    report([&] {
+        return found.alone ? strip->user_select(tab_with(*strip, letter)) : target && target->user_focus();
+    });
+    return true;
+}
+
+void FormWindow::finish_typing() {
+    if (ControlPeer* const peer = peer_of(GetFocus())) peer->finish_typing();
+}
+
+} // namespace brx
