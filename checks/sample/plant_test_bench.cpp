@@ -186,6 +186,53 @@ TEST_F(PlantTestBench, ASpaceIsBuiltWhenItIsFirstUsedAndNotByConnecting) {
     EXPECT_EQ(built, 1);
 }
 
+TEST_F(PlantTestBench, OneServerHasAnItemOfEveryDataType) {
+    server = connected("Simulation.Types.1", "TESTBENCH");
+    const auto items = server->groups()->make("")->items();
+    items->AddItems({{"Numbers.Integer 16 bit", "Numbers.Integer 32 bit", "Numbers.Single", "Numbers.Double",
+                      "Numbers.Currency", "Other.Date", "Other.String", "Other.Boolean", "Numbers.Byte"}},
+                    {std::vector<std::int32_t>(9)}, std::nullopt, std::nullopt);
+    std::vector<int> types;
+    std::vector<Variant> first;
+    for (std::int32_t i = 1; i <= items->Count(); ++i) {
+        const auto item = std::dynamic_pointer_cast<Item>(items->Item(i));
+        types.push_back(item->CanonicalDataType());
+        first.push_back(item->read().value);
+    }
+    EXPECT_THAT(types, ElementsAre(2, 3, 4, 5, 6, 7, 8, 11, 17));
+    // Each value moves within a minute.
+    std::set<std::size_t> moved;
+    for (int second = 0; second < 60; ++second) {
+        clock->advance(1);
+        for (std::size_t i = 0; i < first.size(); ++i) {
+            const auto item = std::dynamic_pointer_cast<Item>(items->Item(static_cast<std::int32_t>(i + 1)));
+            const Variant now = item->read().value;
+            const auto* const before = std::get_if<Opaque>(&first[i]);
+            if (before ? std::get<Opaque>(now).text != before->text : now != first[i]) moved.insert(i);
+        }
+    }
+    EXPECT_EQ(moved.size(), first.size());
+}
+
+TEST_F(PlantTestBench, OneItemIsValidButCannotBeAdded) {
+    browser_of("Types");
+    EXPECT_EQ(objection("Trouble.Cannot be added"), 0U);
+    const auto items = server->groups()->make("")->items();
+    const AddedItems added =
+        items->AddItems({{"Trouble.Cannot be added"}}, {{1}}, std::nullopt, std::nullopt);
+    EXPECT_EQ(added.Errors.at(1), as_number(opc_error::bad_rights));
+    EXPECT_EQ(added.ServerHandles.at(1), 0);
+    EXPECT_EQ(items->Count(), 0);
+}
+
+TEST_F(PlantTestBench, OneItemDoesNotTellItsDataType) {
+    browser_of("Types");
+    const auto items = server->groups()->make("")->items();
+    items->AddItems({{"Trouble.Type unreadable"}}, {{1}}, std::nullopt, std::nullopt);
+    ASSERT_EQ(items->Count(), 1);
+    EXPECT_EQ(code_of([&] { items->Item(std::int32_t{1})->CanonicalDataType(); }), opc_error::bad_type);
+}
+
 } // namespace
 
 } // namespace brx::plant

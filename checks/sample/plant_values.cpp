@@ -77,6 +77,9 @@ TEST(PlantSignals, ComeInEveryDataType) {
     EXPECT_EQ(of(Type::date, 46000), Variant(Date{46000}));
     EXPECT_EQ(of(Type::text, 1), Variant(std::string("two")));
     EXPECT_EQ(of(Type::text, 9), Variant(std::string("three")));
+    EXPECT_EQ(vartype(of(Type::byte, 200)), 17);
+    EXPECT_EQ(std::get<Opaque>(of(Type::byte, 200)).text, "200");
+    EXPECT_EQ(std::get<Opaque>(of(Type::byte, 300)).text, "255");
     EXPECT_EQ(value_at({Type::boolean, Wave::square, 0, 1, 60, {}}, 1, time).index(), Variant(true).index());
 }
 
@@ -115,6 +118,7 @@ TEST_F(PlantValues, OfEveryItemOfEveryServerCanBeRead) {
             StringArray ids;
             LongArray clients;
             for (const ItemDescription& item : description.items) {
+                if (item.trouble != Trouble::none) continue;
                 std::string id = item.place;
                 if (description.browsing == Browsing::hierarchical)
                     std::replace(id.begin(), id.end(), '/', '.');

@@ -86,6 +86,21 @@ TEST_F(StoreDatabase, OfAnEarlierVersionIsBroughtUpToDate) {
     EXPECT_EQ(host->servers()->at(1).last_item(), "Weight");
 }
 
+TEST_F(StoreDatabase, OfTheVersionBeforeConfigurationsGetsRecordsButNoConfigurations) {
+    run(R"(CREATE TABLE server (id INTEGER PRIMARY KEY AUTOINCREMENT, program_id TEXT NOT NULL,
+                                node TEXT NOT NULL DEFAULT '', last_item TEXT NOT NULL DEFAULT '');
+           CREATE TABLE setting (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
+           INSERT INTO server (program_id, last_item) VALUES ('Simulation.Packing.1', 'Running');
+           PRAGMA application_id = 1651669075;
+           PRAGMA user_version = 2)");
+    const auto host = opened();
+    EXPECT_EQ(host->servers()->at(1).last_item(), "Running");
+    EXPECT_EQ(host->servers()->at(1).configurations().count(), 0);
+    EXPECT_TRUE(host->records(RecordKind::characteristic).record("Fill weight", 0));
+    host->servers()->at(1).configurations().add();
+    EXPECT_EQ(opened()->servers()->at(1).configurations().count(), 1);
+}
+
 TEST_F(StoreDatabase, AFolderIsNoDatabase) {
     EXPECT_THAT(failure_to_open(folder.file("")), HasSubstr("it cannot be opened"));
 }

@@ -10,20 +10,6 @@ using testing::HasSubstr;
 
 class StoreServers : public StoreCheck {
 protected:
-    static std::int32_t error_of(const std::function<void()>& call) {
-        try {
-            call();
-            return 0;
-        } catch (const Error& error) {
-            return error.number();
-        }
-    }
-    /// From now on nothing can be stored.
-    void fill_the_disk(Host& opened_host) {
-        opened_host.database()->file().run("CREATE TEMP TRIGGER full BEFORE INSERT ON server BEGIN SELECT "
-                                           "RAISE(ABORT, 'no room left'); END");
-    }
-
     std::shared_ptr<Host> host = opened();
     std::shared_ptr<Servers> servers = host->servers();
 };
@@ -93,13 +79,14 @@ TEST_F(StoreServers, OneThatCannotBeStoredIsNotAddedAndNotLeftConnected) {
             ++connections;
             return std::make_shared<Object>();
         }
+        std::optional<Variant> value_of(const ObjectPtr&) override { return std::nullopt; }
         void disconnect(const ObjectPtr&) noexcept override { --connections; }
         int connections = 0;
     };
     const auto watched = std::make_shared<Watched>();
     servers->set_source(watched);
     const int before = watched->connections;
-    fill_the_disk(*host);
+    fill_the_disk(*host, "INSERT ON server");
     EXPECT_EQ(servers->Add("Simulation.Metering.1", "", true), nullptr);
     EXPECT_THAT(servers->LastError(), HasSubstr("no room left"));
     EXPECT_EQ(servers->Count(), 3);

@@ -56,6 +56,23 @@ protected:
         }
     }
 
+    /// The number of the error that a call ends with; 0 when it succeeds.
+    static std::int32_t error_of(const std::function<void()>& call) {
+        try {
+            call();
+            return 0;
+        } catch (const Error& error) {
+            return error.number();
+        }
+    }
+
+    /// From now on such a change of the file, "UPDATE ON test" for one, fails for want of room.
+    static void fill_the_disk(Host& opened_host, const std::string& change) {
+        opened_host.database()->file().run(
+            ("CREATE TEMP TRIGGER full BEFORE " + change + " BEGIN SELECT RAISE(ABORT, 'no room left'); END")
+                .c_str());
+    }
+
     void write(const std::string& path, const std::string& content) {
         std::ofstream(path, std::ios::binary) << content;
     }

@@ -2,6 +2,7 @@
 
 #include "common/model/object.h"
 
+#include <optional>
 #include <string>
 
 namespace brx::host {
@@ -18,6 +19,8 @@ public:
     virtual ObjectPtr make() = 0;
     /// A connected one. Fails with the reason why it could not be connected.
     virtual ObjectPtr connect(const std::string& program_id, const std::string& node) = 0;
+    /// The value that an item of such a connection has now; none when it is not good.
+    virtual std::optional<Variant> value_of(const ObjectPtr& item) = 0;
     /// Drops the connection of one that `connect` gave.
     virtual void disconnect(const ObjectPtr& server) noexcept = 0;
 };

@@ -1,6 +1,7 @@
 #include "host/schema.h"
 
 #include "common/values/text.h"
+#include "host/schema_model.h"
 
 #include <array>
 
@@ -23,6 +24,7 @@ constexpr std::array steps = {
            value TEXT NOT NULL) WITHOUT ROWID;
        PRAGMA application_id = 1651669075;)",
     "ALTER TABLE server ADD COLUMN last_item TEXT NOT NULL DEFAULT '';",
+    model_tables,
 };
 constexpr auto newest = static_cast<std::int64_t>(steps.size());
 
@@ -74,7 +76,10 @@ std::unique_ptr<SqliteFile> open_database(const std::string& path) {
         Transaction transaction(*file);
         const bool still_fresh = is_empty(*file);
         bring_up_to_date(*file, pragma(*file, "PRAGMA user_version"));
-        if (still_fresh) file->run(sample_data);
+        if (still_fresh) {
+            file->run(sample_data);
+            file->run(sample_configurations);
+        }
         transaction.commit();
     }
     return file;

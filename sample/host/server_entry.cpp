@@ -2,6 +2,7 @@
 
 #include "common/common_tools.h"
 #include "common/model/opc_automation.h"
+#include "common/trap.h"
 #include "host/servers.h"
 
 #include <array>
@@ -27,8 +28,11 @@ std::string in_one_line(const Error& error) {
     return error.description() + code.data();
 }
 
-ServerEntry::ServerEntry(Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source)
-    : servers_(&servers), stored_(std::move(stored)), source_(std::move(source)) {}
+ServerEntry::ServerEntry(Host& host, Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source)
+    : servers_(&servers),
+      stored_(std::move(stored)),
+      source_(std::move(source)),
+      configurations_(host, *this) {}
 
 ObjectPtr ServerEntry::Parent() { return servers_ ? servers_->self() : nullptr; }
 
@@ -48,6 +52,7 @@ std::string ServerEntry::state_text() const {
 void ServerEntry::set_connected(ObjectPtr server) {
     server_ = std::move(server);
     failure_.clear();
+    configurations_.fill_groups();
 }
 
 bool ServerEntry::connect() {
@@ -62,13 +67,24 @@ bool ServerEntry::connect() {
 }
 
 void ServerEntry::disconnect() noexcept {
-    if (server_) source_->disconnect(server_);
+    if (!server_) return;
+    configurations_.drop_groups();
+    source_->disconnect(server_);
     server_ = nullptr;
 }
 
 void ServerEntry::set_source(std::shared_ptr<OpcSource> source) {
     disconnect();
     source_ = std::move(source);
+}
+
+std::optional<Variant> ServerEntry::value_of(Configuration& configuration, const std::string& item_id) const {
+    std::optional<Variant> value;
+    attempt([&] {
+        const auto items = resolve<brx::OPCGroup>(configuration.OPCGroup())->OPCItems();
+        value = source_->value_of(items->Item(item_id));
+    });
+    return value;
 }
 
 ObjectPtr FreshEntry::OPCServer() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/model/collection.h"
+#include "host/configurations.h"
 #include "host/opc_source.h"
 #include "host/server_store.h"
 
@@ -11,9 +12,9 @@ namespace brx::host {
 class Servers;
 
 /// One configured server. Taken out of the collection it is no longer connected and has no parent.
-class ServerEntry final : public hlxOPCServer {
+class ServerEntry final : public hlxOPCServer, public std::enable_shared_from_this<ServerEntry> {
 public:
-    ServerEntry(Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source);
+    ServerEntry(Host& host, Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source);
     ~ServerEntry() override { disconnect(); }
 
     std::string ServerName() override { return stored_.program_id; }
@@ -29,7 +30,11 @@ public:
     /// What the server is doing, or why it is not connected, in a few words.
     std::string state_text() const;
 
-    /// Takes over a connection that has just been made.
+    Configurations& configurations() { return configurations_; }
+    /// The value that an item of a configuration has now; none when it cannot be had.
+    std::optional<Variant> value_of(Configuration& configuration, const std::string& item_id) const;
+
+    /// Takes over a connection that has just been made, and makes the configurations' groups on it.
     void set_connected(ObjectPtr server);
     /// True when it is connected afterwards; state_text says why not.
     bool connect();
@@ -44,6 +49,7 @@ private:
     std::shared_ptr<OpcSource> source_;
     ObjectPtr server_;
     std::string failure_ = "not connected yet";
+    Configurations configurations_;
 };
 
 /// An entry of no collection, through which the servers of a node can be listed.

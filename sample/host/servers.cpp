@@ -3,27 +3,16 @@
 #include "common/common_tools.h"
 #include "common/values/text.h"
 #include "host/host.h"
-#include "plant/keep.h"
-
-#include <cmath>
+#include "host/positions.h"
 
 namespace brx::host {
 
-namespace {
-
-std::int32_t position_in(const Variant& index) {
-    if (const auto* word = std::get_if<std::int16_t>(&index)) return *word;
-    if (const auto* number = std::get_if<std::int32_t>(&index)) return *number;
-    if (const auto* real = std::get_if<double>(&index))
-        if (std::abs(*real) < 1e9) return static_cast<std::int32_t>(std::lrint(*real));
-    throw Error(error::type_mismatch);
-}
-
-} // namespace
-
 Servers::Servers(Host& host, SqliteFile& file, std::shared_ptr<OpcSource> source)
     : host_(host), store_(file), source_(std::move(source)) {
-    for (StoredServer& stored : store_.all()) entries_.push_back(entry_for(std::move(stored)));
+    for (StoredServer& stored : store_.all()) {
+        entries_.push_back(entry_for(std::move(stored)));
+        entries_.back()->configurations().load();
+    }
 }
 
 Servers::~Servers() {
@@ -35,11 +24,7 @@ std::shared_ptr<Servers> Servers::self() { return host_.servers(); }
 ObjectPtr Servers::Parent() { return host_.shared_from_this(); }
 
 std::shared_ptr<ServerEntry> Servers::entry_for(StoredServer stored) {
-    return std::make_shared<ServerEntry>(*this, std::move(stored), source_);
-}
-
-hlxOPCServerPtr Servers::with_host(const std::shared_ptr<ServerEntry>& entry) {
-    return keep_with(host_.shared_from_this(), entry);
+    return std::make_shared<ServerEntry>(host_, *this, std::move(stored), source_);
 }
 
 hlxOPCServerPtr Servers::Add(const std::string& server_name, const std::string& node, bool connect) {
@@ -55,7 +40,7 @@ hlxOPCServerPtr Servers::Add(const std::string& server_name, const std::string& 
         entry->set_id(store_.add(server_name, wanted_node));
         entries_.push_back(entry);
         host_.log().add("Added " + text + ".");
-        return with_host(entry);
+        return host_.kept(entry);
     } catch (const Error& error) {
         last_error_ = in_one_line(error);
         host_.log().add("Could not add " + text + ": " + last_error_);
@@ -64,16 +49,10 @@ hlxOPCServerPtr Servers::Add(const std::string& server_name, const std::string& 
 }
 
 hlxOPCServerPtr Servers::Item(const Variant& index) {
-    return with_host(entries_[index_of(position_in(index))]);
+    return host_.kept(entries_[index_of(entries_, position_in(index))]);
 }
 
-ServerEntry& Servers::at(std::int32_t position) { return *entries_[index_of(position)]; }
-
-std::size_t Servers::index_of(std::int32_t position) const {
-    if (position < 1 || static_cast<std::size_t>(position) > entries_.size())
-        throw Error(error::subscript_out_of_range);
-    return static_cast<std::size_t>(position - 1);
-}
+ServerEntry& Servers::at(std::int32_t position) { return *entries_[index_of(entries_, position)]; }
 
 std::int32_t Servers::find(const std::string& display_text) const {
     for (std::size_t i = 0; i < entries_.size(); ++i)
@@ -94,10 +73,10 @@ void Servers::connect_all() {
 }
 
 void Servers::remove(std::int32_t position) {
-    const std::size_t index = index_of(position);
+    const std::size_t index = index_of(entries_, position);
     const std::shared_ptr<ServerEntry> entry = entries_[index];
     store_.remove(entry->id());
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+    erase_at(entries_, index);
     entry->leave();
     entry->disconnect();
     host_.log().add("Removed " + entry->display_text() + ".");

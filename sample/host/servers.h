@@ -40,8 +40,6 @@ public:
 
 private:
     std::shared_ptr<ServerEntry> entry_for(StoredServer stored);
-    hlxOPCServerPtr with_host(const std::shared_ptr<ServerEntry>& entry);
-    std::size_t index_of(std::int32_t position) const;
 
     Host& host_;
     ServerStore store_;

@@ -67,6 +67,8 @@ void SqliteFile::run(const char* statements) {
 
 std::int64_t SqliteFile::last_row_id() const { return sqlite3_last_insert_rowid(handle()); }
 
+std::int64_t SqliteFile::changes() const { return sqlite3_changes64(handle()); }
+
 Error SqliteFile::failure() const {
     return failed_database("The database file " + path_ + " cannot be used: " +
                            reason(sqlite3_errcode(handle()), sqlite3_errmsg(handle())) + ".");
@@ -96,6 +98,16 @@ Statement& Statement::bind(int parameter, std::int64_t value) {
     return *this;
 }
 
+Statement& Statement::bind(int parameter, double value) {
+    check(sqlite3_bind_double(statement_.get(), parameter, value));
+    return *this;
+}
+
+Statement& Statement::bind_null(int parameter) {
+    check(sqlite3_bind_null(statement_.get(), parameter));
+    return *this;
+}
+
 bool Statement::step() {
     const int result = sqlite3_step(statement_.get());
     if (result == SQLITE_ROW) return true;
@@ -110,6 +122,8 @@ std::string Statement::text(int column) const {
 }
 
 std::int64_t Statement::number(int column) const { return sqlite3_column_int64(statement_.get(), column); }
+
+double Statement::real(int column) const { return sqlite3_column_double(statement_.get(), column); }
 
 Transaction::~Transaction() {
     if (open_) sqlite3_exec(file_.handle(), "ROLLBACK", nullptr, nullptr, nullptr);

@@ -31,6 +31,8 @@ public:
     void run(const char* statements);
     sqlite3* handle() const { return handle_.get(); }
     std::int64_t last_row_id() const;
+    /// How many rows the last change changed.
+    std::int64_t changes() const;
 
     /// What to tell a person about the last failure.
     Error failure() const;
@@ -50,10 +52,13 @@ public:
 
     Statement& bind(int parameter, const std::string& value);
     Statement& bind(int parameter, std::int64_t value);
+    Statement& bind(int parameter, double value);
+    Statement& bind_null(int parameter);
     /// Goes to the next row; false behind the last one.
     bool step();
     std::string text(int column) const;
     std::int64_t number(int column) const;
+    double real(int column) const;
 
 private:
     struct Finalize {

@@ -2,9 +2,13 @@
 
 #include "com/com_object.h"
 #include "com/dual.h"
+#include "com/system_locale.h"
 #include "com/wire.h"
+#include "common/trap.h"
+#include "common/values/convert.h"
 #include "common/values/text.h"
 #include "host/host.h"
+#include "objects/database_object.h"
 #include "objects/site.h"
 #include "objects/wrapper_source.h"
 
@@ -91,6 +95,25 @@ public:
         return run([&] { servers()->set_last_item(position, text_of(value)); });
     }
 
+    STDMETHODIMP get_ConfigurationCount(LONG position, LONG* result) override {
+        return give(result, [&] { return configurations(position).count(); });
+    }
+    STDMETHODIMP get_Configuration(LONG position, LONG number, IDispatch** result) override {
+        return give(result, [&] { return ObjectPtr(configurations(position).at(number)); });
+    }
+    STDMETHODIMP AddConfiguration(LONG position, IDispatch** result) override {
+        return give(result, [&] { return ObjectPtr(configurations(position).add()); });
+    }
+    STDMETHODIMP RemoveConfiguration(LONG position, LONG number) override {
+        return run([&] { configurations(position).remove(number); });
+    }
+    STDMETHODIMP SettleConfiguration(LONG position, LONG number, VARIANT_BOOL* result) override {
+        return give(result, [&] { return configurations(position).settle(number); });
+    }
+    STDMETHODIMP get_ItemValue(LONG position, LONG number, BSTR item, BSTR* result) override {
+        return give(result, [&] { return value_text(position, number, text_of(item)); });
+    }
+
 private:
     template <class Body> static HRESULT run(Body&& body) noexcept { return guard(__uuidof(_Host), body); }
     template <class Raw, class Body> static HRESULT give(Raw* result, Body&& body) noexcept {
@@ -103,6 +126,7 @@ private:
         if (host_) return host_;
         Site& shared = site();
         auto opened = Host::open(file_.empty() ? default_file() : file_, shared.plant, shared.log);
+        opened->show_database_as(shown_to_dialogs);
         shared.source = shared.plant;
         if (opened->settings().get(source_setting) == wrapper_value) {
             if (WrapperSource::is_installed())
@@ -117,6 +141,16 @@ private:
     }
 
     std::shared_ptr<Servers> servers() { return open()->servers(); }
+
+    Configurations& configurations(std::int32_t position) { return servers()->at(position).configurations(); }
+
+    std::string value_text(std::int32_t position, std::int32_t number, const std::string& item_id) {
+        const auto configuration = configurations(position).at(number);
+        const auto value = servers()->at(position).value_of(*configuration, item_id);
+        std::string text;
+        attempt([&] { text = value ? to_text(*value, system_locale()) : std::string(); });
+        return text;
+    }
 
     ObjectPtr server_called(const std::string& name) {
         const auto all = servers();

@@ -12,6 +12,7 @@ namespace brx::host {
 namespace {
 
 constexpr const wchar_t* wrapper_class = L"OPC.Automation";
+constexpr LONG good = 0xC0; ///< of an item's quality
 
 com_ptr<IOPCAutoServer> new_wrapper() {
     CLSID clsid{};
@@ -39,6 +40,16 @@ ObjectPtr WrapperSource::connect(const std::string& program_id, const std::strin
     const OwnedVariant computer(node.empty() ? Variant(Missing{}) : Variant(node));
     check(server->Connect(Bstr(program_id).get(), computer.get()), server.get(), __uuidof(IOPCAutoServer));
     return from_dispatch(server);
+}
+
+std::optional<Variant> WrapperSource::value_of(const ObjectPtr& item) {
+    const auto* const held = dynamic_cast<const ComHolder*>(item.get());
+    const auto wrapper = held ? held->dispatch().as<::OPCItem>() : com_ptr<::OPCItem>();
+    LONG quality = 0;
+    if (!wrapper || FAILED(wrapper->get_Quality(&quality)) || (quality & good) != good) return std::nullopt;
+    OwnedVariant value;
+    check(wrapper->get_Value(value.out()), wrapper.get(), __uuidof(::OPCItem));
+    return brx::value_of(value.get());
 }
 
 void WrapperSource::disconnect(const ObjectPtr& server) noexcept {

@@ -22,13 +22,13 @@ Branch& branch_made(Branch& parent, const std::string& name) {
 AddressSpace::AddressSpace(const ServerDescription& server) {
     for (const ItemDescription& item : server.items) {
         if (server.browsing != Browsing::hierarchical) {
-            add_leaf(root_, item.place, item.signal);
+            add_leaf(root_, item.place, item.signal, {}, item.trouble);
             continue;
         }
         const std::vector<std::string> names = split(item.place, "/");
         Branch* branch = &root_;
         for (std::size_t i = 0; i + 1 < names.size(); ++i) branch = &branch_made(*branch, names[i]);
-        add_leaf(*branch, names.back(), item.signal);
+        add_leaf(*branch, names.back(), item.signal, {}, item.trouble);
     }
     if (server.fill) server.fill(*this);
 }
@@ -41,9 +41,9 @@ Branch& AddressSpace::add_branch(Branch& parent, const std::string& name, const 
 }
 
 void AddressSpace::add_leaf(Branch& branch, const std::string& name, const Signal& signal,
-                            const std::string& id) {
+                            const std::string& id, Trouble trouble) {
     const Leaf& leaf =
-        branch.leaves.emplace_back(Leaf{name, id.empty() ? joined(branch.id, name) : id, signal});
+        branch.leaves.emplace_back(Leaf{name, id.empty() ? joined(branch.id, name) : id, signal, trouble});
     by_id_.emplace(leaf.id, &leaf);
 }
 

@@ -14,6 +14,7 @@ struct Leaf {
     std::string name;
     std::string id;
     Signal signal;
+    Trouble trouble = Trouble::none;
 };
 
 struct Branch {
@@ -39,7 +40,8 @@ public:
     Branch& root() { return root_; }
     /// Adds a branch even where there is one of this name.
     static Branch& add_branch(Branch& parent, const std::string& name, const std::string& id = {});
-    void add_leaf(Branch& branch, const std::string& name, const Signal& signal, const std::string& id = {});
+    void add_leaf(Branch& branch, const std::string& name, const Signal& signal, const std::string& id = {},
+                  Trouble trouble = Trouble::none);
 
 private:
     Branch root_;

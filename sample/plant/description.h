@@ -8,11 +8,19 @@
 
 namespace brx::plant {
 
+/// What is wrong with an item that the server lists and finds valid.
+enum class Trouble {
+    none,
+    cannot_be_added, ///< adding it to a group is refused
+    type_unreadable, ///< it is added, but asking for its data type fails
+};
+
 /// One item. Its place is its branches from the root and its name, separated by "/", so that names may
 /// contain full stops.
 struct ItemDescription {
     const char* place;
     Signal signal;
+    Trouble trouble = Trouble::none;
 };
 
 /// How a server answers whoever walks its address space.

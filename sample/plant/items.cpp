@@ -29,6 +29,7 @@ bool converts(Type from, std::int16_t wanted) {
     case Type::single:
     case Type::real:
     case Type::currency:
+    case Type::byte:
         return is_number(from);
     case Type::date:
     case Type::boolean:
@@ -101,7 +102,10 @@ void Item::set_IsActive(bool value) {
     active_ = value;
 }
 
-std::int16_t Item::CanonicalDataType() { return static_cast<std::int16_t>(leaf().signal.type); }
+std::int16_t Item::CanonicalDataType() {
+    if (leaf().trouble == Trouble::type_unreadable) throw failure(opc_error::bad_type);
+    return static_cast<std::int16_t>(leaf().signal.type);
+}
 
 Reading Item::read() const {
     const Leaf& source = leaf();
@@ -135,9 +139,14 @@ AddedItems Items::AddItems(const StringArray& item_ids, const LongArray& client_
     for (std::size_t i = 0; i < count; ++i) {
         std::int32_t handle = 0;
         if (added.Errors.elements[i] == 0) {
-            handle = connection.new_handle();
-            items_.push_back(std::make_shared<plant::Item>(
-                group_, *connection.space()->find(item_ids.elements[i]), handle, client_handles.elements[i]));
+            const Leaf& leaf = *connection.space()->find(item_ids.elements[i]);
+            if (leaf.trouble == Trouble::cannot_be_added) {
+                added.Errors.elements[i] = as_number(opc_error::bad_rights);
+            } else {
+                handle = connection.new_handle();
+                items_.push_back(
+                    std::make_shared<plant::Item>(group_, leaf, handle, client_handles.elements[i]));
+            }
         }
         added.ServerHandles.elements.push_back(handle);
     }

@@ -17,6 +17,8 @@ struct Reading {
     Date time;                ///< UTC
 };
 
+inline bool is_good(const Reading& reading) { return (reading.quality & 0xC0) == 0xC0; }
+
 /// One item of a group. Once it is removed, every member fails.
 class Item final : public OPCItem {
 public:

@@ -24,7 +24,7 @@ constexpr auto texts = std::to_array<Text>({
     {opc_error::invalid_handle, "The handle is not known to the server."},
     {opc_error::bad_type, "The server cannot convert the item's value to the requested data type."},
     {0xC004'0005, "The operation cannot be done on a public group."},
-    {0xC004'0006, "The access rights of the item do not allow the operation."},
+    {opc_error::bad_rights, "The access rights of the item do not allow the operation."},
     {opc_error::unknown_item_id, "The item identifier is not known to the server."},
     {opc_error::invalid_item_id, "The item identifier does not follow the server's syntax."},
     {0xC004'0009, "The filter is not valid."},

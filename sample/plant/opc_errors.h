@@ -21,6 +21,7 @@ inline constexpr std::uint32_t server_execution_failed = 0x8008'0005;
 namespace opc_error {
 inline constexpr std::uint32_t invalid_handle = 0xC004'0001;
 inline constexpr std::uint32_t bad_type = 0xC004'0004;
+inline constexpr std::uint32_t bad_rights = 0xC004'0006;
 inline constexpr std::uint32_t unknown_item_id = 0xC004'0007;
 inline constexpr std::uint32_t invalid_item_id = 0xC004'0008;
 inline constexpr std::uint32_t unknown_path = 0xC004'000A;

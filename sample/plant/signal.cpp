@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <string>
 
 namespace brx::plant {
 
@@ -93,6 +94,9 @@ Variant value_at(const Signal& signal, std::uint64_t seed, Date time) {
         return as_text(signal.texts, number);
     case Type::boolean:
         return number > (signal.low + signal.high) / 2;
+    case Type::byte:
+        return Opaque{static_cast<std::uint16_t>(signal.type), nullptr,
+                      std::to_string(int{rounded<std::uint8_t>(number)})};
     }
     return Null{};
 }

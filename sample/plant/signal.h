@@ -18,6 +18,7 @@ enum class Type : std::int16_t {
     date = 7,
     text = 8,
     boolean = 11,
+    byte = 17,
 };
 
 /// How a value moves between its limits.
@@ -44,7 +45,8 @@ struct Signal {
 /// A seed that belongs to a text, the same on every platform and in every run.
 std::uint64_t seed_of(std::string_view text);
 
-/// The value at a time. Equal signals with different seeds run apart.
+/// The value at a time; a byte, which Variant does not know, as Opaque with its text. Equal signals with
+/// different seeds run apart.
 Variant value_at(const Signal& signal, std::uint64_t seed, Date time);
 
 } // namespace brx::plant

@@ -44,6 +44,22 @@ constexpr auto deep = std::to_array<ItemDescription>({
     {"Works/Hall 2/Line 4/Machine 8/Parts", counted(25)},
 });
 
+constexpr auto seasons = std::to_array<const char*>({"Spring", "Summer", "Autumn", "Winter"});
+
+constexpr auto every_type = std::to_array<ItemDescription>({
+    {"Numbers/Integer 16 bit", wave(-120, 120, 60, Type::short_integer)},
+    {"Numbers/Integer 32 bit", wave(-90'000, 90'000, 60, Type::long_integer)},
+    {"Numbers/Single", measured(9.5, 10.5)},
+    {"Numbers/Double", measured(99.5, 100.5, 2, Type::real)},
+    {"Numbers/Byte", wave(0, 255, 60, Type::byte)},
+    {"Numbers/Currency", wave(0.5, 2.5, 60, Type::currency)},
+    {"Other/Boolean", on_off(6)},
+    {"Other/Date", stamp(5)},
+    {"Other/String", one_of(seasons, 40)},
+    {"Trouble/Cannot be added", measured(0, 1), Trouble::cannot_be_added},
+    {"Trouble/Type unreadable", measured(0, 1), Trouble::type_unreadable},
+});
+
 constexpr auto servers = std::to_array<ServerDescription>({
     {.program_id = "Simulation.NoBrowser.1",
      .vendor = "Test bench: cannot be browsed",
@@ -84,6 +100,9 @@ constexpr auto servers = std::to_array<ServerDescription>({
     {.program_id = "Simulation.Wide.1",
      .vendor = "Test bench: 5,000 branches at the root",
      .fill = fill_with_valves},
+    {.program_id = "Simulation.Types.1",
+     .vendor = "Test bench: every data type, items that cannot be added or asked",
+     .items = every_type},
 });
 
 } // namespace

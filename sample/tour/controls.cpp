@@ -1,8 +1,11 @@
 #include "tour/controls.h"
 
-#include "tour/program.h"
+#include "tour/lent.h"
 
 #include <commctrl.h>
+
+#include <cstddef>
+#include <iterator>
 
 namespace tour {
 
@@ -50,6 +53,21 @@ int rows_of(HWND list_view) { return static_cast<int>(ask(list_view, LVM_GETITEM
 
 int selected_row(HWND list_view) {
     return static_cast<int>(ask(list_view, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+std::wstring cell_of(const Program& program, HWND list_view, int row, int column) {
+    struct CellText {
+        LVITEMW item;
+        wchar_t text[300];
+    };
+    CellText wanted{};
+    const Lent<CellText> there(program, wanted);
+    wanted.item.iSubItem = column;
+    wanted.item.pszText = reinterpret_cast<LPWSTR>(there.address() + LPARAM{offsetof(CellText, text)});
+    wanted.item.cchTextMax = static_cast<int>(std::size(wanted.text));
+    there.write(wanted);
+    ask(list_view, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), there.address());
+    return there.read().text;
 }
 
 void click(HWND control, POINT place) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tour/program.h"
+
 #include <windows.h>
 
 #include <string>
@@ -19,6 +21,8 @@ std::wstring message_of(HWND box);
 /// How many rows a list view has, and which one is selected, from 0; -1 for none.
 int rows_of(HWND list_view);
 int selected_row(HWND list_view);
+/// The text of a cell of a list view, both counted from 0.
+std::wstring cell_of(const Program& program, HWND list_view, int row, int column);
 
 void click(HWND control, POINT place);
 void press(HWND button);

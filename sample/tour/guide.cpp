@@ -27,7 +27,7 @@ void Guide::step(const std::string& telling, const std::string& picture, const s
     std::printf("%2d. %s\n", steps_, telling.c_str());
     std::fflush(stdout);
     doing();
-    program_.wait_until(outcome, come_out);
+    program_->wait_until(outcome, come_out);
     take_picture(picture);
 }
 
@@ -36,13 +36,13 @@ void Guide::take_picture(const std::string& name) {
     Sleep(400); // what is still being drawn
     char file[128];
     std::snprintf(file, sizeof file, "%02d-%s.png", steps_, name.c_str());
-    const RECT area = area_of(program_.front());
+    const RECT area = area_of(program_->front());
     std::printf("PICTURE %s %ldx%ld+%ld+%ld\n", file, area.right - area.left, area.bottom - area.top,
                 area.left, area.top);
     std::fflush(stdout);
     const std::wstring path =
         folder_ + L"\\" + std::wstring(file, file + std::char_traits<char>::length(file));
-    program_.wait_until(
+    program_->wait_until(
         L"the picture " + path, [&] { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; },
         1200);
 }

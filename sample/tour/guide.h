@@ -10,8 +10,10 @@ namespace tour {
 /// Tells each step on the terminal and has a picture taken of how it came out.
 class Guide {
 public:
-    Guide(const Program& program, std::wstring picture_folder)
-        : program_(program), folder_(std::move(picture_folder)) {}
+    explicit Guide(std::wstring picture_folder) : folder_(std::move(picture_folder)) {}
+
+    /// The program that the steps from now on are in; it must live as long.
+    void go_to(const Program& program) { program_ = &program; }
 
     /// One step: what is told, what is done, and what must have come of it. The picture, NN-`picture`.png,
     /// shows the window in front and what it lies over.
@@ -23,7 +25,7 @@ public:
     void take_picture(const std::string& name);
 
 private:
-    const Program& program_;
+    const Program* program_ = nullptr;
     std::wstring folder_;
     int steps_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "tour/visit.h"
 
 #include <cstdio>
+#include <functional>
 
 namespace tour {
 
@@ -15,13 +16,32 @@ std::wstring folder_of_this_program() {
     return whole.substr(0, whole.find_last_of(L'\\'));
 }
 
-void work_through(const Program& program, Guide& guide) {
+/// One visit to the host, from its start to its end.
+void visit_host(const std::wstring& command_line, Guide& guide, const std::function<void(Visit&)>& work) {
+    const Program program(command_line);
     Visit visit(program, guide);
-    visit.selecting();
-    visit.adding();
-    visit.browsing();
-    visit.browsing_other_servers();
-    visit.watching();
+    try {
+        work(visit);
+        visit.leaving();
+    } catch (const Disappointment&) {
+        guide.take_picture("failed");
+        throw;
+    }
+}
+
+void work_through(const std::wstring& command_line, Guide& guide) {
+    visit_host(command_line, guide, [](Visit& visit) {
+        visit.selecting();
+        visit.adding();
+        visit.browsing();
+        visit.browsing_other_servers();
+        visit.configurations();
+        visit.editing_a_test();
+    });
+    visit_host(command_line, guide, [](Visit& visit) {
+        visit.finding_the_test_again();
+        visit.watching();
+    });
 }
 
 int run(const std::wstring& pictures) {
@@ -29,22 +49,15 @@ int run(const std::wstring& pictures) {
     DeleteFileW(database.c_str());
     // The mouse would point at whatever opens below it.
     SetCursorPos(0, 0);
-    int steps = 0;
+    Guide guide(pictures);
     try {
-        const Program program(L"\"" + folder_of_this_program() +
-                              L"\\..\\window\\brxSampleHost.exe\" --plant \"" + database + L"\"");
-        Guide guide(program, pictures);
-        try {
-            work_through(program, guide);
-        } catch (const Disappointment&) {
-            steps = guide.steps();
-            guide.take_picture("failed");
-            throw;
-        }
+        work_through(L"\"" + folder_of_this_program() + L"\\..\\window\\brxSampleHost.exe\" --plant \"" +
+                         database + L"\"",
+                     guide);
         std::printf("%d steps, all as they should be\n", guide.steps());
         return 0;
     } catch (const Disappointment& disappointment) {
-        std::printf("error: step %d did not come out: %ls\n", steps, disappointment.what.c_str());
+        std::printf("error: step %d did not come out: %ls\n", guide.steps(), disappointment.what.c_str());
         return 1;
     }
 }

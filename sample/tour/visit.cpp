@@ -13,6 +13,13 @@ bool Visit::message_starts(const std::wstring& headline) const {
     return at(L"message") && message_of(program_.front()).rfind(headline, 0) == 0;
 }
 
+Lines Visit::cells(const std::wstring& list, int row, int columns) const {
+    const HWND window = program_.control(list);
+    Lines all;
+    for (int column = 0; column < columns; ++column) all.push_back(cell_of(program_, window, row, column));
+    return all;
+}
+
 void Visit::press(const std::wstring& button) const {
     program_.wait_until(L"the button " + button, [&] { return can_press(button); });
     tour::press(program_.control(button));

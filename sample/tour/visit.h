@@ -9,13 +9,19 @@ namespace tour {
 /// What she does in the dialogs, and what she reads there.
 class Visit {
 public:
-    Visit(const Program& program, Guide& guide) : program_(program), guide_(guide) {}
+    Visit(const Program& program, Guide& guide) : program_(program), guide_(guide) { guide_.go_to(program); }
 
     void selecting();
     void adding();
     void browsing();
     void browsing_other_servers();
+    void configurations();
+    void editing_a_test();
+    /// In a host that was started again.
+    void finding_the_test_again();
     void watching();
+    /// Closes the host.
+    void leaving();
 
 private:
     // What she reads in the window in front.
@@ -26,6 +32,11 @@ private:
     bool is_visible(const std::wstring& control) const { return IsWindowVisible(program_.control(control)); }
     bool can_press(const std::wstring& button) const;
     bool message_starts(const std::wstring& headline) const;
+
+    /// The cells of a row of a list view.
+    Lines cells(const std::wstring& list, int row, int columns) const;
+    /// The test that she has edited, as the host's window shows it.
+    bool edited_test_is_listed() const;
 
     // What she does there.
     void press(const std::wstring& button) const;
@@ -41,6 +52,9 @@ private:
                   const std::function<bool(const Lines&)>& found);
     void enter_node(const std::wstring& node) const;
     bool nothing_found(const Lines& found) const;
+    void choose_characteristic();
+    void choose_item();
+    void set_trigger();
     /// From the host's window, a server of this computer.
     void add_server(const std::wstring& server) const;
 

@@ -82,6 +82,9 @@ void Visit::watching() {
     guide_.step(
         "Escape closes it.", "the-end", [&] { hit(program_.control(L"bnOK"), VK_ESCAPE); },
         L"the host's window", [&] { return at(L"frmHost"); });
+}
+
+void Visit::leaving() {
     close(program_.front());
     if (program_.wait_for_end() != 0) throw Disappointment{L"The host did not end well."};
 }

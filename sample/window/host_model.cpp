@@ -30,8 +30,8 @@ Ref<_hlxOPCServer> HostModel::entry(long position) const {
     return entry;
 }
 
-std::vector<ServerLine> HostModel::servers() const {
-    std::vector<ServerLine> lines;
+std::vector<TableLine> HostModel::servers() const {
+    std::vector<TableLine> lines;
     const long all = count();
     for (long position = 1; position <= all; ++position) {
         const auto server = entry(position);
@@ -39,7 +39,9 @@ std::vector<ServerLine> HostModel::servers() const {
         Text node;
         check(server->get_ServerName(name.out()));
         check(server->get_Node(node.out()));
-        lines.push_back({name.text(), node.text(), state_text(position)});
+        const std::wstring state = state_text(position);
+        lines.push_back({{name.text(), node.text().empty() ? L"(this computer)" : node.text(), state},
+                         state.rfind(L"Not connected", 0) == 0 ? Tone::pale : Tone::plain});
     }
     return lines;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/com.h"
+#include "window/table.h"
 
 #include <string>
 #include <vector>
@@ -11,14 +12,6 @@
 
 namespace sample {
 
-/// One configured server as the window shows it.
-struct ServerLine {
-    std::wstring name;
-    std::wstring node;
-    std::wstring state;
-    bool operator==(const ServerLine&) const = default;
-};
-
 /// The host's objects as the window uses them. Positions count from 1; every call can throw a Failure.
 class HostModel {
 public:
@@ -26,7 +19,8 @@ public:
     explicit HostModel(const std::wstring& database);
 
     std::wstring database_file() const;
-    std::vector<ServerLine> servers() const;
+    /// The configured servers as the window shows them: name, node, state; pale when not connected.
+    std::vector<TableLine> servers() const;
     long count() const;
     /// What the public dialogs are given.
     IDispatch* collection() const { return servers_.get(); }
@@ -38,6 +32,21 @@ public:
     /// The item that was last chosen of the server; "" for none.
     std::wstring last_item(long position) const;
     void remember_item(long position, const std::wstring& item);
+
+    /// The configurations of a server, by numbers from 1: name, number of tests, state.
+    std::vector<TableLine> configurations(long position) const;
+    /// The tests of a configuration: characteristic, item, how it is saved, trigger, value now. One whose
+    /// item the server refused is an alarm and shows no item.
+    std::vector<TableLine> tests(long position, long number) const;
+    long configuration_count(long position) const;
+    Ref<_hlxOPCConfiguration> configuration(long position, long number) const;
+    Ref<_hlxOPCTest> test(long position, long number, long test) const;
+    /// Gives the new one's number.
+    long add_configuration(long position);
+    void remove_configuration(long position, long number);
+    /// To be called when a dialog on it has closed. False when it had no tests and is removed.
+    bool settle_configuration(long position, long number);
+    std::wstring configuration_name(long position, long number) const;
 
     bool connect(long position);
     void remove(long position);

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <array>
 
 namespace sample {
 
@@ -16,8 +17,8 @@ constexpr UINT_PTR refresh_timer = 1;
 constexpr UINT refresh_milliseconds = 1000;
 
 /// So many pixels at 96 DPI.
-constexpr SIZE first_size{800, 540};
-constexpr SIZE least_size{560, 460};
+constexpr SIZE first_size{860, 700};
+constexpr SIZE least_size{640, 620};
 
 BOOL CALLBACK forget_each(HWND control, LPARAM) {
     forget_name(control);
@@ -76,7 +77,7 @@ bool MainWindow::start() {
     }
     dialogs_found_ = check_dialogs();
     refresh();
-    list_.select(1);
+    servers_.select(1);
     show_selection();
     SetTimer(window_, refresh_timer, refresh_milliseconds, nullptr);
     return true;
@@ -141,7 +142,7 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
             SetFocus(focus_);
         return 0;
     case WM_SETFOCUS:
-        SetFocus(focus_ ? focus_ : list_.handle());
+        SetFocus(focus_ ? focus_ : servers_.handle());
         return 0;
     case WM_TIMER:
         refresh();
@@ -181,18 +182,31 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 
 LRESULT MainWindow::notified(LPARAM parameter) {
     const NMHDR& notification = *reinterpret_cast<const NMHDR*>(parameter);
-    if (notification.idFrom != ID_SERVERS) return 0;
+    struct List {
+        Table& table;
+        int id;
+        int command; ///< what a double click and Enter do
+    };
+    const std::array lists = {List{servers_, ID_SERVERS, ID_INFORMATION},
+                              List{configurations_, ID_CONFIGURATIONS, ID_CONFIGURE},
+                              List{tests_, ID_TESTS, ID_EDIT_TEST}};
+    const auto list = std::ranges::find(lists, static_cast<int>(notification.idFrom), &List::id);
+    if (list == lists.end()) return 0;
     switch (notification.code) {
     case NM_CUSTOMDRAW:
-        return list_.draw(*reinterpret_cast<NMLVCUSTOMDRAW*>(parameter));
+        return list->table.draw(*reinterpret_cast<NMLVCUSTOMDRAW*>(parameter));
     case NM_DBLCLK:
-        command(ID_INFORMATION);
+        command(list->command);
+        break;
+    case NM_SETFOCUS:
+        make_default(list->command);
         break;
     case LVN_ITEMCHANGED:
-        show_selection();
+        if (!showing_) show_selection();
         break;
     case LVN_KEYDOWN:
-        if (reinterpret_cast<const NMLVKEYDOWN*>(parameter)->wVKey == VK_DELETE) command(ID_REMOVE);
+        if (list->id == ID_SERVERS && reinterpret_cast<const NMLVKEYDOWN*>(parameter)->wVKey == VK_DELETE)
+            command(ID_REMOVE);
         break;
     default:
         break;

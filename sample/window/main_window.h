@@ -2,7 +2,7 @@
 
 #include "window/host_model.h"
 #include "window/screen.h"
-#include "window/server_list.h"
+#include "window/table.h"
 
 #include <optional>
 #include <string>
@@ -36,9 +36,13 @@ private:
     void focus_moved(WORD control, WORD notification);
     void use_font();
     void lay_out();
-    /// Lets the commands and the last item follow the selected server.
+    void make_default(int button);
+    /// Lets the lists, the commands and the last item follow what is selected.
     void show_selection();
     void refresh();
+    /// The configurations of the selected server and the tests of the selected configuration.
+    void show_details();
+    void enable_commands();
     void show_log();
 
     void command(int id);
@@ -46,6 +50,12 @@ private:
     void add_server();
     void show_information();
     void browse_items();
+    void new_configuration();
+    void configure();
+    void edit_test();
+    /// False when the dialog could not be shown.
+    bool show_configuration(long position, long number);
+    void settle(long position, long number);
     void connect();
     void remove();
     void use_wrapper(bool wrapper);
@@ -67,7 +77,12 @@ private:
     UINT dpi_ = 96;
     int default_button_ = 0; ///< what Enter presses
     Font font_;
-    ServerList list_;
+    Table servers_;
+    Table configurations_;
+    Table tests_;
+    long shown_server_ = 0;        ///< whose configurations are listed
+    long shown_configuration_ = 0; ///< whose tests are listed
+    bool showing_ = false;         ///< the lists are being filled
     std::optional<HostModel> model_;
     bool dialogs_found_ = false;
 };

@@ -53,6 +53,15 @@ void MainWindow::command(int id) {
     case ID_BROWSE:
         browse_items();
         break;
+    case ID_NEW_CONFIGURATION:
+        new_configuration();
+        break;
+    case ID_CONFIGURE:
+        configure();
+        break;
+    case ID_EDIT_TEST:
+        edit_test();
+        break;
     case ID_CONNECT:
         connect();
         break;
@@ -91,7 +100,7 @@ void MainWindow::select_server() {
     }
     short position = 0;
     check(dialog->get_ServerIndex(&position));
-    list_.select(position);
+    servers_.select(position);
     model_->log(L"Select server: number " + std::to_wstring(position) + L", " +
                 model_->display_text(position) + L".");
 }
@@ -108,7 +117,7 @@ void MainWindow::add_server() {
     }
     short position = 0;
     check(dialog->get_ServerIndex(&position));
-    list_.select(position);
+    servers_.select(position);
     model_->log(L"Add server: number " + std::to_wstring(position) + L", " + model_->display_text(position) +
                 L".");
 }
@@ -123,7 +132,7 @@ Ref<IDispatch> MainWindow::connected_server(long position, const wchar_t* purpos
 }
 
 void MainWindow::show_information() {
-    const long position = list_.selected();
+    const long position = servers_.selected();
     if (!dialogs_found_ || position == 0) return;
     const auto server = connected_server(position, L"see its information");
     if (!server) return;
@@ -135,7 +144,7 @@ void MainWindow::show_information() {
 }
 
 void MainWindow::browse_items() {
-    const long position = list_.selected();
+    const long position = servers_.selected();
     if (!dialogs_found_ || position == 0) return;
     const auto server = connected_server(position, L"browse its items");
     if (!server) return;
@@ -157,7 +166,7 @@ void MainWindow::browse_items() {
 }
 
 void MainWindow::connect() {
-    const long position = list_.selected();
+    const long position = servers_.selected();
     if (position == 0) return;
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     if (model_->connect(position)) return;
@@ -166,7 +175,7 @@ void MainWindow::connect() {
 }
 
 void MainWindow::remove() {
-    const long position = list_.selected();
+    const long position = servers_.selected();
     if (position == 0) return;
     if (ask(L"Remove " + model_->display_text(position) + L" from the configured servers?",
             MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES)
@@ -180,8 +189,8 @@ void MainWindow::use_wrapper(bool wrapper) {
 
 void MainWindow::about() {
     ask(L"OPC Collection Sample Host\n\nA small host of the brxOpcDlgs6 dialogs. It keeps its configured "
-        L"servers in the "
-        L"database file\n" +
+        L"servers "
+        L"and collection configurations in the database file\n" +
             model_->database_file() +
             L"\nand shows the dialogs through COM, like any other host.\n\nThe simulated plant has servers "
             L"on this "
@@ -192,36 +201,6 @@ void MainWindow::about() {
 
 int MainWindow::ask(const std::wstring& text, UINT style) const {
     return MessageBoxW(window_, text.c_str(), L"OPC Collection Sample Host", style);
-}
-
-void MainWindow::show_selection() {
-    const long position = list_.selected();
-    const bool chosen = position != 0;
-    const bool wrapper = model_ && model_->uses_wrapper();
-    const HMENU menu = GetMenu(window_);
-    const auto enable = [&](int id, bool enabled) {
-        EnableWindow(child(id), enabled);
-        EnableMenuItem(menu, static_cast<UINT>(id), enabled ? UINT{MF_ENABLED} : UINT{MF_GRAYED});
-    };
-    enable(ID_SELECT, dialogs_found_);
-    enable(ID_ADD, dialogs_found_);
-    enable(ID_INFORMATION, dialogs_found_ && chosen);
-    enable(ID_BROWSE, dialogs_found_ && chosen);
-    enable(ID_CONNECT, chosen);
-    enable(ID_REMOVE, chosen);
-    CheckMenuRadioItem(menu, ID_PLANT, ID_WRAPPER, wrapper ? ID_WRAPPER : ID_PLANT, MF_BYCOMMAND);
-    if (!model_) return;
-    SetWindowTextW(child(ID_ITEM), chosen ? model_->last_item(position).c_str() : L"");
-    const HWND status = child(ID_STATUS);
-    SendMessageW(status, SB_SETTEXTW, 0, reinterpret_cast<LPARAM>((L" " + model_->database_file()).c_str()));
-    SendMessageW(status, SB_SETTEXTW, 1,
-                 reinterpret_cast<LPARAM>(wrapper ? L" OPC automation wrapper" : L" Simulated plant"));
-}
-
-void MainWindow::refresh() {
-    if (!model_) return;
-    list_.show(model_->servers());
-    show_log();
 }
 
 void MainWindow::show_log() {

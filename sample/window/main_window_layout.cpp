@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace sample {
 
@@ -17,7 +18,7 @@ struct Button {
     const wchar_t* name;
     bool starts_group;
 };
-constexpr std::array buttons = {
+constexpr std::array server_buttons = {
     Button{ID_SELECT, L"&Select Server...", L"bnSelect", false},
     Button{ID_ADD, L"&Add Server...", L"bnAdd", false},
     Button{ID_INFORMATION, L"Server &Information...", L"bnInformation", true},
@@ -25,6 +26,19 @@ constexpr std::array buttons = {
     Button{ID_CONNECT, L"&Connect Again", L"bnConnect", false},
     Button{ID_REMOVE, L"&Remove", L"bnRemove", false},
 };
+constexpr std::array configuration_buttons = {
+    Button{ID_NEW_CONFIGURATION, L"&New Configuration...", L"bnNewConfiguration", false},
+    Button{ID_CONFIGURE, L"Confi&gure...", L"bnConfigure", false},
+};
+constexpr std::array test_buttons = {Button{ID_EDIT_TEST, L"E&dit Test...", L"bnEditTest", false}};
+
+constexpr std::array server_columns = {TableColumn{L"OPC Server", 180}, TableColumn{L"Node", 110},
+                                       TableColumn{L"State", 0}};
+constexpr std::array configuration_columns = {TableColumn{L"Configuration", 0}, TableColumn{L"Tests", 80},
+                                              TableColumn{L"State", 110}};
+constexpr std::array test_columns = {TableColumn{L"Characteristic", 130}, TableColumn{L"OPC Item", 0},
+                                     TableColumn{L"Save As", 110}, TableColumn{L"Trigger", 90},
+                                     TableColumn{L"Value", 110}};
 
 /// Where no button has the focus, Enter means what a double click in the list means.
 constexpr int usual_default = ID_INFORMATION;
@@ -38,7 +52,16 @@ constexpr int button_width = 144;
 constexpr int button_height = 23;
 constexpr int box_height = 23;
 constexpr int item_label_width = 62;
-constexpr int log_height = 112;
+
+/// What the lists and the log get of the height, in parts of a whole.
+struct Shares {
+    int servers = 34;
+    int configurations = 18;
+    int tests = 28;
+    int log = 20;
+    int whole() const { return servers + configurations + tests + log; }
+};
+constexpr Shares shares;
 
 HWND make(HWND parent, const wchar_t* kind, const wchar_t* text, DWORD style, int id, const wchar_t* name,
           DWORD ex_style = 0) {
@@ -53,6 +76,13 @@ BOOL CALLBACK set_font(HWND control, LPARAM font) {
     return TRUE;
 }
 
+bool is_button(int id) {
+    const auto has = [id](const auto& buttons) {
+        return std::ranges::find(buttons, id, &Button::id) != buttons.end();
+    };
+    return has(server_buttons) || has(configuration_buttons) || has(test_buttons);
+}
+
 /// A box of several lines wants Tab and Enter for itself; this one is only read.
 LRESULT CALLBACK log_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR, DWORD_PTR) {
     if (message == WM_GETDLGCODE) return DLGC_WANTARROWS | DLGC_WANTCHARS;
@@ -64,17 +94,31 @@ LRESULT CALLBACK log_procedure(HWND window, UINT message, WPARAM wparam, LPARAM 
 /// In tab order.
 void MainWindow::create_controls() {
     name_window(window_, L"frmHost");
-    make(window_, WC_STATICW, L"Configured OPC s&ervers:", 0, ID_SERVERS_LABEL, L"lblServers");
-    list_.create(window_, ID_SERVERS);
-    name_window(list_.handle(), L"lstServers");
-    for (const Button& button : buttons) {
-        const DWORD style = button.id == usual_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        make(window_, WC_BUTTONW, button.caption, style | BS_NOTIFY | WS_TABSTOP, button.id, button.name);
-    }
+    const auto make_list = [this](Table& table, const wchar_t* label, int label_id, const wchar_t* label_name,
+                                  int id, const wchar_t* name, std::span<const TableColumn> columns) {
+        make(window_, WC_STATICW, label, 0, label_id, label_name);
+        table.create(window_, id, columns);
+        name_window(table.handle(), name);
+    };
+    const auto make_buttons = [this](std::span<const Button> buttons) {
+        for (const Button& button : buttons) {
+            const DWORD style = button.id == usual_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+            make(window_, WC_BUTTONW, button.caption, style | BS_NOTIFY | WS_TABSTOP, button.id, button.name);
+        }
+    };
+    make_list(servers_, L"Configured OPC s&ervers:", ID_SERVERS_LABEL, L"lblServers", ID_SERVERS,
+              L"lstServers", server_columns);
+    make_buttons(server_buttons);
     default_button_ = usual_default;
-    make(window_, WC_STATICW, L"Last i&tem:", 0, ID_ITEM_LABEL, L"lblItem");
+    make(window_, WC_STATICW, L"Last ite&m:", 0, ID_ITEM_LABEL, L"lblItem");
     make(window_, WC_EDITW, L"", WS_TABSTOP | ES_AUTOHSCROLL | ES_READONLY, ID_ITEM, L"txtItem",
          WS_EX_CLIENTEDGE);
+    make_list(configurations_, L"Collection config&urations of the selected server:", ID_CONFIGURATIONS_LABEL,
+              L"lblConfigurations", ID_CONFIGURATIONS, L"lstConfigurations", configuration_columns);
+    make_buttons(configuration_buttons);
+    make_list(tests_, L"Tests of the selected configuration with their &present values:", ID_TESTS_LABEL,
+              L"lblTests", ID_TESTS, L"lstTests", test_columns);
+    make_buttons(test_buttons);
     make(window_, WC_STATICW, L"&Log:", 0, ID_LOG_LABEL, L"lblLog");
     const HWND log =
         make(window_, WC_EDITW, L"", WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
@@ -86,8 +130,10 @@ void MainWindow::create_controls() {
 
 void MainWindow::focus_moved(WORD control, WORD notification) {
     if (notification != BN_SETFOCUS && notification != BN_KILLFOCUS) return;
-    if (std::ranges::find(buttons, int{control}, &Button::id) == buttons.end()) return;
-    const int wanted = notification == BN_SETFOCUS ? int{control} : usual_default;
+    if (is_button(control)) make_default(notification == BN_SETFOCUS ? int{control} : usual_default);
+}
+
+void MainWindow::make_default(int wanted) {
     if (wanted == default_button_) return;
     SendMessageW(child(default_button_), BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
     SendMessageW(child(wanted), BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
@@ -115,26 +161,52 @@ void MainWindow::lay_out() {
     const int left = px(margin);
     const int right = area.right - px(margin);
     const int buttons_left = right - px(button_width);
-    const int list_top = px(margin + label_height + below_label);
-    const int log_top = bottom - px(margin + log_height);
-    const int log_label_top = log_top - px(label_height + below_label);
-    const int item_top = log_label_top - px(margin + box_height);
     const int list_right = buttons_left - px(margin);
+    const int label_room = px(label_height + below_label);
+    const int item_room = px(gap + box_height);
+    const int free = bottom - 5 * px(margin) - 4 * label_room - item_room;
+    const auto share = [&](int part) { return free * part / shares.whole(); };
 
-    MoveWindow(child(ID_SERVERS_LABEL), left, px(margin), list_right - left, px(label_height), TRUE);
-    list_.place({left, list_top, list_right, item_top - px(gap)}, dpi_);
-    MoveWindow(child(ID_ITEM_LABEL), left, item_top + px((box_height - label_height) / 2),
-               px(item_label_width), px(label_height), TRUE);
+    int top = px(margin);
+    const auto place_label = [&](int id) {
+        MoveWindow(child(id), left, top, list_right - left, px(label_height), TRUE);
+        top += label_room;
+    };
+    const auto place_buttons = [&](std::span<const Button> buttons) {
+        int y = top;
+        for (const Button& button : buttons) {
+            if (button.starts_group) y += px(margin - gap);
+            MoveWindow(child(button.id), buttons_left, y, px(button_width), px(button_height), TRUE);
+            y += px(button_height + gap);
+        }
+    };
+    const auto place_list = [&](Table& table, int height) {
+        table.place({left, top, list_right, top + height}, dpi_);
+        top += height;
+    };
+
+    place_label(ID_SERVERS_LABEL);
+    place_buttons(server_buttons);
+    place_list(servers_, share(shares.servers));
+    top += px(gap);
     const int item_left = left + px(item_label_width);
-    MoveWindow(child(ID_ITEM), item_left, item_top, list_right - item_left, px(box_height), TRUE);
-    int top = list_top;
-    for (const Button& button : buttons) {
-        if (button.starts_group) top += px(margin - gap);
-        MoveWindow(child(button.id), buttons_left, top, px(button_width), px(button_height), TRUE);
-        top += px(button_height + gap);
-    }
-    MoveWindow(child(ID_LOG_LABEL), left, log_label_top, right - left, px(label_height), TRUE);
-    MoveWindow(child(ID_LOG), left, log_top, right - left, px(log_height), TRUE);
+    MoveWindow(child(ID_ITEM_LABEL), left, top + px((box_height - label_height) / 2), px(item_label_width),
+               px(label_height), TRUE);
+    MoveWindow(child(ID_ITEM), item_left, top, list_right - item_left, px(box_height), TRUE);
+    top += px(box_height + margin);
+
+    place_label(ID_CONFIGURATIONS_LABEL);
+    place_buttons(configuration_buttons);
+    place_list(configurations_, share(shares.configurations));
+    top += px(margin);
+
+    place_label(ID_TESTS_LABEL);
+    place_buttons(test_buttons);
+    place_list(tests_, share(shares.tests));
+    top += px(margin);
+
+    place_label(ID_LOG_LABEL);
+    MoveWindow(child(ID_LOG), left, top, right - left, bottom - px(margin) - top, TRUE);
 }
 
 } // namespace sample

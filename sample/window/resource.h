@@ -9,6 +9,10 @@
 #define ID_STATUS 104
 #define ID_ITEM_LABEL 105
 #define ID_ITEM 106
+#define ID_CONFIGURATIONS_LABEL 107
+#define ID_CONFIGURATIONS 108
+#define ID_TESTS_LABEL 109
+#define ID_TESTS 110
 
 #define ID_SELECT 201
 #define ID_ADD 202
@@ -16,6 +20,9 @@
 #define ID_CONNECT 204
 #define ID_REMOVE 205
 #define ID_BROWSE 206
+#define ID_NEW_CONFIGURATION 207
+#define ID_CONFIGURE 208
+#define ID_EDIT_TEST 209
 
 #define ID_EXIT 301
 #define ID_PLANT 302

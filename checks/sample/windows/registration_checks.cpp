@@ -26,8 +26,9 @@ TEST(SampleRegistration, ForTheUserNamesTheClassesAndTakesEverythingBack) {
         reinterpret_cast<Install>(reinterpret_cast<void*>(GetProcAddress(library, "DllInstall")));
     ASSERT_NE(install, nullptr);
 
-    constexpr std::array names = {L"brxSample.Host", L"brxOpcAuto6.hlxOPCServer", L"brxError6.Error",
-                                  L"hlxER01.Error"};
+    constexpr std::array names = {L"brxSample.Host",       L"brxOpcAuto6.hlxOPCServer",
+                                  L"brxError6.Error",      L"hlxER01.Error",
+                                  L"brxDatabase6.hlxPart", L"brxDatabase6.hlxTestSelection"};
     std::vector<std::wstring> ids;
     EXPECT_EQ(install(TRUE, L"user"), S_OK);
     for (const wchar_t* name : names) {

@@ -1,4 +1,4 @@
-#include "window/server_list.h"
+#include "window/table.h"
 
 #include "window/screen.h"
 
@@ -6,20 +6,12 @@
 #include <uxtheme.h>
 
 #include <algorithm>
-#include <array>
 
 namespace sample {
 
 namespace {
 
-struct Column {
-    const wchar_t* title;
-    int width; ///< at 96 DPI; the last one takes what is left
-};
-constexpr std::array columns = {Column{L"OPC Server", 180}, Column{L"Node", 110}, Column{L"State", 0}};
-enum { name_column, node_column, state_column };
-
-bool is_connected(const ServerLine& line) { return line.state.rfind(L"Not connected", 0) != 0; }
+constexpr int least_width = 120; ///< at 96 DPI, of a column that takes what is left
 
 void set_text(HWND list, int row, int column, std::wstring text) {
     ListView_SetItemText(list, row, column, text.data());
@@ -27,7 +19,8 @@ void set_text(HWND list, int row, int column, std::wstring text) {
 
 } // namespace
 
-void ServerList::create(HWND parent, int id) {
+void Table::create(HWND parent, int id, std::span<const TableColumn> columns) {
+    columns_ = columns;
     list_ = CreateWindowExW(
         WS_EX_CLIENTEDGE, WC_LISTVIEWW, nullptr,
         WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS, 0, 0, 0, 0,
@@ -43,7 +36,7 @@ void ServerList::create(HWND parent, int id) {
     }
 }
 
-void ServerList::show(const std::vector<ServerLine>& lines) {
+void Table::show(const std::vector<TableLine>& lines) {
     if (lines == lines_) return;
     const long selection = selected();
     while (lines_.size() > lines.size()) {
@@ -66,23 +59,22 @@ void ServerList::show(const std::vector<ServerLine>& lines) {
     fit_columns();
 }
 
-void ServerList::show_line(int index, const ServerLine& line) {
-    set_text(list_, index, name_column, line.name);
-    set_text(list_, index, node_column, line.node.empty() ? L"(this computer)" : line.node);
-    set_text(list_, index, state_column, line.state);
+void Table::show_line(int index, const TableLine& line) {
+    for (std::size_t i = 0; i < line.cells.size(); ++i)
+        set_text(list_, index, static_cast<int>(i), line.cells[i]);
     ListView_RedrawItems(list_, index, index);
 }
 
-long ServerList::selected() const { return ListView_GetNextItem(list_, -1, LVNI_SELECTED) + 1; }
+long Table::selected() const { return ListView_GetNextItem(list_, -1, LVNI_SELECTED) + 1; }
 
-void ServerList::select(long position) {
+void Table::select(long position) {
     if (position < 1 || position == selected()) return;
     const int row = static_cast<int>(position - 1);
     ListView_SetItemState(list_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_EnsureVisible(list_, row, FALSE);
 }
 
-void ServerList::place(const RECT& rect, UINT dpi) {
+void Table::place(const RECT& rect, UINT dpi) {
     MoveWindow(list_, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, TRUE);
     if (dpi != dpi_) {
         // An empty picture in each line gives the lines some air.
@@ -94,24 +86,24 @@ void ServerList::place(const RECT& rect, UINT dpi) {
 }
 
 /// There is less room once the list has more lines than it shows.
-void ServerList::fit_columns() const {
+void Table::fit_columns() const {
     RECT inside{};
     GetClientRect(list_, &inside);
     int left = inside.right;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const bool last = i + 1 == columns.size();
-        const int width = last ? std::max(left, scaled(120, dpi_)) : scaled(columns[i].width, dpi_);
-        ListView_SetColumnWidth(list_, static_cast<int>(i), width);
-        left -= width;
+    for (const TableColumn& each : columns_) left -= scaled(each.width, dpi_);
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const int width = columns_[i].width;
+        ListView_SetColumnWidth(list_, static_cast<int>(i),
+                                width != 0 ? scaled(width, dpi_) : std::max(left, scaled(least_width, dpi_)));
     }
 }
 
-LRESULT ServerList::draw(NMLVCUSTOMDRAW& request) const {
+LRESULT Table::draw(NMLVCUSTOMDRAW& request) const {
     if (request.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (request.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
     const auto row = static_cast<std::size_t>(request.nmcd.dwItemSpec);
-    if (row >= lines_.size() || is_connected(lines_[row])) return CDRF_DODEFAULT;
-    request.clrText = GetSysColor(COLOR_GRAYTEXT);
+    if (row >= lines_.size() || lines_[row].tone == Tone::plain) return CDRF_DODEFAULT;
+    request.clrText = lines_[row].tone == Tone::pale ? GetSysColor(COLOR_GRAYTEXT) : RGB(192, 0, 0);
     return CDRF_NEWFONT;
 }
 

@@ -1,0 +1,92 @@
+#include "sample/windows/host_program.h"
+
+#include <commctrl.h>
+
+#include <array>
+#include <chrono>
+#include <thread>
+
+namespace brx::checks {
+
+using namespace std::chrono_literals;
+
+HostProgram::HostProgram(const std::filesystem::path& program, const std::wstring& arguments) {
+    std::wstring line = L"\"" + program.wstring() + L"\" " + arguments;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &process_))
+        ADD_FAILURE() << "the program does not start: error " << GetLastError();
+}
+
+HostProgram::~HostProgram() {
+    TerminateProcess(process_.hProcess, 99);
+    WaitForSingleObject(process_.hProcess, 5000);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+}
+
+HWND HostProgram::window(const wchar_t* kind, const wchar_t* title) const {
+    for (int i = 0; i < 300; ++i) {
+        for (HWND each = nullptr; (each = FindWindowExW(nullptr, each, kind, title)) != nullptr;) {
+            DWORD owner = 0;
+            GetWindowThreadProcessId(each, &owner);
+            if (owner == process_.dwProcessId && IsWindowVisible(each)) return each;
+        }
+        std::this_thread::sleep_for(100ms);
+    }
+    ADD_FAILURE() << "the window does not come";
+    return nullptr;
+}
+
+DWORD HostProgram::exit_code() const {
+    DWORD code = STILL_ACTIVE;
+    if (WaitForSingleObject(process_.hProcess, 30000) == WAIT_OBJECT_0)
+        GetExitCodeProcess(process_.hProcess, &code);
+    return code;
+}
+
+std::string text_of_box(HWND box) {
+    std::array<wchar_t, 1000> text{};
+    GetDlgItemTextW(box, 0xFFFF, text.data(), static_cast<int>(text.size()));
+    std::string result;
+    for (const wchar_t* c = text.data(); *c; ++c) result += static_cast<char>(*c);
+    return result;
+}
+
+Controls controls_of(HWND window) {
+    const auto add = [](HWND each, LPARAM controls) -> BOOL {
+        const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(each, L"brx.Name")));
+        std::array<wchar_t, 100> name{};
+        if (atom != 0 && GlobalGetAtomNameW(atom, name.data(), static_cast<int>(name.size())) > 0)
+            reinterpret_cast<Controls*>(controls)->emplace(name.data(), each);
+        return TRUE;
+    };
+    Controls controls;
+    EnumChildWindows(window, add, reinterpret_cast<LPARAM>(&controls));
+    return controls;
+}
+
+bool comes_true(const std::function<bool()>& condition) {
+    for (int i = 0; i < 300; ++i, std::this_thread::sleep_for(100ms))
+        if (condition()) return true;
+    return false;
+}
+
+OpenHost::OpenHost() {
+    EXPECT_TRUE(comes_true([&] { return rows(L"lstServers") == 3; }));
+    EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(control(L"bnBrowse")) != FALSE; }));
+}
+
+void OpenHost::select_row(WPARAM key, LRESULT row) const {
+    PostMessageW(list(), WM_KEYDOWN, key, 1);
+    EXPECT_TRUE(comes_true([&] {
+        return SendMessageW(list(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) == row;
+    }));
+}
+
+LRESULT OpenHost::rows(const wchar_t* list) const {
+    return SendMessageW(control(list), LVM_GETITEMCOUNT, 0, 0);
+}
+
+} // namespace brx::checks

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "sample/windows/objects_stage.h"
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace brx::checks {
+
+/// The sample host running as a program of its own; ended with the check.
+class HostProgram {
+public:
+    HostProgram(const std::filesystem::path& program, const std::wstring& arguments);
+    HostProgram(const HostProgram&) = delete;
+    HostProgram& operator=(const HostProgram&) = delete;
+    ~HostProgram();
+
+    /// A visible window of the program by class and, unless it is null, title; null when none comes.
+    HWND window(const wchar_t* kind, const wchar_t* title = nullptr) const;
+    DWORD exit_code() const;
+
+private:
+    PROCESS_INFORMATION process_{};
+};
+
+/// What a message box says.
+std::string text_of_box(HWND box);
+
+/// Controls by the names that UI tests find them by.
+using Controls = std::map<std::wstring, HWND>;
+Controls controls_of(HWND window);
+
+/// Waits for it, up to half a minute.
+bool comes_true(const std::function<bool()>& condition);
+
+/// The host with its servers connected and the first one selected.
+class OpenHost {
+public:
+    OpenHost();
+
+    const HostProgram& program() const { return program_; }
+    HWND control(const wchar_t* name) const { return controls_of(window_)[name]; }
+    HWND list() const { return control(L"lstServers"); }
+    bool is_open_to_input() const { return IsWindowEnabled(window_) != FALSE; }
+    void press(const wchar_t* button) const { PostMessageW(control(button), BM_CLICK, 0, 0); }
+    void select_row(WPARAM key, LRESULT row) const;
+    LRESULT rows(const wchar_t* list) const;
+    int default_button() const { return LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)); }
+
+private:
+    CheckFolder folder_;
+    HostProgram program_{host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\""};
+    HWND window_ = program_.window(L"brxSampleHost");
+};
+
+} // namespace brx::checks
