@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/values/calendar.h"
 
+#include <array>
 #include <cstdio>
 
 namespace brx {
@@ -19,16 +20,16 @@ void DatePicker::set_value(Date value) {
 
 std::string DatePicker::text() const {
     const Moment moment = to_moment(value_);
-    char text[32];
+    std::array<char, 32> text{};
     if (part() == DatePart::date) {
         const auto day = moment.calendar_day();
-        std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(day.year()),
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", static_cast<int>(day.year()),
                       static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()));
     } else {
-        std::snprintf(text, sizeof text, "%02d:%02d:%02d", moment.second / 3600, moment.second / 60 % 60,
-                      moment.second % 60);
+        std::snprintf(text.data(), text.size(), "%02d:%02d:%02d", moment.second / 3600,
+                      moment.second / 60 % 60, moment.second % 60);
     }
-    return text;
+    return text.data();
 }
 
 bool DatePicker::user_set(Date value) {

@@ -6,7 +6,7 @@
 namespace brx {
 
 /// A date with a calendar that drops down, or a time of day, in the user's own format. The system's picker
-/// begins on 14 September 1752: an earlier date is held by the control, but its window goes on showing the one
+/// begins on 14 September 1752: the control holds an earlier date, but its window goes on showing the one
 /// before.
 class DatePickerPeer : public ControlPeer {
 public:
