@@ -38,7 +38,11 @@ struct ConfigurationForm : testing::Test {
         form.show_modal();
     }
     /// What is typed, or pasted, replaces the text.
-    void enter(const std::string& name, const std::string& text) { EXPECT_TRUE(box(name).user_text(text)); }
+    void enter(const std::string& name, const std::string& text) {
+        const bool on_sampling = name == "txtSGInterval" || name == "txtPieceTimeInterval";
+        EXPECT_TRUE(find<TabStrip>("TabStrip1").user_select(on_sampling ? 2 : 1));
+        EXPECT_TRUE(box(name).user_text(text));
+    }
 
     std::vector<std::string> red_boxes() {
         std::vector<std::string> red;

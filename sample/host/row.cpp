@@ -7,6 +7,7 @@ namespace brx::host {
 namespace {
 
 template <class... Cases> struct Overloaded : Cases... { using Cases::operator()...; };
+template <class... Cases> Overloaded(Cases...) -> Overloaded<Cases...>;
 
 } // namespace
 

@@ -40,17 +40,18 @@ Words words_for(RecordKind kind) {
     return {L"Select Descriptor", L"&Descriptors:"};
 }
 
+BOOL CALLBACK note_first(HWND window, LPARAM place) {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+    *reinterpret_cast<HWND*>(place) = window;
+    return FALSE;
+}
+
 /// The window that the person has in front of him; of a program that is not in front itself, its uppermost
 /// that takes input.
 HWND window_in_front() {
     if (const HWND active = GetActiveWindow()) return active;
     HWND found = nullptr;
-    const auto note = [](HWND window, LPARAM place) -> BOOL {
-        if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-        *reinterpret_cast<HWND*>(place) = window;
-        return FALSE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&found));
+    EnumThreadWindows(GetCurrentThreadId(), note_first, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 

@@ -54,16 +54,21 @@ std::string text_of_box(HWND box) {
     return result;
 }
 
+namespace {
+
+BOOL CALLBACK add_control(HWND window, LPARAM controls) {
+    const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, L"brx.Name")));
+    std::array<wchar_t, 100> name{};
+    if (atom != 0 && GlobalGetAtomNameW(atom, name.data(), static_cast<int>(name.size())) > 0)
+        reinterpret_cast<Controls*>(controls)->emplace(name.data(), window);
+    return TRUE;
+}
+
+} // namespace
+
 Controls controls_of(HWND window) {
-    const auto add = [](HWND each, LPARAM controls) -> BOOL {
-        const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(each, L"brx.Name")));
-        std::array<wchar_t, 100> name{};
-        if (atom != 0 && GlobalGetAtomNameW(atom, name.data(), static_cast<int>(name.size())) > 0)
-            reinterpret_cast<Controls*>(controls)->emplace(name.data(), each);
-        return TRUE;
-    };
     Controls controls;
-    EnumChildWindows(window, add, reinterpret_cast<LPARAM>(&controls));
+    EnumChildWindows(window, add_control, reinterpret_cast<LPARAM>(&controls));
     return controls;
 }
 
