@@ -17,23 +17,24 @@ namespace {
 constexpr int showings = 1000;
 /// Fewer than one handle for every ten showings: what the system keeps for itself, not what showings leave
 /// behind.
-constexpr int slack = showings / 10;
+constexpr int slack_of(int rounds) { return rounds / 10; }
+constexpr int slack = slack_of(showings);
 
-void leaves_nothing_behind(Play& its, const std::function<void()>& show_once) {
+void leaves_nothing_behind(Play& its, int rounds, const std::function<void()>& show_once) {
     for (int i = 0; i < 20; ++i) show_once(); // what the system makes once is made now
     SystemHandles before;
     its.stage->start([&] { before = system_handles(); });
-    for (int i = 0; i < showings; ++i) show_once();
+    for (int i = 0; i < rounds; ++i) show_once();
     SystemHandles after;
     its.stage->start([&] { after = system_handles(); });
-    EXPECT_LT(after.user - before.user, slack) << "Windows or other USER objects stayed.";
-    EXPECT_LT(after.gdi - before.gdi, slack) << "Fonts, brushes or other GDI objects stayed.";
+    EXPECT_LT(after.user - before.user, slack_of(rounds)) << "Windows or other USER objects stayed.";
+    EXPECT_LT(after.gdi - before.gdi, slack_of(rounds)) << "Fonts, brushes or other GDI objects stayed.";
 }
 
 template <class... Objects>
 void show_again_and_again(Play& its, const std::string& class_name, const Objects&... objects) {
     Showing dialog(*its.stage, class_name);
-    leaves_nothing_behind(its, [&] {
+    leaves_nothing_behind(its, showings, [&] {
         dialog.show(objects...);
         its.person.closes_the_window();
         dialog.result();
@@ -80,7 +81,7 @@ SCENARIO(AThousandShowings, OfTheDialogsOverTheConfigurationLeaveNothingBehind) 
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     Configuring dialog(its);
-    leaves_nothing_behind(its, [&] {
+    leaves_nothing_behind(its, showings / 5, [&] {
         dialog.turns_to_sampling();
         its.person.presses("cmdSubgroupTrigger");
         its.person.closes_the_window();
