@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <utility>
+
 using namespace brx;
 using namespace brx::checks;
 
@@ -222,4 +225,81 @@ TEST_F(ConfigurationForm, ADateBeforeItsCalendarIsReportedAndNothingIsCommitted)
     EXPECT_EQ(host.reports[0].what.number, error::invalid_procedure_call);
     EXPECT_EQ(host.reports[0].what.location, "dlgConfiguration.Form_Load");
     EXPECT_EQ(host.calls.count("hlxOPCConfiguration.Name="), 0);
+}
+
+TEST_F(ConfigurationForm, AnEditStartedBesideTheRowsDoesNothing) {
+    while_open([&] {
+        EXPECT_TRUE(list("lvwTest").user_double_click());
+        EXPECT_TRUE(find<TabStrip>("TabStrip1").user_select(3));
+        EXPECT_TRUE(list("lvwDescriptors").user_double_click());
+    });
+    EXPECT_EQ(engine.events, (Names{"open dlgConfiguration", "close dlgConfiguration"}));
+    EXPECT_TRUE(host.reports.empty());
+}
+
+TEST_F(ConfigurationForm, EachFieldHasItsCaption) {
+    std::map<std::string, std::string> captions;
+    for (Control* control : form.controls()) {
+        if (const auto* label = dynamic_cast<Label*>(control)) captions[control->name()] = label->caption();
+        if (const auto* button = dynamic_cast<Button*>(control))
+            captions[control->name()] = button->caption();
+        if (const auto* check = dynamic_cast<CheckBox*>(control))
+            captions[control->name()] = check->caption();
+        if (const auto* frame = dynamic_cast<Frame*>(control)) captions[control->name()] = frame->caption();
+    }
+    EXPECT_EQ(captions, (std::map<std::string, std::string>{{"bnAdd", "&G. Add..."},
+                                                            {"bnAddDesc", "&B. Add..."},
+                                                            {"bnClose", "&Close"},
+                                                            {"bnEditDesc", "&C. Edit..."},
+                                                            {"bnRemove", "&I. Remove"},
+                                                            {"bnRemoveDesc", "&D. Remove"},
+                                                            {"chkActive", "&D. Active"},
+                                                            {"cmdEdit", "&H. Edit..."},
+                                                            {"cmdPieceTrigger", "..."},
+                                                            {"cmdSubgroupTrigger", "..."},
+                                                            {"frmDescriptors", "&A. Descriptors"},
+                                                            {"frmPiece", "Piece Sampling Period"},
+                                                            {"frmSubgroup", "Subgroup Sampling Period"},
+                                                            {"frmSync", "Synchronization Date/Time"},
+                                                            {"frmTests", "&F. Tests"},
+                                                            {"lblDeadband", "&C. Dead Band (%FS):"},
+                                                            {"lblName", "&A. Name:"},
+                                                            {"lblPieceEval", "&H. Trigger:"},
+                                                            {"lblPieceTimeInterval", "&F. Interval:"},
+                                                            {"lblPieceTimeUnit", "&G. Unit:"},
+                                                            {"lblSGEval", "&E. Trigger:"},
+                                                            {"lblSGInterval", "&C. Interval:"},
+                                                            {"lblSGTimeUnit", "&D. Unit:"},
+                                                            {"lblServer", "OPC Server:"},
+                                                            {"lblSubgroupSize", "&E. Subgroup Size:"},
+                                                            {"lblSyncDate", "&A. Date:"},
+                                                            {"lblSyncTime", "&B. Time:"},
+                                                            {"lblUpdateRate", "&B. Update Rate:"}}));
+}
+
+TEST_F(ConfigurationForm, FormatsThatCannotBeReadBackLoseNoDate) {
+    const Date sync{46347.5625};
+    host.configuration->fields.sync_date_time = sync;
+    for (const auto& [short_date, long_time] :
+         {std::pair("yyyy. MM. dd.", "H:mm:ss"), std::pair("yyyy-MM-dd", "tt h:mm:ss"),
+          std::pair("d.M.yyyy '\u0433.'", "H:mm:ss '\u0447.'")}) {
+        environment.locale.short_date = short_date;
+        environment.locale.long_time = long_time;
+        form.set_configuration(host.configuration);
+        while_open([&] { EXPECT_TRUE(find<Button>("bnClose").user_click()); });
+        EXPECT_EQ(host.calls.count("hlxOPCConfiguration.SyncDateTime="), 1) << short_date << long_time;
+        EXPECT_NEAR(host.configuration->fields.sync_date_time.days, sync.days, 1e-9);
+        EXPECT_TRUE(host.reports.empty());
+        host.calls = CallLog();
+    }
+}
+
+TEST_F(ConfigurationForm, WhereTheCommaSeparatesDecimalsTheDeadBandIsReadUpToIt) {
+    environment.locale = Locale::german();
+    host.configuration->fields.dead_band = 2.5F;
+    while_open([&] {
+        EXPECT_EQ(box("txtDeadband").text(), "2,5");
+        EXPECT_TRUE(find<Button>("bnClose").user_click());
+    });
+    EXPECT_EQ(host.configuration->fields.dead_band, 2.0F);
 }

@@ -44,7 +44,7 @@ SCENARIO(DescriptorsTab, ANewDescriptorGetsItsKindAndItsNames) {
     its.person.is_at("dlgConfiguration");
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{"Lot |  | L-7"}));
     EXPECT_EQ(its.host.configuration->descriptors->fields(), (Fields{{3, "L-7", ""}}));
-    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 0);
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, -1);
     dialog.leaves();
 }
 
@@ -203,6 +203,7 @@ SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
     its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAddDesc_Click");
     EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 4U);
     EXPECT_EQ(its.person.line_of("lvwDescriptors", 3), "Job |  | ");
+    EXPECT_EQ(its.host.calls.count("hlxOPCDescriptors.Remove"), 1);
     its.person.picks("lvwDescriptors", three_rows[0]);
     its.person.presses("bnRemoveDesc");
     its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
@@ -262,5 +263,34 @@ SCENARIO(DescriptorTypeDialog, ADoubleClickChooses) {
     EXPECT_EQ(its.person.title(), "Descriptor Properties - User Defined (Piece)");
     EXPECT_EQ(its.host.configuration->descriptors->fields()[0].type, 6);
     its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorTypeDialog, WithoutItsKindsNothingCanBeChosen) {
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
+    its.person.presses("bnAddDesc");
+    its.expect_report(CallLog::failure_number, "dlgDescriptorType.Form_Load");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorType");
+    its.person.presses("bnCancel");
+    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 0U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
+    three_descriptors(its);
+    const Fields before = its.host.configuration->descriptors->fields();
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.double_clicks("lvwDescriptors", three_rows[0]);
+    its.person.enters("txtItem", "Axle");
+    its.person.enters("txtGroup", "Forgings");
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName=");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnEditDesc_Click");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
     dialog.leaves();
 }

@@ -56,7 +56,7 @@ SCENARIO(TestsTab, AConfirmedNewTestIsListed) {
     its.person.is_at("dlgConfiguration");
     EXPECT_EQ(its.person.lines_of("lvwTest"),
               (Lines{"Length | Line1.Speed | Matrix | PC7", "Width | Line1.Force | Matrix | PC7"}));
-    EXPECT_EQ(its.person.sees("lvwTest").selected, 1);
+    EXPECT_EQ(its.person.sees("lvwTest").selected, -1);
     dialog.leaves();
     EXPECT_EQ(its.host.configuration->tests->entries.size(), 2U);
 }
@@ -153,4 +153,21 @@ SCENARIO(TestsTab, ACancelledTestThatTheHostKeepsIsListed) {
     EXPECT_EQ(its.person.lines_of("lvwTest"),
               (Lines{"Length | Line1.Speed | Matrix | PC7", " |  | Matrix | PC7"}));
     dialog.leaves();
+}
+
+SCENARIO(TestsTab, ATestThatCannotBeListedIsStillATest) {
+    Configuring dialog(its);
+    its.host.picker->picks = std::make_shared<FakeTestData>(its.host.calls, 8, 1, "Width");
+    its.host.browser->root.has("Line1", {"Speed", "Force"});
+    its.host.group->items->answers["Line1.Force"] = 0;
+    its.person.presses("bnAdd");
+    its.person.presses("bnTest");
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Force");
+    its.person.presses("bnOK");
+    its.host.calls.fail_on("hlxOPCTest.CharacteristicName");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnAdd_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), Lines());
+    dialog.closes(); // nobody asks whether it is to be removed
 }

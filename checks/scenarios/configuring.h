@@ -60,6 +60,12 @@ inline void an_unconnected_server(Play& its, const std::string& server_name) {
     its.host.configuration->server->entry = entry;
 }
 
+/// Puts a text into a box of numbers, as only pasting can.
+inline void pastes_into(Person& person, const std::string& box, const std::string& text) {
+    person.replaces(box, "");
+    person.pastes(text);
+}
+
 /// A configuration with a test, so that it can be closed, and something in every field.
 inline void a_filled_configuration(Play& its) {
     its.host.group->items->has("Line1.Speed");

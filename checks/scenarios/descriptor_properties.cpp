@@ -124,6 +124,8 @@ SCENARIO(DescriptorProperties, ABrowsedItemIsWrittenAsAReference) {
     EXPECT_EQ(its.person.reads("txtGroup"), "(%Line1.Force)");
     EXPECT_EQ(its.host.group->items->ids(), (Lines{"Line1.Speed", "Line1.Force"}));
     EXPECT_EQ(its.host.group->items->client_handles, (std::vector<LongArray>{{{0}}, {{0}}}));
+    EXPECT_EQ(its.host.group->items->requested_types,
+              (std::vector<std::optional<ShortArray>>{ShortArray{{0}}, ShortArray{{0}}}));
     dialog.confirms();
     EXPECT_EQ(dialog.fields(), (DescriptorFields{0, "(%Line1.Speed)", "(%Line1.Force)"}));
 }
@@ -279,4 +281,18 @@ SCENARIO(DescriptorProperties, AcceleratorsLeadToTheBoxes) {
     its.person.uses_accelerator('a');
     EXPECT_TRUE(its.person.has_focus("txtGroup"));
     dialog.cancels();
+}
+
+SCENARIO(DescriptorProperties, AGroupThatCannotBeLookedUpChangesNothing) {
+    FakePicker& picker = *its.host.pickers.at(class_name::hlxPartSelection);
+    picker.picks = std::make_shared<FakeRecord>(its.host.calls, its.host.records,
+                                                RecordFields{.id = 12, .name = "Axle", .group_id = 9});
+    Describing dialog(its, {.type = 0, .item = "Wheel", .group = "Castings"});
+    its.host.calls.fail_on("hlxRecord.ID="); // groups are looked up by their ids
+    its.person.presses("bnSelect");
+    its.expect_report(CallLog::failure_number, "dlgDescriptorProperties.GetPtgpName");
+    EXPECT_EQ(its.person.reads("txtItem"), "Wheel");
+    EXPECT_EQ(its.person.reads("txtGroup"), "Castings");
+    dialog.cancels();
+    picker.picks = nullptr;
 }

@@ -119,8 +119,7 @@ SCENARIO(TestDialog, AValueOfAnotherTypeIsToldAndTheFormerOneKept) {
                         .style = message::information,
                         .title = "Invalid Value"});
     EXPECT_TRUE(testing.result());
-    // The dialog has none of its own yet.
-    EXPECT_EQ(testing.fields().value, Variant());
+    EXPECT_EQ(testing.fields().value, Variant(std::int16_t{12}));
 }
 
 SCENARIO(TestDialog, AValueThatIsTooLargeIsToldWithItsNumber) {
@@ -235,4 +234,67 @@ SCENARIO(TestConfiguration, ATestThatBelongsToNobodyIsReportedAndNotShown) {
     edit.show(test);
     EXPECT_FALSE(edit.result());
     its.expect_report(error::object_not_set, "TestConfiguration.Show");
+}
+
+SCENARIO(TestDialog, WhenTheHostFailsHalfWayTheTestIsAsBefore) {
+    for (const char* member :
+         {"hlxOPCTest.ItemTrigger=", "hlxOPCTest.TriggerValue=", "hlxOPCTest.ClientHandle=",
+          "hlxOPCTest.TriggerExpression=", "hlxOPCTest.OPCItemID=", "hlxOPCTest.State=", "hlxTestData.ID=",
+          "hlxTestData.Save", "hlxOPCTest.Constant=", "hlxOPCTest.SaveAs="}) {
+        its.host.configuration->tests->entries.clear();
+        its.host.group->items->forget_all();
+        its.host.browser->root.branches.clear();
+        Testing testing(its, a_bound_test(its, 2));
+        testing.picks_characteristic(8, "Width");
+        its.person.picks("cboExpression", " <> ");
+        its.person.enters("txtValue", "77");
+        its.person.enters("txtConstant", "9");
+        its.person.picks("cboSaveAs", "Absolute Value");
+        const TestFields before = testing.fields();
+        its.host.calls.fail_on(member);
+        its.person.presses("bnOK");
+        its.expect_report(CallLog::failure_number, "dlgOPCTest.TestChoices");
+        its.person.is_at("dlgOPCTest");
+        EXPECT_EQ(testing.fields(), before) << member;
+        EXPECT_EQ(its.host.configuration->tests->entries.at(0)->data->id, 7) << member;
+        its.host.calls.fail_on("");
+        its.person.presses("bnOK"); // nothing that was entered is lost
+        EXPECT_TRUE(testing.result());
+        EXPECT_EQ(testing.fields().value, Variant(std::int16_t{77})) << member;
+        EXPECT_EQ(testing.fields().save_as, 1) << member;
+    }
+}
+
+SCENARIO(TestDialog, ACharacteristicRecordThatIsGoneIsReportedAndNothingWritten) {
+    const auto test = a_bound_test(its, 2);
+    Testing testing(its, test);
+    testing.picks_characteristic(8, "Width");
+    const TestFields before = testing.fields();
+    const auto record = test->data;
+    test->data = nullptr;
+    its.person.presses("bnOK");
+    its.expect_report(error::type_mismatch, "dlgOPCTest.ResolveTestDat");
+    its.expect_report(error::object_not_set, "dlgOPCTest.TestChoices");
+    EXPECT_EQ(testing.fields(), before);
+    its.person.presses("bnCancel");
+    test->data = record;
+}
+
+SCENARIO(TestDialog, ATestThatCouldNotBeReadIsNotWritten) {
+    for (const char* member : {"hlxOPCTest.ItemTrigger", "hlxOPCTest.Constant", "hlxOPCTest.SaveAs",
+                               "hlxOPCTest.TriggerExpression", "hlxOPCTest.TriggerValue"}) {
+        its.host.configuration->tests->entries.clear();
+        its.host.group->items->forget_all();
+        its.host.browser->root.branches.clear();
+        const auto test = a_bound_test(its, 2);
+        its.host.calls.fail_on(member);
+        Testing testing(its, test);
+        its.expect_report(CallLog::failure_number, "dlgOPCTest.EditSet");
+        its.host.calls.fail_on("");
+        testing.picks_item("Line1.Force");
+        EXPECT_FALSE(its.person.can_press("bnOK")) << member;
+        its.person.presses("bnCancel");
+        EXPECT_FALSE(testing.result());
+        EXPECT_EQ(test->fields.constant, 1.5);
+    }
 }

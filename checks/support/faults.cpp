@@ -2,6 +2,8 @@
 
 #include <gtest/gtest-spi.h>
 
+#include <set>
+#include <string>
 #include <vector>
 
 namespace brx::checks {
@@ -19,6 +21,17 @@ void play_loosely(const Story& story, Play& its) {
     }
 }
 
+/// Most of the configuration dialog reports to the other library.
+ErrorLibrary library_of(const std::string& location) {
+    static const std::set<std::string> exceptions = {
+        "dlgConfiguration.lvwDescriptors_DblClick", "dlgConfiguration.bnAddDesc_Click",
+        "dlgConfiguration.bnEditDesc_Click", "dlgConfiguration.bnRemoveDesc_Click",
+        "dlgConfiguration.Timer1_Timer"};
+    return location.starts_with("dlgConfiguration.") && !exceptions.contains(location)
+               ? ErrorLibrary::hlxER01
+               : ErrorLibrary::brxError6;
+}
+
 /// The reports that tell of the failing call, which there must be exactly one of, or none where errors are
 /// ignored.
 void expect_the_right_report(const Play& its, const HostCall& call, const std::string& text) {
@@ -33,6 +46,7 @@ void expect_the_right_report(const Play& its, const HostCall& call, const std::s
     EXPECT_EQ(tellers[0].what.number, CallLog::failure_number);
     EXPECT_EQ(tellers[0].what.source, CallLog::failure_source);
     EXPECT_EQ(tellers[0].what.location, call.location);
+    EXPECT_EQ(tellers[0].library, library_of(call.location));
 }
 
 /// A call's member without what it was given.

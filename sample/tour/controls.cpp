@@ -97,6 +97,21 @@ void click_line(HWND list, int line, bool twice) {
     PostMessageW(list, WM_LBUTTONUP, 0, at);
 }
 
+void click_tab(const Program& program, HWND tab_strip, int tab) {
+    const Lent<RECT> there(program, {});
+    ask(tab_strip, TCM_GETITEMRECT, static_cast<WPARAM>(tab - 1), there.address());
+    const RECT place = there.read();
+    click(tab_strip, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+}
+
+void type_fields(HWND picker, const Lines& fields) {
+    click(picker, {6, 8});
+    for (const std::wstring& field : fields) {
+        type(picker, field);
+        hit(picker, VK_RIGHT);
+    }
+}
+
 void close(HWND window) { PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0); }
 
 } // namespace tour

@@ -30,6 +30,10 @@ void type(HWND box, const std::wstring& text);
 void hit(HWND control, WPARAM key);
 /// Clicks on a line of a list box, or double-clicks.
 void click_line(HWND list, int line, bool twice = false);
+/// Clicks on a tab, counted from 1.
+void click_tab(const Program& program, HWND tab_strip, int tab);
+/// Types into the fields of a date or time picker, from the first one on.
+void type_fields(HWND picker, const Lines& fields);
 void close(HWND window);
 
 } // namespace tour

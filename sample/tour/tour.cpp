@@ -37,9 +37,12 @@ void work_through(const std::wstring& command_line, Guide& guide) {
         visit.browsing_other_servers();
         visit.configurations();
         visit.editing_a_test();
+        visit.configuring();
+        visit.configuring_in_vain();
     });
     visit_host(command_line, guide, [](Visit& visit) {
         visit.finding_the_test_again();
+        visit.finding_the_configuration_again();
         visit.watching();
     });
 }

@@ -35,10 +35,15 @@ void Visit::click_on(const std::wstring& list, const std::wstring& line, bool tw
 void Visit::fill_in(const std::wstring& box, const std::wstring& text) const {
     const HWND window = program_.control(box);
     click(window, {8, 8});
-    hit(window, VK_END);
-    for (std::size_t i = text_of(window).size(); i > 0; --i) type(window, L"\b");
+    hit(window, VK_HOME);
+    for (std::size_t i = text_of(window).size(); i > 0; --i) hit(window, VK_DELETE);
     type(window, text);
     program_.wait_until(L"the text " + text, [&] { return reads(box) == text; });
+}
+
+void Visit::turn_to(int tab, const std::wstring& control) const {
+    click_tab(program_, program_.control(L"TabStrip1"), tab);
+    program_.wait_until(L"the tab", [&] { return is_visible(control); });
 }
 
 void Visit::answer(const std::wstring& dialog) const {

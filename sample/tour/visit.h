@@ -17,8 +17,11 @@ public:
     void browsing_other_servers();
     void configurations();
     void editing_a_test();
+    void configuring();
+    void configuring_in_vain();
     /// In a host that was started again.
     void finding_the_test_again();
+    void finding_the_configuration_again();
     void watching();
     /// Closes the host.
     void leaving();
@@ -38,10 +41,18 @@ private:
     /// The test that she has edited, as the host's window shows it.
     bool edited_test_is_listed() const;
 
+    /// What she reads on the tabs of the configuration that she has made.
+    bool general_is_filled_in() const;
+    bool sampling_is_filled_in() const;
+    bool descriptors_are_filled_in() const;
+    bool configuration_is_listed() const;
+
     // What she does there.
     void press(const std::wstring& button) const;
     void click_on(const std::wstring& list, const std::wstring& line, bool twice = false) const;
     void fill_in(const std::wstring& box, const std::wstring& text) const;
+    /// Turns to a tab of the configuration dialog, which has this control.
+    void turn_to(int tab, const std::wstring& control) const;
     /// Presses the message box away; then the named dialog is in front again.
     void answer(const std::wstring& dialog) const;
 
@@ -55,6 +66,13 @@ private:
     void choose_characteristic();
     void choose_item();
     void set_trigger();
+    void select_flow_computer() const;
+    void add_test();
+    void set_sampling();
+    void set_subgroup_trigger();
+    void add_descriptors();
+    void add_descriptor(const std::wstring& type) const;
+    void watch_status();
     /// From the host's window, a server of this computer.
     void add_server(const std::wstring& server) const;
 

@@ -39,21 +39,4 @@ HRESULT create_untyped(const wchar_t* class_name, REFIID iid, void** object) {
     return FAILED(found) ? found : CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, iid, object);
 }
 
-bool call_show(IDispatch& object, IDispatch* argument) {
-    std::wstring name = L"Show";
-    LPOLESTR names = name.data();
-    DISPID member = DISPID_UNKNOWN;
-    check(object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &member));
-    VARIANT given{};
-    V_VT(&given) = VT_DISPATCH;
-    V_DISPATCH(&given) = argument;
-    DISPPARAMS parameters{&given, nullptr, 1, 0};
-    VARIANT result{};
-    check(object.Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, &result, nullptr,
-                        nullptr));
-    const bool confirmed = V_VT(&result) == VT_BOOL && V_BOOL(&result) != VARIANT_FALSE;
-    VariantClear(&result);
-    return confirmed;
-}
-
 } // namespace sample

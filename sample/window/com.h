@@ -77,9 +77,6 @@ void check_made(HRESULT result);
 /// What the platform says of making an object of a class by its name.
 HRESULT create_untyped(const wchar_t* class_name, REFIID iid, void** object);
 
-/// Calls the member Show of an object by its name, with one object. What it gives, as a truth.
-bool call_show(IDispatch& object, IDispatch* argument);
-
 /// A new object of a class by its name. Throws a Failure.
 template <class Interface> Ref<Interface> create(const wchar_t* class_name) {
     Ref<Interface> object;

@@ -53,9 +53,8 @@ private:
     void new_configuration();
     void configure();
     void edit_test();
-    /// False when the dialog could not be shown.
-    bool show_configuration(long position, long number);
-    void settle(long position, long number);
+    void show_configuration(long position, long number);
+    bool settle(long position, long number);
     void connect();
     void remove();
     void use_wrapper(bool wrapper);

@@ -6,54 +6,44 @@
 
 namespace sample {
 
-namespace {
-
-/// Called by its name, so that this program also runs beside a component that has no such class yet.
-constexpr const wchar_t* configuration_dialog = L"brxOpcDlgs6.ConfigurationSetup";
-
-} // namespace
-
-bool MainWindow::show_configuration(long position, long number) {
-    Ref<IDispatch> dialog;
-    try {
-        dialog = create<IDispatch>(configuration_dialog);
-    } catch (const Failure& failure) {
-        if (!failure.no_object) throw;
-        ask(std::wstring(L"This brxOpcDlgs6.dll has no dialog for configurations yet: the class ") +
-                configuration_dialog + L" cannot be made.\n\n" + failure.description,
-            MB_OK | MB_ICONINFORMATION);
-        model_->log(L"Configure: there is no dialog for configurations.");
-        return false;
-    }
-    call_show(*dialog.get(), model_->configuration(position, number).get());
-    return true;
+/// What a person changes in it is kept as it is changed, the rest when it closes.
+void MainWindow::show_configuration(long position, long number) {
+    const auto dialog = create<_ConfigurationSetup>(L"brxOpcDlgs6.ConfigurationSetup");
+    check(dialog->Show(model_->configuration(position, number).get()));
 }
 
-/// The dialog has announced it: a configuration without tests is removed.
-void MainWindow::settle(long position, long number) {
+/// The dialog has announced it: a configuration without tests is removed. False when it is.
+bool MainWindow::settle(long position, long number) {
     const std::wstring name = model_->configuration_name(position, number);
     const bool still_there = model_->settle_configuration(position, number);
     model_->log(L"Configure: " + name + (still_there ? L" closed." : L" has no tests and is removed."));
+    return still_there;
 }
 
 void MainWindow::new_configuration() {
     const long position = servers_.selected();
     if (!dialogs_found_ || position == 0) return;
+    const long former = configurations_.selected();
     const long number = model_->add_configuration(position);
-    if (!show_configuration(position, number)) {
+    try {
+        refresh();
+        configurations_.select(number);
+        show_configuration(position, number);
+    } catch (const Failure&) {
         model_->remove_configuration(position, number);
-        return;
+        throw;
     }
-    settle(position, number);
+    if (settle(position, number)) return;
     refresh();
-    configurations_.select(number);
+    configurations_.select(former);
 }
 
 void MainWindow::configure() {
     const long position = servers_.selected();
     const long number = configurations_.selected();
     if (!dialogs_found_ || position == 0 || number == 0) return;
-    if (show_configuration(position, number)) settle(position, number);
+    show_configuration(position, number);
+    settle(position, number);
 }
 
 void MainWindow::edit_test() {

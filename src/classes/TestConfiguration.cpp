@@ -4,12 +4,6 @@
 
 namespace brx {
 
-namespace {
-
-constexpr std::int32_t item_not_shown = 2; ///< the state of a test whose item is not shown at first
-
-}
-
 bool TestConfiguration::Show(const ObjectPtr& hlxOPCTest) {
     bool confirmed = false;
     trap("Show", [&] {
@@ -18,7 +12,8 @@ bool TestConfiguration::Show(const ObjectPtr& hlxOPCTest) {
         if (!test) return;
         form.set_test(test);
         form.set_database(tools_.database_of(the(test->Parent()).Parent()));
-        form.set_TestOPCItemID(test->State() == item_not_shown ? std::string() : test->ItemText());
+        form.set_TestOPCItemID(test->State() == test_state::item_not_shown ? std::string()
+                                                                           : test->ItemText());
         form.show_modal();
         confirmed = form.OKPressed();
     });

@@ -24,8 +24,8 @@ public:
         undo_.push_back([&object, set, former = (object.*get)()] { (object.*set)(former); });
         (object.*set)(value);
     }
-    /// Runs when what is written from now on has been written back.
-    void finally(std::function<void()> step) { undo_.push_back(std::move(step)); }
+    /// Runs after everything that is written from now on has been written back.
+    void after_undo(std::function<void()> step) { undo_.push_back(std::move(step)); }
     void keep() { undo_.clear(); }
 
 private:

@@ -55,9 +55,10 @@ void dlgDescriptorProperties::pick(const char* selection, std::int32_t id, std::
     if (!dialog->Show(database_, id, group_id)) return;
     const auto record = resolve<hlxRecord>(dialog->Record());
     const std::string name = record->Name();
-    const std::int32_t picked_group = record->GroupID();
+    const std::optional<std::string> group = (this->*name_of_group)(record->GroupID());
+    if (!group) return;
     txtItem.set_text(name);
-    txtGroup.set_text((this->*name_of_group)(picked_group));
+    txtGroup.set_text(*group);
 }
 
 namespace {
@@ -87,12 +88,13 @@ std::int32_t dlgDescriptorProperties::find_id(const char* procedure, const char*
     return id;
 }
 
-std::string dlgDescriptorProperties::find_name(const char* procedure, const char* record, std::int32_t id) {
-    std::string name;
+std::optional<std::string> dlgDescriptorProperties::find_name(const char* procedure, const char* record,
+                                                              std::int32_t id) {
+    std::optional<std::string> name;
     trap(procedure, [&] {
         const auto found =
             find(environment().objects, record, database_, [&](hlxRecord& key) { key.set_ID(id); });
-        if (found) name = found->Name();
+        name = found ? found->Name() : std::string();
     });
     return name;
 }
@@ -105,7 +107,7 @@ std::int32_t dlgDescriptorProperties::GetPtgpId(const std::string& name) {
     return find_id("GetPtgpId", class_name::hlxPartGroup, name);
 }
 
-std::string dlgDescriptorProperties::GetPtgpName(std::int32_t id) {
+std::optional<std::string> dlgDescriptorProperties::GetPtgpName(std::int32_t id) {
     return find_name("GetPtgpName", class_name::hlxPartGroup, id);
 }
 
@@ -117,7 +119,7 @@ std::int32_t dlgDescriptorProperties::GetPrgpId(const std::string& name) {
     return find_id("GetPrgpId", class_name::hlxProcessGroup, name);
 }
 
-std::string dlgDescriptorProperties::GetPrgpName(std::int32_t id) {
+std::optional<std::string> dlgDescriptorProperties::GetPrgpName(std::int32_t id) {
     return find_name("GetPrgpName", class_name::hlxProcessGroup, id);
 }
 
@@ -129,7 +131,7 @@ std::int32_t dlgDescriptorProperties::GetJbgpId(const std::string& name) {
     return find_id("GetJbgpId", class_name::hlxJobGroup, name);
 }
 
-std::string dlgDescriptorProperties::GetJbgpName(std::int32_t id) {
+std::optional<std::string> dlgDescriptorProperties::GetJbgpName(std::int32_t id) {
     return find_name("GetJbgpName", class_name::hlxJobGroup, id);
 }
 
@@ -141,7 +143,7 @@ std::int32_t dlgDescriptorProperties::GetShgpId(const std::string& name) {
     return find_id("GetShgpId", class_name::hlxShiftGroup, name);
 }
 
-std::string dlgDescriptorProperties::GetShgpName(std::int32_t id) {
+std::optional<std::string> dlgDescriptorProperties::GetShgpName(std::int32_t id) {
     return find_name("GetShgpName", class_name::hlxShiftGroup, id);
 }
 
@@ -153,7 +155,7 @@ std::int32_t dlgDescriptorProperties::GetDsgpId(const std::string& name) {
     return find_id("GetDsgpId", class_name::hlxDescriptorGroup, name);
 }
 
-std::string dlgDescriptorProperties::GetDsgpName(std::int32_t id) {
+std::optional<std::string> dlgDescriptorProperties::GetDsgpName(std::int32_t id) {
     return find_name("GetDsgpName", class_name::hlxDescriptorGroup, id);
 }
 

@@ -2,8 +2,35 @@
 #include "configuration/dlgConfiguration.h"
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 namespace brx {
+
+namespace {
+
+struct DescriptorRow {
+    std::int32_t type = 0;
+    std::string group;
+    std::string item;
+};
+
+DescriptorRow read_row(hlxOPCDescriptor& descriptor) {
+    DescriptorRow row;
+    row.type = descriptor.Type();
+    row.group = descriptor.GroupName();
+    row.item = descriptor.ItemName();
+    return row;
+}
+
+void show(const DescriptorRow& descriptor, ListRow& row) {
+    row.set_text(DescriptorTypeName(descriptor.type));
+    row.set_text(1, descriptor.group);
+    row.set_text(2, descriptor.item);
+    row.set_tag(descriptor.type);
+}
+
+} // namespace
 
 void dlgConfiguration::ConfigureDescriptors() {
     lvwDescriptors.add_column("Type", twips(1500));
@@ -12,20 +39,18 @@ void dlgConfiguration::ConfigureDescriptors() {
     list_descriptors();
 }
 
-/// Rows and descriptors have the same positions.
+/// Rows and descriptors have the same positions. All descriptors are read before the list changes: when one
+/// cannot be read, the list stays as it is.
 void dlgConfiguration::list_descriptors() {
-    lvwDescriptors.clear();
+    std::vector<DescriptorRow> rows;
     const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
-    while (const hlxOPCDescriptorPtr descriptor = descriptors->Next())
-        UpdateDescriptorItem(lvwDescriptors.add("", ""), *descriptor);
+    while (const hlxOPCDescriptorPtr descriptor = descriptors->Next()) rows.push_back(read_row(*descriptor));
+    lvwDescriptors.clear();
+    for (const DescriptorRow& row : rows) show(row, lvwDescriptors.add("", ""));
 }
 
 void dlgConfiguration::UpdateDescriptorItem(ListRow& row, hlxOPCDescriptor& descriptor) {
-    const std::int32_t type = descriptor.Type();
-    row.set_text(DescriptorTypeName(type));
-    row.set_text(1, descriptor.GroupName());
-    row.set_text(2, descriptor.ItemName());
-    row.set_tag(type);
+    show(read_row(descriptor), row);
 }
 
 void dlgConfiguration::lvwDescriptors_DblClick() {
@@ -42,20 +67,20 @@ void dlgConfiguration::bnAddDesc_Click() {
         type_dialog_->show_modal();
         if (!type_dialog_->OKPressed()) return;
         const hlxOPCDescriptorPtr descriptor = the(descriptors).Add(type_dialog_->DescriptorType());
+        bool confirmed = false;
         try {
-            if (!EditDescriptorType(the(descriptor))) return take_back(*descriptors, *descriptor);
+            confirmed = EditDescriptorType(the(descriptor));
         } catch (...) {
             // A descriptor that nobody could finish is none.
             attempt([&] { take_back(*descriptors, the(descriptor)); });
             throw;
         }
-        ListRow& row = lvwDescriptors.add("", "");
-        lvwDescriptors.select(lvwDescriptors.count());
-        UpdateDescriptorItem(row, *descriptor);
+        if (!confirmed) return take_back(*descriptors, *descriptor);
+        UpdateDescriptorItem(lvwDescriptors.add("", ""), *descriptor);
     });
 }
 
-/// One that the host does not let go is listed, as all that the configuration has.
+/// When the host does not let it go, the list shows it: rows and descriptors must go on matching.
 void dlgConfiguration::take_back(hlxOPCDescriptors& descriptors, hlxOPCDescriptor& descriptor) {
     try {
         descriptors.Remove(descriptor.Index());

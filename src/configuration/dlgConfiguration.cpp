@@ -1,8 +1,8 @@
 #include "configuration/dlgConfiguration.h"
 
 #include "common/values/convert.h"
-#include "common/values/text.h"
 #include "forms/focus.h"
+#include "tests/operators.h"
 
 #include <tuple>
 #include <utility>
@@ -18,22 +18,24 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
       tools_(environment.errors) {}
 
 void dlgConfiguration::Form_Load() {
-    complete_ = false;
+    fields_loaded_ = tests_listed_ = false;
     piece_trigger_ = subgroup_trigger_ = {};
     trap("Form_Load", [&] {
         load_general();
         load_sampling();
+        fields_loaded_ = true;
         lvwTest.add_column("Characteristic", twips(1500));
         lvwTest.add_column("OPC Item", twips(2300));
         lvwTest.add_column("OPC Server", twips(1500));
         lvwTest.add_column("Node", twips(1500));
         lvwServerInfo.add_column("Property", twips(2300));
-        lvwServerInfo.add_column("Value", twips(4400));
+        lvwServerInfo.add_column("Value", twips(4850));
         ConfigureDescriptors();
         frmTab0.set_visible(true); // in front, since no other one shows
         AddToList();
-        complete_ = true;
     });
+    // Nobody should type what will not be committed.
+    for (Panel* panel : {&frmTab0, &frmTab1}) panel->set_enabled(fields_loaded_);
 }
 
 void dlgConfiguration::Form_Unload() { configuration_ = nullptr; }
@@ -54,8 +56,8 @@ void dlgConfiguration::TabStrip1_Click() {
 void dlgConfiguration::bnClose_Click() {
     trap("bnClose_Click", [&] {
         // What could not be read has been reported, and what stands in its place is not the host's.
-        if (!complete_) return unload();
-        if (lvwTest.count() == 0) {
+        if (!fields_loaded_) return unload();
+        if (tests_listed_ && lvwTest.count() == 0) {
             const Message question = {
                 .text = "Without a Test Characteristic this Configuration will be removed.  "
                         "Are you sure you want to continue?",
@@ -129,7 +131,6 @@ bool dlgConfiguration::CheckNumerics() {
 }
 
 void dlgConfiguration::FillProperties() {
-    const Locale& locale = environment().locale;
     const auto whole_number = [](const TextBox& box) { return to_int32(val(box.text())); };
     const auto unit = [](const ComboBox& list) { return static_cast<std::int16_t>(list.selected()); };
 
@@ -140,8 +141,7 @@ void dlgConfiguration::FillProperties() {
     configuration.set_UpdateRate(whole_number(txtUpdateRate));
     configuration.set_DeadBand(to_single(val(txtDeadband.text())));
     configuration.set_Active(chkActive.value() != 0);
-    configuration.set_SyncDateTime(to_date(
-        short_date(dtSyncDate.value(), locale) + " " + long_time(dtSyncTime.value(), locale), locale));
+    configuration.set_SyncDateTime(synchronisation());
     configuration.set_PieceInterval(whole_number(txtPieceTimeInterval));
     configuration.set_PieceTimeUnit(unit(cboPieceTimeUnit));
     configuration.set_PieceTriggerItem(activated(group, piece_trigger_.item));
@@ -156,7 +156,7 @@ void dlgConfiguration::FillProperties() {
 
 /// The identifier to store: that of an item of the group, active from now on, or "" for none.
 std::string dlgConfiguration::activated(const OPCGroupPtr& group, const std::string& trigger_item) {
-    if (trigger_item.empty() || to_upper(trigger_item) == "<NONE>") return {};
+    if (trigger_item.empty() || is_no_item(trigger_item)) return {};
     the(the(the(group).OPCItems()).Item(trigger_item)).set_IsActive(true);
     return trigger_item;
 }

@@ -29,7 +29,8 @@ public:
     /// The configuration to edit.
     void set_configuration(const hlxOPCConfigurationPtr& configuration) { configuration_ = configuration; }
 
-    /// Two numbers for whoever shows the form, as automation long integers; 0 as long as nobody sets them.
+    /// Two numbers of the form, as automation long integers. Whoever shows it gives them their meaning; today
+    /// they are 0.
     Variant first_value() const { return first_value_; }
     Variant second_value() const { return second_value_; }
 
@@ -141,10 +142,6 @@ private:
     static void color_by(const TextBox& number, TextBox& box);
     void txtDeadband_Change();
     void txtDeadband_KeyPress(std::int32_t& key_ascii);
-    void txtPieceTimeInterval_Change();
-    void txtPieceTimeInterval_KeyPress(std::int32_t& key_ascii);
-    void txtSGInterval_Change();
-    void txtSGInterval_KeyPress(std::int32_t& key_ascii);
     void txtSubgroupSize_Change();
     void txtSubgroupSize_KeyPress(std::int32_t& key_ascii);
     void txtUpdateRate_Change();
@@ -157,6 +154,11 @@ private:
         Variant value;
     };
     void load_sampling();
+    Date synchronisation() const;
+    void txtPieceTimeInterval_Change();
+    void txtPieceTimeInterval_KeyPress(std::int32_t& key_ascii);
+    void txtSGInterval_Change();
+    void txtSGInterval_KeyPress(std::int32_t& key_ascii);
     std::string shown_trigger(const Trigger& trigger) const;
     static std::string activated(const OPCGroupPtr& group, const std::string& trigger_item);
     std::string ConvertExpression(std::int16_t type) const;
@@ -190,7 +192,8 @@ private:
 
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
-    bool complete_ = false; ///< everything of the configuration is on the screen
+    bool fields_loaded_ = false; ///< what is committed is the configuration's own
+    bool tests_listed_ = false;  ///< the list shows the configuration's tests
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
     std::optional<dlgDescriptorType> type_dialog_;

@@ -71,28 +71,29 @@ private:
     void SelectDescriptor();
     std::int32_t GetPartID(const std::string& name);
     std::int32_t GetPtgpId(const std::string& name);
-    std::string GetPtgpName(std::int32_t id);
+    std::optional<std::string> GetPtgpName(std::int32_t id);
     std::int32_t GetPrcsID(const std::string& name);
     std::int32_t GetPrgpId(const std::string& name);
-    std::string GetPrgpName(std::int32_t id);
+    std::optional<std::string> GetPrgpName(std::int32_t id);
     std::int32_t GetJobID(const std::string& name);
     std::int32_t GetJbgpId(const std::string& name);
-    std::string GetJbgpName(std::int32_t id);
+    std::optional<std::string> GetJbgpName(std::int32_t id);
     std::int32_t GetShftID(const std::string& name);
     std::int32_t GetShgpId(const std::string& name);
-    std::string GetShgpName(std::int32_t id);
+    std::optional<std::string> GetShgpName(std::int32_t id);
     std::int32_t GetDescID(const std::string& name, std::int32_t group_id);
     std::int32_t GetDsgpId(const std::string& name);
-    std::string GetDsgpName(std::int32_t id);
+    std::optional<std::string> GetDsgpName(std::int32_t id);
 
     void browse_into(TextBox& box);
     void allow_confirming();
-    using GroupName = std::string (dlgDescriptorProperties::*)(std::int32_t id);
+    using GroupName = std::optional<std::string> (dlgDescriptorProperties::*)(std::int32_t id);
     void pick(const char* selection, std::int32_t id, std::int32_t group_id, GroupName name_of_group);
-    /// 0 and "" when the database has no such record.
+    /// 0, and "" below, when the database has no such record.
     std::int32_t find_id(const char* procedure, const char* record, const std::string& name,
                          std::optional<std::int32_t> group_id = std::nullopt);
-    std::string find_name(const char* procedure, const char* record, std::int32_t id);
+    /// None when it could not be looked up, which has been reported.
+    std::optional<std::string> find_name(const char* procedure, const char* record, std::int32_t id);
 
     CommonTools tools_;
     hlxDatabasePtr database_;

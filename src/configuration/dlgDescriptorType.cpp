@@ -32,6 +32,7 @@ void dlgDescriptorType::Form_Load() {
 
 void dlgDescriptorType::bnOK_Click() {
     trap("bnOK_Click", [&] {
+        if (List1.selected() < 0) return; // only when the kinds could not be listed
         ok_pressed_ = true;
         descriptor_type_ = hlxListTools::selected_data(List1);
         unload();

@@ -7,9 +7,8 @@ void dlgConfiguration::load_general() {
     const Locale& locale = environment().locale;
     hlxOPCConfiguration& configuration = the(configuration_);
     const hlxOPCServerPtr entry = the(configuration.Server()).ServerEntry();
-    txtServer.set_text(the(entry).Node());
-    if (!txtServer.text().empty()) txtServer.set_text(txtServer.text() + ".");
-    txtServer.set_text(txtServer.text() + entry->ServerName());
+    const std::string node = the(entry).Node();
+    txtServer.set_text(server_display_text(node, entry->ServerName()));
     txtName.set_text(configuration.Name());
     txtSubgroupSize.set_text(to_text(configuration.SubgroupSize(), locale));
     txtUpdateRate.set_text(to_text(configuration.UpdateRate(), locale));
@@ -36,22 +35,6 @@ void dlgConfiguration::txtDeadband_Change() {
 
 void dlgConfiguration::txtDeadband_KeyPress(std::int32_t& key_ascii) {
     trap("txtDeadband_KeyPress", [&] { discard_all_but_digits(key_ascii); });
-}
-
-void dlgConfiguration::txtPieceTimeInterval_Change() {
-    trap("txtPieceTimeInterval_Change", [&] { color_by(txtSGInterval, txtPieceTimeInterval); });
-}
-
-void dlgConfiguration::txtPieceTimeInterval_KeyPress(std::int32_t& key_ascii) {
-    trap("txtPieceTimeInterval_KeyPress", [&] { discard_all_but_digits(key_ascii); });
-}
-
-void dlgConfiguration::txtSGInterval_Change() {
-    trap("txtSGInterval_Change", [&] { color_by(txtSGInterval, txtSGInterval); });
-}
-
-void dlgConfiguration::txtSGInterval_KeyPress(std::int32_t& key_ascii) {
-    trap("txtSGInterval_KeyPress", [&] { discard_all_but_digits(key_ascii); });
 }
 
 void dlgConfiguration::txtSubgroupSize_Change() {

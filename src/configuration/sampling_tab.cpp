@@ -1,8 +1,7 @@
+#include "common/values/calendar.h"
 #include "common/values/convert.h"
 #include "configuration/dlgConfiguration.h"
 #include "tests/dlgEvaluation.h"
-
-#include <array>
 
 namespace brx {
 
@@ -13,14 +12,18 @@ std::string appended(const Variant& value, const Locale& locale) {
     return std::holds_alternative<Null>(value) ? std::string() : to_text(value, locale);
 }
 
+// What a picker keeps of a date-time: without its time, and without its day.
+Date day_of(Date date) { return to_date(Moment{.day = to_moment(date).day, .second = 0}); }
+Date time_of(Date date) { return to_date(Moment{.day = 0, .second = to_moment(date).second}); }
+
 } // namespace
 
 void dlgConfiguration::load_sampling() {
     const Locale& locale = environment().locale;
     hlxOPCConfiguration& configuration = the(configuration_);
     const Date sync = configuration.SyncDateTime();
-    dtSyncDate.set_value(to_date(short_date(sync, locale), locale));
-    dtSyncTime.set_value(to_date(long_time(sync, locale), locale));
+    dtSyncDate.set_value(day_of(sync));
+    dtSyncTime.set_value(time_of(sync));
     for (ComboBox* list : {&cboPieceTimeUnit, &cboSGTimeUnit})
         for (const char* unit : {"Seconds", "Minutes", "Hours", "Days", "Weeks", "Months", "Quarter", "Year"})
             list->add_line(unit);
@@ -47,9 +50,23 @@ std::string dlgConfiguration::shown_trigger(const Trigger& trigger) const {
 }
 
 std::string dlgConfiguration::ConvertExpression(std::int16_t type) const {
-    static constexpr std::array texts = {" Always ", " = ", " > ", " >= ", " < ", " <= ", " <> "};
-    return type >= 0 && type < static_cast<std::int16_t>(texts.size()) ? texts[static_cast<std::size_t>(type)]
-                                                                       : "";
+    return type == trigger_operator::always ? " Always " : operator_text(type);
+}
+
+void dlgConfiguration::txtPieceTimeInterval_Change() {
+    trap("txtPieceTimeInterval_Change", [&] { color_by(txtSGInterval, txtPieceTimeInterval); });
+}
+
+void dlgConfiguration::txtPieceTimeInterval_KeyPress(std::int32_t& key_ascii) {
+    trap("txtPieceTimeInterval_KeyPress", [&] { discard_all_but_digits(key_ascii); });
+}
+
+void dlgConfiguration::txtSGInterval_Change() {
+    trap("txtSGInterval_Change", [&] { color_by(txtSGInterval, txtSGInterval); });
+}
+
+void dlgConfiguration::txtSGInterval_KeyPress(std::int32_t& key_ascii) {
+    trap("txtSGInterval_KeyPress", [&] { discard_all_but_digits(key_ascii); });
 }
 
 void dlgConfiguration::cmdPieceTrigger_Click() {
@@ -72,8 +89,17 @@ std::string dlgConfiguration::SetTrigger(int kind) {
     dialog.show_modal();
     if (!dialog.OkClicked()) return (kind == 1 ? txtPieceEval : txtSGEval).text();
     trigger = {dialog.TriggerExpression(), dialog.TriggerOPCItemID(), dialog.TriggerValue()};
-    const std::string operator_text = trigger.type == 0 ? "" : ConvertExpression(trigger.type);
-    return trigger.item + operator_text + appended(trigger.value, environment().locale);
+    return trigger.item + operator_text(trigger.type) + appended(trigger.value, environment().locale);
+}
+
+/// By way of their texts. Where the user's formats cannot be read back, as they are.
+Date dlgConfiguration::synchronisation() const {
+    const Locale& locale = environment().locale;
+    const std::string text =
+        short_date(dtSyncDate.value(), locale) + " " + long_time(dtSyncTime.value(), locale);
+    if (const auto date = read_date(text, locale, current_year())) return *date;
+    return to_date(
+        Moment{.day = to_moment(dtSyncDate.value()).day, .second = to_moment(dtSyncTime.value()).second});
 }
 
 } // namespace brx

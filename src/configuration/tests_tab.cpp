@@ -9,8 +9,6 @@ namespace brx {
 
 namespace {
 
-constexpr std::int32_t item_not_shown = 2; ///< the state of a test whose item could not be had
-
 /// Characteristic, item, server, node.
 struct TestRow {
     std::array<std::string, 4> cells;
@@ -25,7 +23,7 @@ TestRow read_row(hlxOPCTest& test) {
     const hlxOPCServerPtr entry = the(the(configuration).Server()).ServerEntry();
     row.cells[2] = the(entry).ServerName();
     row.cells[3] = entry->Node();
-    row.item_shows = test.State() != item_not_shown;
+    row.item_shows = test.State() != test_state::item_not_shown;
     return row;
 }
 
@@ -34,6 +32,7 @@ TestRow read_row(hlxOPCTest& test) {
 /// Rows and tests have the same positions. All tests are read before the list changes: when one cannot be
 /// read, the list stays as it is.
 void dlgConfiguration::AddToList() {
+    tests_listed_ = false;
     const hlxOPCTestsPtr tests = the(configuration_).Tests();
     std::vector<TestRow> rows(static_cast<std::size_t>(std::max(the(tests).Count(), 0)));
     std::int32_t position = 0;
@@ -49,22 +48,21 @@ void dlgConfiguration::AddToList() {
         if (each.item_shows) continue;
         for (const int column : {0, 2, 3}) row.set_look(column, {.bold = true, .fore_color = color::red});
     }
+    tests_listed_ = true;
 }
 
 void dlgConfiguration::bnAdd_Click() {
     trap("bnAdd_Click", [&] {
         TestConfiguration editor(environment());
         const hlxOPCTestPtr test = the(the(configuration_).Tests()).Add();
-        if (editor.Show(test)) {
+        if (editor.Show(test))
             AddToList();
-            lvwTest.select(lvwTest.count());
-            return;
-        }
-        take_back(the(test));
+        else
+            take_back(the(test));
     });
 }
 
-/// One that the host does not let go is listed, as all that the configuration has.
+/// When the host does not let it go, the list shows it: rows and tests must go on matching.
 void dlgConfiguration::take_back(hlxOPCTest& test) {
     try {
         const hlxOPCTestsPtr owner = test.Parent();

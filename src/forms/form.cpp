@@ -51,10 +51,14 @@ void Form::load() {
     loaded_ = true;
     run_event([&] { Form_Load(); });
     if (!loaded_ || focused_) return;
+    if (Control* first = first_focusable()) run_event([&] { move_focus(first); });
+}
+
+Control* Form::first_focusable() const {
     const std::vector<Control*> order = controls_in_tab_order();
     const auto first =
         std::find_if(order.begin(), order.end(), [](const Control* each) { return each->can_focus(); });
-    if (first != order.end()) run_event([&] { move_focus(*first); });
+    return first == order.end() ? nullptr : *first;
 }
 
 std::int32_t Form::show_message(const Message& message) {

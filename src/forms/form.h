@@ -55,6 +55,9 @@ public:
     /// Closes the form. A handler that is running goes on to its end.
     void unload();
 
+    /// The first control in tab order that the focus can be on now; null when there is none.
+    Control* first_focusable() const;
+
     /// Brings every peer of this form up to date.
     void settle();
     /// Puts the present state on the screen at once.

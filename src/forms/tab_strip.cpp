@@ -2,8 +2,6 @@
 
 #include "common/error.h"
 
-#include <algorithm>
-
 namespace brx {
 
 const std::string& TabStrip::caption(int tab) const {
@@ -25,10 +23,7 @@ bool TabStrip::user_select(int tab) {
         select(tab);
         const Control* focused = form().focused();
         if (!form().loaded() || (focused && focused->can_focus())) return;
-        const std::vector<Control*> order = form().controls_in_tab_order();
-        const auto first =
-            std::find_if(order.begin(), order.end(), [](const Control* each) { return each->can_focus(); });
-        if (first != order.end()) (*first)->set_focus();
+        if (Control* first = form().first_focusable()) first->set_focus();
     });
 }
 

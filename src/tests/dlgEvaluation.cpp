@@ -3,18 +3,9 @@
 #include "classes/LeafSelect.h"
 #include "common/group_items.h"
 #include "common/values/convert.h"
-#include "common/values/text.h"
 #include "forms/setup_form.h"
 
 namespace brx {
-
-namespace {
-
-constexpr const char* no_item = "<None>";
-
-bool is_no_item(const std::string& item_id) { return to_upper(item_id) == "<NONE>"; }
-
-} // namespace
 
 dlgEvaluation::dlgEvaluation(Environment& environment)
     : Form(environment, {.name = "dlgEvaluation", .caption = "Set Trigger", .size = {421, 139}}),
@@ -124,9 +115,11 @@ void dlgEvaluation::take_item(const std::string& item_id) {
             the(group_items).AddItems({{item_id}}, LongArray{{0}}, std::nullopt, std::nullopt);
         if (added.Errors.at(1) != 0) return;
         added_new_item_ = true;
-        cboItem.add_line(item_id);
     }
     cboItem.select_text(item_id);
+    if (cboItem.text() == item_id) return;
+    cboItem.add_line(item_id);
+    cboItem.select(cboItem.count() - 1);
 }
 
 void dlgEvaluation::CheckDataType() {
@@ -141,8 +134,11 @@ void dlgEvaluation::CheckDataType() {
 }
 
 bool dlgEvaluation::GetCalculation() {
-    bool usable = true;
+    bool usable = false;
     trap("GetCalculation", [&] {
+        // Only when the lists could not be filled nothing is selected.
+        if (cboItem.selected() < 0 || cboExpression.selected() < 0) return;
+        usable = true;
         item_id_ = cboItem.text();
         if (is_no_item(item_id_)) {
             expression_ = trigger_operator::always;

@@ -30,6 +30,7 @@ void dlgOPCTest::Form_Load() {
     trap("Form_Load", [&] {
         ok_pressed_ = false;
         edit_mode_ = test_chosen_ = added_new_item_ = false;
+        all_read_ = true;
         server_handles_ = LongArray{{0}};
         fill_operators(cboExpression);
         cboExpression.select(trigger_operator::always);
@@ -56,8 +57,7 @@ void dlgOPCTest::Form_Unload() {
 void dlgOPCTest::EditSet() {
     trap("EditSet", [&] {
         hlxOPCTest& test = the(test_);
-        chkItemTrigger.set_enabled(true);
-        bnOK.set_enabled(true);
+        all_read_ = false;
         client_handle_ = test.ClientHandle();
         test_name_ = test.CharacteristicName();
         txtTest.set_text(test_name_);
@@ -65,11 +65,16 @@ void dlgOPCTest::EditSet() {
         chkItemTrigger.set_value(test.ItemTrigger() ? 1 : 0);
         txtConstant.set_text(to_text(test.Constant(), environment().locale));
         cboSaveAs.select(test.SaveAs());
-        if (chkItemTrigger.value() != 1) return;
-        GetItemDataType();
-        ShowEvalType(chkItemTrigger.value());
-        cboExpression.select(test.TriggerExpression());
-        txtValue.set_text(to_text(test.TriggerValue(), environment().locale));
+        if (chkItemTrigger.value() == 1) {
+            GetItemDataType();
+            ShowEvalType(chkItemTrigger.value());
+            cboExpression.select(test.TriggerExpression());
+            value_ = test.TriggerValue();
+            txtValue.set_text(to_text(value_, environment().locale));
+        }
+        all_read_ = true;
+        chkItemTrigger.set_enabled(true);
+        bnOK.set_enabled(true);
     });
 }
 
@@ -129,7 +134,7 @@ hlxTestDataPtr dlgOPCTest::ResolveTestDat(const ObjectPtr& object) {
 }
 
 void dlgOPCTest::allow_confirming() {
-    const bool complete = !item_id_.empty() && !test_name_.empty();
+    const bool complete = all_read_ && !item_id_.empty() && !test_name_.empty();
     bnOK.set_enabled(complete);
     chkItemTrigger.set_enabled(complete);
 }
@@ -183,8 +188,8 @@ void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
             added_new_item_ = true;
             return;
         }
-        show_message({.text = refusal_text(the(server()).GetErrorString(error), item_id),
-                      .style = message::critical});
+        show_message(
+            {.text = refusal_text(the(server()).GetErrorString(error), item_id), .style = message::critical});
         server_handles_ = LongArray{{0}};
         added_new_item_ = false;
     } catch (...) {

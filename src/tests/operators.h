@@ -1,8 +1,11 @@
 #pragma once
 
+#include "common/values/text.h"
 #include "forms/list_control.h"
 
+#include <array>
 #include <cstdint>
+#include <string>
 
 namespace brx {
 
@@ -12,12 +15,21 @@ inline constexpr int always = 0;
 inline constexpr int equal = 1;
 } // namespace trigger_operator
 
-/// Fills a list with the seven operators, each at its code. The blanks belong to the texts.
-inline void fill_operators(ListControl& list) {
-    int code = 0;
-    for (const char* text : {"Always", " = ", " > ", " >= ", " < ", " <= ", " <> "})
-        list.insert_line(code++, text);
+/// The text of a comparison; "" for "Always" and for what is no operator code. The blanks belong to it.
+inline std::string operator_text(int code) {
+    static constexpr std::array texts = {"", " = ", " > ", " >= ", " < ", " <= ", " <> "};
+    return code >= 0 && code < static_cast<int>(texts.size()) ? texts[static_cast<std::size_t>(code)] : "";
 }
+
+/// Fills a list with the seven operators, each at its code.
+inline void fill_operators(ListControl& list) {
+    list.insert_line(trigger_operator::always, "Always");
+    for (int code = trigger_operator::equal; code <= 6; ++code) list.insert_line(code, operator_text(code));
+}
+
+/// How a trigger on no item is written, in whatever letters.
+inline constexpr const char* no_item = "<None>";
+inline bool is_no_item(const std::string& item_id) { return to_upper(item_id) == "<NONE>"; }
 
 /// VARTYPE codes of the item types whose trigger values are converted.
 namespace data_type {

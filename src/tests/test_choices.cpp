@@ -1,9 +1,9 @@
-// How the test dialog checks what was entered and writes it into the test.
-
 #include "common/group_items.h"
 #include "common/values/convert.h"
-#include "tests/dlgOPCTest.h"
 #include "common/write_back.h"
+#include "tests/dlgOPCTest.h"
+
+// How the test dialog checks what was entered and writes it into the test.
 
 namespace brx {
 
@@ -75,7 +75,15 @@ void dlgOPCTest::StoreTriggerExpression() {
 }
 
 bool dlgOPCTest::TestValue() {
-    const std::string text = txtValue.text();
+    std::string text;
+    const auto unread = failure_of([&] { text = txtValue.text(); });
+    if (unread) {
+        // The sentence ends there.
+        show_message({.text = "Invalid value for this Item.  Value must be ",
+                      .style = message::information,
+                      .title = "Invalid Value"});
+        return false;
+    }
     if (text.empty() && cboExpression.selected() == trigger_operator::always) return true;
     const auto failure = failure_of([&] {
         const Locale& locale = environment().locale;
@@ -142,6 +150,7 @@ bool dlgOPCTest::TestChoices() {
 void dlgOPCTest::write_test(double constant) {
     hlxOPCTest& test = the(test_);
     const hlxTestDataPtr data = test_chosen_ ? ResolveTestDat(test.TestData()) : nullptr;
+    if (test_chosen_ && !data) throw Error(error::object_not_set);
     const auto save = [&] {
         data->set_Flag(0);
         data->set_Mode(1);
@@ -153,10 +162,15 @@ void dlgOPCTest::write_test(double constant) {
     writes.write(test, &hlxOPCTest::ClientHandle, &hlxOPCTest::set_ClientHandle, client_handle_);
     writes.write(test, &hlxOPCTest::TriggerExpression, &hlxOPCTest::set_TriggerExpression, expression_);
     writes.write(test, &hlxOPCTest::OPCItemID, &hlxOPCTest::set_OPCItemID, item_id_);
-    writes.write(test, &hlxOPCTest::State, &hlxOPCTest::set_State, std::int32_t{1});
-    if (test_chosen_) {
-        writes.finally(save);
-        writes.write(the(data), &hlxTestData::ID, &hlxTestData::set_ID, test_id_);
+    writes.write(test, &hlxOPCTest::State, &hlxOPCTest::set_State, test_state::edited);
+    bool saved = false;
+    if (data) {
+        // A record without an identifier was never saved before.
+        writes.after_undo([&, former = data->ID()] {
+            if (saved && former != 0) save();
+        });
+        writes.write(*data, &hlxTestData::ID, &hlxTestData::set_ID, test_id_);
+        saved = true;
         save();
     }
     writes.write(test, &hlxOPCTest::Constant, &hlxOPCTest::set_Constant, constant);

@@ -1,19 +1,12 @@
 #include "sample/windows/host_program.h"
 
-#include <gmock/gmock.h>
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
 
 namespace brx::checks {
 
 namespace {
-
-using testing::HasSubstr;
-
-/// Whether the component beside the host has the dialog for configurations.
-bool has_configuration_dialog() {
-    const HostManifest manifest;
-    CLSID clsid{};
-    return SUCCEEDED(CLSIDFromProgID(L"brxOpcDlgs6.ConfigurationSetup", &clsid));
-}
 
 TEST(SampleProgramConfigurations, ThoseOfTheSelectedServerAreListedWithTheirTests) {
     const OpenHost host;
@@ -37,19 +30,76 @@ TEST(SampleProgramConfigurations, TheSelectedTestIsEdited) {
     EXPECT_EQ(host.rows(L"lstTests"), 2);
 }
 
-/// One that its dialog leaves without tests goes again, and so does one that no dialog can be shown for.
-TEST(SampleProgramConfigurations, ANewOneWithoutTestsGoesAgain) {
-    const OpenHost host;
-    host.press(L"bnNewConfiguration");
-    if (has_configuration_dialog()) {
-        PostMessageW(host.program().window(L"#32770", L"Configuration Properties"), WM_CLOSE, 0, 0);
-    } else {
-        const HWND box = host.program().window(L"#32770", L"OPC Collection Sample Host");
-        EXPECT_THAT(text_of_box(box), HasSubstr("brxOpcDlgs6.ConfigurationSetup cannot be made"));
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
-    }
+TEST(SampleProgramConfigurations, WhatTheDialogChangesIsThereAfterARestart) {
+    OpenHost host;
+    const OpenConfiguration before(host, L"bnConfigure");
+    EXPECT_EQ(before.reads(L"txtName"), "Filler head 1");
+    EXPECT_EQ(before.reads(L"cboPieceTimeUnit"), "Seconds");
+    before.type_over(L"txtName", L"Filler head 2");
+    before.type_over(L"txtSubgroupSize", L"7");
+    before.press(L"chkActive");
+    before.remove_test();
+    before.next_tab(L"txtPieceTimeInterval");
+    before.type_over(L"txtPieceTimeInterval", L"90");
+    PostMessageW(before.control(L"cboPieceTimeUnit"), WM_KEYDOWN, VK_DOWN, 1);
+    before.close();
+    EXPECT_TRUE(comes_true([&] { return host.rows(L"lstTests") == 1; }));
+    host.start_again();
+    EXPECT_EQ(host.rows(L"lstTests"), 1);
+    const OpenConfiguration after(host, L"bnConfigure");
+    EXPECT_EQ(after.reads(L"txtName"), "Filler head 2");
+    EXPECT_EQ(after.reads(L"txtSubgroupSize"), "7");
+    EXPECT_EQ(after.reads(L"txtPieceTimeInterval"), "90");
+    EXPECT_EQ(after.reads(L"cboPieceTimeUnit"), "Minutes");
+    EXPECT_EQ(after.reads(L"txtPieceEval"), "Filler.Head 1.Ready =  True");
+    EXPECT_EQ(SendMessageW(after.control(L"chkActive"), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+}
+
+TEST(SampleProgramConfigurations, TheCloseBoxOfTheDialogChangesNothing) {
+    OpenHost host;
+    const OpenConfiguration before(host, L"bnConfigure");
+    before.type_over(L"txtName", L"Filler head 2");
+    before.type_over(L"txtSubgroupSize", L"7");
+    before.press(L"chkActive");
+    EXPECT_TRUE(comes_true(
+        [&] { return SendMessageW(before.control(L"chkActive"), BM_GETCHECK, 0, 0) == BST_UNCHECKED; }));
+    before.leave();
+    host.start_again();
+    EXPECT_EQ(host.rows(L"lstTests"), 2);
+    const OpenConfiguration after(host, L"bnConfigure");
+    EXPECT_EQ(after.reads(L"txtName"), "Filler head 1");
+    EXPECT_EQ(after.reads(L"txtSubgroupSize"), "5");
+    EXPECT_EQ(SendMessageW(after.control(L"chkActive"), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+TEST(SampleProgramConfigurations, OneThatIsClosedWithoutTestsIsRemovedOnceConfirmed) {
+    OpenHost host;
+    const OpenConfiguration dialog(host, L"bnConfigure");
+    dialog.remove_test();
+    dialog.remove_test();
+    const auto answer = [&](WPARAM button) {
+        dialog.press(L"bnClose");
+        PostMessageW(host.program().window(L"#32770", L"No Test Exists"), WM_COMMAND, button, 0);
+    };
+    answer(IDCANCEL);
+    EXPECT_TRUE(comes_true([&] { return dialog.is_open_to_input(); }));
+    EXPECT_EQ(host.rows(L"lstConfigurations"), 1);
+    answer(IDOK);
     EXPECT_TRUE(comes_true([&] { return host.is_open_to_input(); }));
+    EXPECT_TRUE(comes_true([&] { return host.rows(L"lstConfigurations") == 0; }));
+    host.start_again();
+    EXPECT_EQ(host.rows(L"lstConfigurations"), 0);
+}
+
+TEST(SampleProgramConfigurations, ANewOneIsOfTheSelectedServerAndGoesAgainWithoutTests) {
+    const OpenHost host;
+    host.select_row(VK_DOWN, 1);
+    const OpenConfiguration dialog(host, L"bnNewConfiguration");
+    EXPECT_EQ(dialog.reads(L"txtServer"), "LINE1.Simulation.Filling.1");
+    EXPECT_EQ(host.rows(L"lstConfigurations"), 2);
+    dialog.leave();
     EXPECT_TRUE(comes_true([&] { return host.rows(L"lstConfigurations") == 1; }));
+    EXPECT_TRUE(comes_true([&] { return host.rows(L"lstTests") == 2; }));
 }
 
 TEST(SampleProgramConfigurations, EnterMeansWhatADoubleClickInTheListWithTheFocusMeans) {

@@ -1,5 +1,7 @@
 #include "sample/windows/host_program.h"
 
+#include "com/bstr.h"
+
 #include <commctrl.h>
 
 #include <array>
@@ -78,9 +80,19 @@ bool comes_true(const std::function<bool()>& condition) {
     return false;
 }
 
-OpenHost::OpenHost() {
+OpenHost::OpenHost() { start(); }
+
+void OpenHost::start() {
+    program_.emplace(host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\"");
+    window_ = program_->window(L"brxSampleHost");
     EXPECT_TRUE(comes_true([&] { return rows(L"lstServers") == 3; }));
     EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(control(L"bnBrowse")) != FALSE; }));
+}
+
+void OpenHost::start_again() {
+    PostMessageW(window_, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program_->exit_code(), 0U);
+    start();
 }
 
 void OpenHost::select_row(WPARAM key, LRESULT row) const {
@@ -92,6 +104,52 @@ void OpenHost::select_row(WPARAM key, LRESULT row) const {
 
 LRESULT OpenHost::rows(const wchar_t* list) const {
     return SendMessageW(control(list), LVM_GETITEMCOUNT, 0, 0);
+}
+
+OpenConfiguration::OpenConfiguration(const OpenHost& host, const wchar_t* button) : host_(host) {
+    host.press(button);
+    dialog_ = host.program().window(L"#32770", L"Configuration Properties");
+    EXPECT_FALSE(host.is_open_to_input());
+}
+
+std::string OpenConfiguration::reads(const wchar_t* box) const {
+    std::array<wchar_t, 200> text{};
+    SendMessageW(control(box), WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    return text_of(text.data(), wcslen(text.data()));
+}
+
+void OpenConfiguration::type_over(const wchar_t* box, const std::wstring& text) const {
+    SendMessageW(control(box), EM_SETSEL, 0, -1);
+    for (const wchar_t each : text) PostMessageW(control(box), WM_CHAR, each, 1);
+    const std::string wanted = text_of(text.c_str(), text.size());
+    EXPECT_TRUE(comes_true([&] { return reads(box) == wanted; }));
+}
+
+void OpenConfiguration::next_tab(const wchar_t* control_there) const {
+    PostMessageW(control(L"TabStrip1"), WM_KEYDOWN, VK_RIGHT, 1);
+    EXPECT_TRUE(comes_true([&] { return IsWindowVisible(control(control_there)) != FALSE; }));
+}
+
+void OpenConfiguration::remove_test() const {
+    const HWND list = control(L"lvwTest");
+    const LRESULT tests = SendMessageW(list, LVM_GETITEMCOUNT, 0, 0);
+    PostMessageW(list, WM_KEYDOWN, VK_HOME, 1);
+    press(L"bnRemove");
+    EXPECT_TRUE(comes_true([&] { return SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == tests - 1; }));
+}
+
+void OpenConfiguration::leave() const {
+    PostMessageW(dialog_, WM_CLOSE, 0, 0);
+    wait_for_host();
+}
+
+void OpenConfiguration::close() const {
+    press(L"bnClose");
+    wait_for_host();
+}
+
+void OpenConfiguration::wait_for_host() const {
+    EXPECT_TRUE(comes_true([&] { return IsWindow(dialog_) == FALSE && host_.is_open_to_input(); }));
 }
 
 } // namespace brx::checks

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace brx::checks {
@@ -39,7 +40,10 @@ class OpenHost {
 public:
     OpenHost();
 
-    const HostProgram& program() const { return program_; }
+    /// Closes it, and starts it on the same database file.
+    void start_again();
+
+    const HostProgram& program() const { return *program_; }
     HWND control(const wchar_t* name) const { return controls_of(window_)[name]; }
     HWND list() const { return control(L"lstServers"); }
     bool is_open_to_input() const { return IsWindowEnabled(window_) != FALSE; }
@@ -49,9 +53,37 @@ public:
     int default_button() const { return LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)); }
 
 private:
+    void start();
+
     CheckFolder folder_;
-    HostProgram program_{host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\""};
-    HWND window_ = program_.window(L"brxSampleHost");
+    std::optional<HostProgram> program_;
+    HWND window_ = nullptr;
+};
+
+/// The dialog of the selected configuration, or of a new one, opened by a button of the host.
+class OpenConfiguration {
+public:
+    OpenConfiguration(const OpenHost& host, const wchar_t* button);
+
+    HWND control(const wchar_t* name) const { return controls_of(dialog_)[name]; }
+    std::string reads(const wchar_t* box) const;
+    void press(const wchar_t* button) const { PostMessageW(control(button), BM_CLICK, 0, 0); }
+    void type_over(const wchar_t* box, const std::wstring& text) const;
+    /// Goes on to the next tab, which has this control.
+    void next_tab(const wchar_t* control_there) const;
+    /// Selects the first test, and removes it.
+    void remove_test() const;
+    bool is_open_to_input() const { return IsWindowEnabled(dialog_) != FALSE; }
+    /// By its close box, and waits for the host.
+    void leave() const;
+    /// By its button, and waits for the host.
+    void close() const;
+
+private:
+    void wait_for_host() const;
+
+    const OpenHost& host_;
+    HWND dialog_;
 };
 
 } // namespace brx::checks

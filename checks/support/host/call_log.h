@@ -28,12 +28,16 @@ public:
     /// Notes the call; throws when it is the one to fail.
     void note(const std::string& member) {
         made_.push_back({member, current_location_text()});
-        made_.back().failed = static_cast<int>(made_.size()) == fail_at_;
-        if (made_.back().failed) throw Error(failure_number, failure_text(fail_at_, member), failure_source);
+        made_.back().failed = static_cast<int>(made_.size()) == fail_at_ || member == failing_member_;
+        if (made_.back().failed)
+            throw Error(failure_number, failure_text(static_cast<int>(made_.size()), member), failure_source);
     }
 
     /// The n-th call from now on (from 1) fails; 0 for none.
     void fail_at(int n) { fail_at_ = n == 0 ? 0 : static_cast<int>(made_.size()) + n; }
+
+    /// Every call of this member fails from now on; "" for none.
+    void fail_on(const std::string& member) { failing_member_ = member; }
 
     const std::vector<HostCall>& made() const { return made_; }
     std::vector<std::string> members() const {
@@ -52,6 +56,7 @@ private:
 
     std::vector<HostCall> made_;
     int fail_at_ = 0;
+    std::string failing_member_;
 };
 
 } // namespace brx::checks

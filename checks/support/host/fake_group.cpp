@@ -52,11 +52,13 @@ OPCItemPtr FakeOPCItems::Item(const Variant& item_specifier) {
 }
 
 AddedItems FakeOPCItems::AddItems(const StringArray& item_ids, const LongArray& handles,
-                                  const std::optional<ShortArray>& types, const std::optional<StringArray>&) {
+                                  const std::optional<ShortArray>& types,
+                                  const std::optional<StringArray>& paths) {
     calls_.note("OPCItems.AddItems");
     added.push_back(item_ids);
     client_handles.push_back(handles);
     requested_types.push_back(types);
+    added_paths.push_back(paths);
     AddedItems result;
     for (const std::string& id : item_ids.elements) {
         result.Errors.elements.push_back(error_of(id));

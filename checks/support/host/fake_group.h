@@ -70,6 +70,7 @@ public:
     std::vector<StringArray> added;
     std::vector<LongArray> client_handles;
     std::vector<std::optional<ShortArray>> requested_types;
+    std::vector<std::optional<StringArray>> added_paths;
     std::vector<LongArray> removed;
 
     /// Puts an item into the group and gives its handle.

@@ -71,6 +71,12 @@ public:
     virtual hlxOPCConfigurationPtr Parent() = 0;             ///< (7) the owning configuration
 };
 
+/// States of a test that the dialogs know.
+namespace test_state {
+inline constexpr std::int32_t edited = 1;         ///< what the test dialog writes
+inline constexpr std::int32_t item_not_shown = 2; ///< its item could not be had: not shown, and highlighted
+} // namespace test_state
+
 /// One test: a characteristic bound to an OPC item.
 class hlxOPCTest : public Object {
 public:

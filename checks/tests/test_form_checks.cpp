@@ -1,0 +1,134 @@
+#include "forms/one_form.h"
+#include "tests/dlgOPCTest.h"
+
+#include <gtest/gtest.h>
+
+using namespace brx;
+using namespace brx::checks;
+
+// What of the test dialog a person cannot read off the screen, or only as a colour.
+
+namespace {
+
+struct TestForm : testing::Test {
+    TestForm() {
+        test->fields.item_id = "Line1.Speed";
+        host.group->items->has("Line1.Speed");
+        host.group->items->answers["Line1.Force"] = 0;
+        host.browser->root.has("Line1", {"Speed", "Force"});
+        form.set_test(test);
+        form.set_database(host.database);
+        form.set_TestOPCItemID("Line1.Speed");
+        engine.while_asking = [this](const Message& message) {
+            messages.push_back(message.text);
+            return message::ok;
+        };
+    }
+
+    FakeHost host;
+    ScriptedEngine engine;
+    Environment environment{engine, host, host, Locale::us_english()};
+    std::shared_ptr<FakeTest> test = host.has_test(7, "Length");
+    dlgOPCTest form{environment};
+    std::vector<std::string> messages;
+
+    template <class Which> static Which& find(Form& in, const std::string& name) {
+        for (Control* control : in.controls())
+            if (control->name() == name) return dynamic_cast<Which&>(*control);
+        throw Error(error::element_not_found);
+    }
+    TextBox& constant() { return find<TextBox>(form, "txtConstant"); }
+    void press(const std::string& button) { EXPECT_TRUE(find<Button>(form, button).user_click()); }
+
+    void while_open(const std::function<void()>& story) {
+        engine.while_open = [=, this](Form& shown) {
+            const ModalTurn waiting(&shown);
+            if (&shown == &form) return story();
+            EXPECT_TRUE(find<TextBox>(shown, "txtFullPath").user_text("Line1.Force"));
+            EXPECT_TRUE(find<Button>(shown, "bnOK").user_click());
+        };
+        form.show_modal();
+    }
+};
+
+} // namespace
+
+TEST_F(TestForm, AConstantThatIsNoNumberIsWrittenRedAndStaysSo) {
+    while_open([&] {
+        constant().user_text("1");
+        EXPECT_EQ(constant().fore_color(), color::window_text);
+        constant().user_text("1x");
+        EXPECT_EQ(constant().fore_color(), color::red);
+        EXPECT_EQ(constant().back_color(), color::window);
+        constant().user_text("1");
+        EXPECT_EQ(constant().fore_color(), color::red); // only a red background would take it back
+        constant().user_text("");
+        EXPECT_EQ(constant().fore_color(), color::red);
+    });
+}
+
+TEST_F(TestForm, OnARedBackgroundAValidConstantIsWrittenInTheWindowsColour) {
+    while_open([&] {
+        constant().set_back_color(color::red);
+        constant().user_text("1x");
+        EXPECT_EQ(constant().fore_color(), color::window_text);
+        constant().user_text("");
+        EXPECT_EQ(constant().fore_color(), color::window);
+    });
+}
+
+TEST_F(TestForm, ARedBackgroundRefusesTheConstant) {
+    while_open([&] {
+        constant().set_back_color(color::red);
+        press("bnOK");
+        EXPECT_EQ(messages, std::vector<std::string>{
+                                "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value."});
+        EXPECT_TRUE(form.loaded());
+    });
+    EXPECT_FALSE(form.OKPressed());
+    EXPECT_EQ(host.calls.count("hlxOPCTest.State="), 0);
+}
+
+TEST_F(TestForm, ANewItemIsAskedForAndAddedAsTheServerHasIt) {
+    form.set_TestId(7);
+    while_open([&] { press("bnItem"); });
+    const FakeOPCItems& items = *host.group->items;
+    ASSERT_EQ(items.validations.size(), 2U); // the browser asks first
+    EXPECT_EQ(items.validations[1], (Validation{{{"Line1.Force"}}, ShortArray{{0}}, StringArray{{""}}}));
+    EXPECT_EQ(items.added, (std::vector<StringArray>{{{"Line1.Force"}}}));
+    EXPECT_EQ(items.client_handles, (std::vector<LongArray>{{{7}}}));
+    EXPECT_EQ(items.requested_types, (std::vector<std::optional<ShortArray>>{ShortArray{{0}}}));
+    EXPECT_EQ(items.added_paths, (std::vector<std::optional<StringArray>>{StringArray{{""}}}));
+}
+
+TEST_F(TestForm, CancelRemovesTheAddedItemAndEmptiesEveryProperty) {
+    host.picker->picks = std::make_shared<FakeTestData>(host.calls, 8, 2, "Width");
+    while_open([&] {
+        press("bnItem");
+        press("bnTest");
+        EXPECT_EQ(form.TestId(), 8);
+        EXPECT_EQ(form.TestGroupID(), 2);
+        EXPECT_EQ(form.TestGroupName(), "Weights");
+        EXPECT_EQ(form.TestName(), "Width");
+        EXPECT_NE(form.ClientHandle(), 0);
+        press("bnTest");
+        press("bnCancel");
+    });
+    EXPECT_EQ(host.picker->shown_with, (std::vector<std::int32_t>{0, 8}));
+    EXPECT_EQ(host.picker->shown_with_groups, (std::vector<std::int32_t>{0, 2}));
+    EXPECT_EQ(host.group->items->ids(), std::vector<std::string>{"Line1.Speed"});
+    EXPECT_FALSE(form.OKPressed());
+    EXPECT_EQ(form.ClientHandle(), 0);
+    EXPECT_EQ(form.TriggerValue(), Variant(std::int16_t{0}));
+    EXPECT_EQ(form.TriggerExpression(), 0);
+    EXPECT_EQ(form.TestId(), 0);
+    EXPECT_EQ(form.TestName(), "");
+    EXPECT_EQ(form.TestGroupID(), 0);
+    EXPECT_EQ(form.TestGroupName(), "");
+    EXPECT_EQ(form.TestOPCItemID(), "");
+}
+
+TEST_F(TestForm, HasItsHelpTopicAndItsFont) {
+    while_open([&] { EXPECT_EQ(form.help_topic(), 194); });
+    EXPECT_EQ(form.design().font_family, "Arial");
+}
