@@ -1,14 +1,18 @@
-// What showing address spaces takes, compared with the least that it can take. Closes with one line "N
-// passed, N failed, N skipped", a figure that could be measured counting as passed, whatever it is.
+// What large address spaces and configurations take, compared with the least that they can take. Closes with
+// one line "N passed, N failed, N skipped", a figure that could be measured counting as passed, whatever it
+// is.
 //
 //   brx_bench                     prints the table
+//   brx_bench items|configuration prints the lines about one dialog
 //   brx_bench --bytes floor|dialog N
 //                                 prints the private bytes that N leaves take; a process of its own each
 //                                 time, for what was freed before would be taken again
 
+#include "bench/comparison.h"
+#include "bench/configuration_dialog.h"
+#include "bench/configuration_floor.h"
 #include "bench/floor.h"
 #include "bench/item_browser.h"
-#include "bench/series.h"
 
 #include "com/module.h"
 
@@ -23,35 +27,6 @@ namespace {
 using namespace brx::bench;
 
 using Open = Opening (*)(const AddressSpace&);
-
-/// Runs of the floor and the dialog, one right after the other, and both with next to nothing to show.
-class Comparison {
-public:
-    Comparison(Open floor, const AddressSpace& space, const AddressSpace& least, int rounds = 7) {
-        for (int round = 0; round < rounds; ++round) {
-            least_floor_.add(floor(least).shown);
-            least_dialog_.add(open_item_browser(least).shown);
-            note(floor(space), floor_shown_, floor_expanded_);
-            note(open_item_browser(space), dialog_shown_, dialog_expanded_);
-        }
-    }
-
-    /// Without what it takes to open the window.
-    Series floor_shown() const { return floor_shown_.over(least_floor_); }
-    Series dialog_shown() const { return dialog_shown_.over(least_dialog_); }
-    const Series& floor_expanded() const { return floor_expanded_; }
-    const Series& dialog_expanded() const { return dialog_expanded_; }
-
-private:
-    static void note(const Opening& opening, Series& shown, Series& expanded) {
-        shown.add(opening.shown);
-        expanded.add(opening.expanded);
-    }
-
-    Series least_floor_, least_dialog_;
-    Series floor_shown_, dialog_shown_;
-    Series floor_expanded_, dialog_expanded_;
-};
 
 constexpr AddressSpace flat_space(int leaves) { return {.flat = true, .leaves = leaves}; }
 
@@ -94,25 +69,50 @@ private:
     int failed_ = 0;
 };
 
-int print_table() {
-    Table table;
-    print_heading();
+void measure_items(Table& table) {
     table.measure(3, [] {
-        const Comparison small(open_list, flat_space(100'000), flat_space(1), 15);
+        const Comparison small(open_list, open_item_browser, flat_space(100'000), flat_space(1), 15);
         print_line("100,000 leaves shown", small.floor_shown(), small.dialog_shown(), 1.25);
-        const Comparison large(open_list, flat_space(1'000'000), flat_space(1));
+        const Comparison large(open_list, open_item_browser, flat_space(1'000'000), flat_space(1));
         print_line("1,000,000 leaves shown", large.floor_shown(), large.dialog_shown(), 1.25);
         print_line("1,000,000 leaves after 100,000", small.dialog_shown(), large.dialog_shown(), 11);
     });
     table.measure(2, [] {
         const AddressSpace least = {.branches = 1, .sub_branches = 1};
-        const Comparison root(open_tree, {.branches = 50'000, .sub_branches = 1}, least);
+        const Comparison root(open_tree, open_item_browser, {.branches = 50'000, .sub_branches = 1}, least);
         print_line("50,000 branches shown at the root", root.floor_shown(), root.dialog_shown(), 1.25);
-        const Comparison branch(open_tree, {.branches = 1, .sub_branches = 10'000}, least);
+        const Comparison branch(open_tree, open_item_browser, {.branches = 1, .sub_branches = 10'000}, least);
         print_line("a branch of 10,000 expanded", branch.floor_expanded(), branch.dialog_expanded(), 1.25);
     });
     table.measure(
         1, [] { print_line("memory for a leaf", bytes_per_leaf(L"floor"), bytes_per_leaf(L"dialog"), 1.5); });
+}
+
+void measure_configuration(Table& table) {
+    const auto load = [](const char* what, const Holdings& holdings) {
+        const Comparison loads(list_configuration, open_configuration, holdings, Holdings{}, 15);
+        print_line(what, loads.floor_shown(), loads.dialog_shown(), 1.25);
+    };
+    table.measure(1, [&] { load("10,000 tests loaded", {.tests = 10'000}); });
+    table.measure(1, [&] { load("10,000 descriptors loaded", {.descriptors = 10'000}); });
+    const auto tick = [](const char* what, const Holdings& holdings) {
+        const Ticks ticks = tick_configuration(holdings, 25, 100);
+        print_line(what, ticks.reads, ticks.ticks, 1.25);
+        if (ticks.messages > 0 || ticks.painted)
+            throw std::runtime_error("unchanged ticks sent " + std::to_string(ticks.messages) +
+                                     " messages to their table" +
+                                     (ticks.painted ? " and had something drawn again" : ""));
+    };
+    table.measure(1, [&] { tick("100 unchanged ticks of 1,000 groups", {.groups = 1'000}); });
+    table.measure(
+        1, [&] { tick("the same, groups made when asked for", {.groups = 1'000, .fresh_groups = true}); });
+}
+
+int print_table(const std::string& subject) {
+    Table table;
+    print_heading();
+    if (subject != "configuration") measure_items(table);
+    if (subject != "items") measure_configuration(table);
     return table.close();
 }
 
@@ -124,13 +124,15 @@ int main(int argc, char** argv) {
     int status = EXIT_FAILURE;
     try {
         if (arguments.empty()) {
-            status = print_table();
+            status = print_table({});
+        } else if (arguments.size() == 1 && (arguments[0] == "items" || arguments[0] == "configuration")) {
+            status = print_table(arguments[0]);
         } else if (arguments.size() == 3 && arguments[0] == "--bytes") {
             const Open open = arguments[1] == "floor" ? open_list : open_item_browser;
             std::printf("%zu\n", bytes_of(open, std::stoi(arguments[2])));
             status = EXIT_SUCCESS;
         } else {
-            std::fprintf(stderr, "brx_bench [--bytes floor|dialog N]\n");
+            std::fprintf(stderr, "brx_bench [items|configuration|--bytes floor|dialog N]\n");
         }
     } catch (const std::exception& error) {
         std::fprintf(stderr, "brx_bench: %s\n", error.what());

@@ -134,6 +134,30 @@ TEST_F(OpcAdapterTest, PassGroupsOn) {
                  method("Remove", &OPCGroups::Remove, Variant(std::string("Line 3")))});
 }
 
+TEST_F(OpcAdapterTest, ReadTheNameOfTheGroupAtAPosition) {
+    const auto group = make<OPCGroup>();
+    group->answers["Name"] = unusual_text;
+    const auto groups = make<OPCGroups>();
+    groups->answers["Item"] = ObjectPtr(group);
+    const auto model = through(groups);
+    std::string name = "before";
+    const auto failing = [&] { return outcome([&] { return model->read_name(two, name), Variant(); }); };
+    model->read_name(two, name);
+    EXPECT_EQ(name, unusual_text);
+    EXPECT_THAT(groups->take_calls(), ElementsAre("Item (" + describe(Variant(two)) + ")"));
+    EXPECT_THAT(group->take_calls(), ElementsAre("Name"));
+    const Error refused(-2147220501, "No name today", "Sim.1");
+    group->failure = refused;
+    EXPECT_EQ(failing(), describe(refused));
+    group->failure = std::nullopt;
+    groups->failure = refused;
+    EXPECT_EQ(failing(), describe(refused));
+    groups->failure = std::nullopt;
+    groups->answers["Item"] = ObjectPtr();
+    EXPECT_EQ(failing(), describe(Error(error::object_not_set)));
+    EXPECT_EQ(name, unusual_text) << "A failure leaves it as it is.";
+}
+
 TEST_F(OpcAdapterTest, PassItemsOn) {
     const auto item = make<OPCItem>();
     item->answers = {{"ItemID", unusual_text}, {"CanonicalDataType", std::int16_t{11}}};

@@ -24,6 +24,8 @@ TEST_F(ListViews, RowsAreFoundByTheirPositionAndByTheirKey) {
         EXPECT_EQ(list.row(1).text(), "Row a");
         EXPECT_EQ(&list.row("c"), &list.row(3));
         EXPECT_EQ(list.row(2).key(), "b");
+        EXPECT_EQ(list.find("c"), &list.row(3));
+        EXPECT_EQ(list.find("B"), nullptr);
         EXPECT_EQ(number_of_error([&] { list.row(0); }), 35600);
         EXPECT_EQ(number_of_error([&] { list.row(4); }), 35600);
         EXPECT_EQ(number_of_error([&] { list.row("B"); }), 35601) << "Keys are compared exactly.";
@@ -52,6 +54,9 @@ TEST_F(ListViews, CellsAreEmptyUntilTheyAreSetAndExistForEachColumn) {
         EXPECT_EQ(row.text(1), "7");
         EXPECT_EQ(row.text(0), "New");
         EXPECT_EQ(row.look(1), (CellLook{.bold = true, .fore_color = color::red}));
+        EXPECT_TRUE(row.reads(1, "7"));
+        EXPECT_FALSE(row.reads(1, ""));
+        EXPECT_FALSE(row.reads(2, "")) << "There is no such column.";
         EXPECT_EQ(number_of_error([&] { row.text(2); }), 35600);
         EXPECT_EQ(number_of_error([&] { row.text(-1); }), 35600);
         EXPECT_EQ(number_of_error([&] { row.set_text(2, "x"); }), 35600);

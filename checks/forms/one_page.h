@@ -6,6 +6,7 @@
 #include "forms/list_view.h"
 #include "forms/tab_strip.h"
 #include "one_form.h"
+#include "stand_in.h"
 
 #include <gtest/gtest.h>
 
@@ -42,14 +43,6 @@ private:
         first.set_visible(tabs.selected() == 1);
         second.set_visible(tabs.selected() == 2);
     }
-};
-
-/// Stands in for a window.
-class StandIn : public Peer {
-public:
-    explicit StandIn(Element& element) : Peer(element) {}
-    void refresh(Aspect aspects) override { seen = seen | aspects; }
-    Aspect seen = Aspect::none;
 };
 
 /// Shows the form and runs `story` while it is open.

@@ -1,4 +1,5 @@
 #include "one_tree.h"
+#include "stand_in.h"
 
 using namespace brx;
 using namespace brx::checks;
@@ -6,14 +7,6 @@ using namespace brx::checks;
 namespace {
 
 struct Trees : testing::Test, OneTree {};
-
-/// Stands in for a window.
-class StandIn : public Peer {
-public:
-    explicit StandIn(Element& element) : Peer(element) {}
-    void refresh(Aspect aspects) override { seen = seen | aspects; }
-    Aspect seen = Aspect::none;
-};
 
 using Deed = TreeView::Change::Kind;
 

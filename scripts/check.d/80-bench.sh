@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What showing large address spaces takes, against the least that it can take.
+# What large address spaces and configurations take, against the least that they can take.
 # On request only: it tells figures, which other programs disturb; docs/performance.md says how to read them.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"

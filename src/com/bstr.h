@@ -41,7 +41,9 @@ public:
         std::swap(string_, other.string_);
         return *this;
     }
-    ~Bstr() { SysFreeString(string_); }
+    ~Bstr() {
+        if (string_) SysFreeString(string_);
+    }
 
     BSTR get() const noexcept { return string_; }
     BSTR* out() noexcept {

@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brx {
 
@@ -188,6 +189,7 @@ private:
 
     // Server information
     void Timer1_Timer();
+    void update_group(std::int32_t n, const std::string& name);
     void UpdateServerInfo(const std::string& key, const std::string& caption, const std::string& value);
 
     CommonTools tools_;
@@ -196,6 +198,7 @@ private:
     bool tests_listed_ = false;  ///< the list shows the configuration's tests
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
+    std::vector<const ListRow*> group_rows_; ///< of the server's groups, as far as they are listed
     std::optional<dlgDescriptorType> type_dialog_;
     std::optional<dlgDescriptorProperties> properties_dialog_;
     std::int32_t first_value_ = 0;

@@ -27,23 +27,34 @@ void dlgConfiguration::Timer1_Timer() {
 
         const OPCGroupsPtr groups = server->OPCGroups();
         const std::int32_t count = the(groups).Count();
+        std::string name;
         for (std::int32_t n = 1; n <= count; ++n) {
-            const std::string number = std::to_string(n);
-            // The first one goes without a number.
-            UpdateServerInfo("Group" + number, "Group " + (n == 1 ? std::string() : number),
-                             the(groups->Item(n)).Name());
+            groups->read_name(n, name);
+            update_group(n, name);
         }
     });
+}
+
+/// There can be a thousand groups, so the row of each is looked up only once. Rows are never removed here.
+void dlgConfiguration::update_group(std::int32_t n, const std::string& name) {
+    const auto index = static_cast<std::size_t>(n) - 1;
+    if (index < group_rows_.size() && group_rows_[index]->reads(1, name)) return;
+    const std::string number = std::to_string(n);
+    const std::string key = "Group" + number;
+    // The first one goes without a number.
+    UpdateServerInfo(key, "Group " + (n == 1 ? std::string() : number), name);
+    const ListRow* const row = lvwServerInfo.find(key);
+    if (row && index == group_rows_.size()) group_rows_.push_back(row);
 }
 
 /// An unchanged value is not written again, so that the list does not flicker.
 void dlgConfiguration::UpdateServerInfo(const std::string& key, const std::string& caption,
                                         const std::string& value) {
-    ListRow* row = nullptr;
-    attempt([&] { row = &lvwServerInfo.row(key); });
+    ListRow* row = lvwServerInfo.find(key);
+    if (row && row->reads(1, value)) return;
     if (!row) attempt([&] { row = &lvwServerInfo.add(key, caption); });
     attempt([&] {
-        if (row && row->text(1) != value) row->set_text(1, value);
+        if (row) row->set_text(1, value);
     });
 }
 

@@ -4,9 +4,12 @@
 
 namespace brx {
 
+bool ListRow::has(int column) const noexcept {
+    return column == 0 || (column > 0 && column < static_cast<int>(list_.columns().size()));
+}
+
 const ListRow::Cell* ListRow::find(int column) const {
-    const auto columns = static_cast<int>(list_.columns().size());
-    if (column < 0 || (column > 0 && column >= columns)) throw Error(error::index_out_of_bounds);
+    if (!has(column)) throw Error(error::index_out_of_bounds);
     const auto index = static_cast<std::size_t>(column);
     return index < cells_.size() ? &cells_[index] : nullptr;
 }
@@ -20,6 +23,12 @@ const std::string& ListRow::text(int column) const {
     static const std::string nothing;
     const Cell* const found = find(column);
     return found ? found->text : nothing;
+}
+
+bool ListRow::reads(int column, std::string_view text) const noexcept {
+    if (!has(column)) return false;
+    const auto index = static_cast<std::size_t>(column);
+    return index < cells_.size() ? cells_[index].text == text : text.empty();
 }
 
 void ListRow::set_text(int column, const std::string& text) {
@@ -72,9 +81,13 @@ ListRow& ListView::row(int position) const {
 }
 
 ListRow& ListView::row(const std::string& key) const {
+    if (ListRow* const found = find(key)) return *found;
+    throw Error(error::element_not_found);
+}
+
+ListRow* ListView::find(std::string_view key) const noexcept {
     const auto found = by_key_.find(key);
-    if (found == by_key_.end()) throw Error(error::element_not_found);
-    return *found->second;
+    return found == by_key_.end() ? nullptr : found->second;
 }
 
 void ListView::remove(int position) {

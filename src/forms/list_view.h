@@ -35,6 +35,8 @@ public:
     /// "" where nothing was ever set. Error 35600 for a column that the list has not.
     const std::string& text(int column) const;
     void set_text(int column, const std::string& text);
+    /// Whether the cell reads so. False for a column that the list has not.
+    bool reads(int column, std::string_view text) const noexcept;
     CellLook look(int column) const;
     void set_look(int column, const CellLook& look);
 
@@ -50,6 +52,7 @@ private:
     };
     ListRow(ListView& list, std::string key) : list_(list), key_(std::move(key)) {}
     Cell& cell(int column);
+    bool has(int column) const noexcept;
     const Cell* find(int column) const;
 
     ListView& list_;
@@ -91,6 +94,8 @@ public:
     ListRow& row(int position) const;
     /// Error 35601 when there is none.
     ListRow& row(const std::string& key) const;
+    /// The same; null when there is none.
+    ListRow* find(std::string_view key) const noexcept;
     /// Removes a row. When it was the selected one, none is selected. Error 35600 when there is none.
     void remove(int position);
     /// Removes every row; the columns stay.

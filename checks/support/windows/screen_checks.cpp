@@ -1,47 +1,13 @@
 // The tools of the scenarios themselves, on a dialog made of the system's controls alone.
 
-#include "windows/described.h"
-#include "windows/native.h"
-#include "windows/plain_dialog.h"
-#include "windows/windows_screen.h"
-
-#include <gtest/gtest.h>
+#include "windows/screen_test.h"
 
 #include <chrono>
+#include <stdexcept>
+#include <thread>
+#include <utility>
 
 namespace brx::checks {
-
-namespace {
-
-using Events = std::vector<std::string>;
-
-/// The dialog is on the screen.
-class WindowsScreenTest : public testing::Test {
-protected:
-    WindowsScreenTest() {
-        ui.start([this] { dialog.run(); });
-    }
-
-    Events events() {
-        Events events;
-        ui.call([&] { events = dialog.take_events(); });
-        return events;
-    }
-    HWND window(const std::string& name) {
-        HWND found = nullptr;
-        ui.call([&] {
-            for (const HWND form : windows_of(ui.id()))
-                if (name_of(form) == "dlgPlain") found = name == "dlgPlain" ? form : find_control(form, name);
-        });
-        return found;
-    }
-
-    UiThread ui;
-    WindowsScreen screen{ui};
-    PlainDialog dialog{ui.window()};
-};
-
-} // namespace
 
 TEST_F(WindowsScreenTest, SeesTheDialogInFrontAndItsControls) {
     EXPECT_EQ(screen.front(), "dlgPlain");
@@ -77,130 +43,6 @@ TEST_F(WindowsScreenTest, PressesWhatAPersonCouldPress) {
 TEST_F(WindowsScreenTest, WaitsForEverythingThatFollowsFromADeed) {
     EXPECT_TRUE(screen.press("bnChain"));
     EXPECT_EQ(events(), Events{"end of chain"});
-}
-
-TEST_F(WindowsScreenTest, ChoosesLinesAlsoThoseOutOfView) {
-    EXPECT_TRUE(screen.choose("lstBox", 1));
-    EXPECT_EQ(events(), Events{"list 1"});
-    EXPECT_TRUE(screen.choose("lstBox", 47));
-    EXPECT_EQ(events(), Events{"list 47"});
-    EXPECT_EQ(screen.look("lstBox").text, "Line 47");
-    EXPECT_TRUE(screen.look("lstBox").focused);
-    EXPECT_FALSE(screen.choose("lstBox", 50));
-    EXPECT_FALSE(screen.choose("lstBox", -1));
-    EXPECT_TRUE(screen.double_click("lstBox", 2));
-    EXPECT_EQ(events(), (Events{"list 2", "list twice 2"}));
-}
-
-TEST_F(WindowsScreenTest, ChoosesInADropDownListAtOnce) {
-    EXPECT_TRUE(screen.choose("cboBox", 2));
-    EXPECT_EQ(events(), Events{"combo 2"});
-    EXPECT_TRUE(screen.choose("cboBox", 44));
-    EXPECT_EQ(events(), Events{"combo 44"});
-    EXPECT_EQ(screen.look("cboBox").selected, 44);
-    EXPECT_EQ(screen.look("cboBox").text, "Line 44");
-    EXPECT_FALSE(screen.choose("cboBox", 50));
-    EXPECT_EQ(screen.front(), "dlgPlain");
-}
-
-TEST_F(WindowsScreenTest, SeesTheRowsOfATree) {
-    Sight tree = screen.look("treBox");
-    ASSERT_EQ(tree.lines.size(), 30U);
-    EXPECT_EQ(tree.lines[0], " Node 0");
-    EXPECT_EQ(tree.lines[1], "+Node 1");
-    EXPECT_EQ(tree.selected, -1);
-    EXPECT_EQ(tree.text, "");
-    EXPECT_TRUE(screen.expand("treBox", 1));
-    EXPECT_TRUE(screen.choose("treBox", 3));
-    tree = screen.look("treBox");
-    ASSERT_EQ(tree.lines.size(), 32U);
-    EXPECT_EQ(tree.lines[1], "-Node 1");
-    EXPECT_EQ(tree.lines[3], "   Inner 1");
-    EXPECT_EQ(tree.lines[4], " Node 2");
-    EXPECT_EQ(tree.selected, 3);
-    EXPECT_EQ(tree.text, "Inner 1");
-}
-
-TEST_F(WindowsScreenTest, ClicksIntoATreeAlsoWhereItIsOutOfView) {
-    EXPECT_TRUE(screen.choose("treBox", 27));
-    EXPECT_EQ(events(), Events{"node 27"});
-    EXPECT_TRUE(screen.look("treBox").focused);
-    EXPECT_TRUE(screen.expand("treBox", 28));
-    EXPECT_EQ(events(), Events{"open 28"});
-    EXPECT_FALSE(screen.expand("treBox", 28)) << "It is open.";
-    EXPECT_TRUE(screen.collapse("treBox", 28));
-    EXPECT_EQ(events(), Events{"close 28"});
-    EXPECT_FALSE(screen.collapse("treBox", 28));
-    EXPECT_FALSE(screen.expand("treBox", 0)) << "It has no sign.";
-    EXPECT_TRUE(screen.double_click("treBox", 0));
-    EXPECT_EQ(events(), (Events{"node 0", "tree twice"}));
-    EXPECT_FALSE(screen.choose("treBox", 30));
-    EXPECT_FALSE(screen.choose("treBox", -1));
-    ui.call([&] { EnableWindow(window("treBox"), FALSE); });
-    EXPECT_FALSE(screen.choose("treBox", 1));
-    EXPECT_FALSE(screen.expand("treBox", 1));
-}
-
-TEST_F(WindowsScreenTest, TheKeysOfATreeWork) {
-    EXPECT_TRUE(screen.choose("treBox", 0));
-    events();
-    EXPECT_TRUE(screen.key(Key::down));
-    EXPECT_TRUE(screen.key(Key::right));
-    EXPECT_EQ(events(), (Events{"node 1", "open 1"}));
-    EXPECT_TRUE(screen.type("in"));
-    EXPECT_EQ(screen.look("treBox").text, "Inner 0");
-    EXPECT_TRUE(screen.key(Key::left));
-    EXPECT_EQ(screen.look("treBox").text, "Node 1");
-    events();
-    EXPECT_TRUE(screen.key(Key::left));
-    EXPECT_TRUE(screen.key(Key::plus));
-    EXPECT_TRUE(screen.key(Key::minus));
-    EXPECT_EQ(events(), (Events{"close 1", "open 1", "close 1"}));
-}
-
-TEST_F(WindowsScreenTest, SeesTheRowsOfATableAsTheyAreDrawn) {
-    Sight table = screen.look("lvwBox");
-    ASSERT_EQ(table.lines.size(), 30U);
-    EXPECT_EQ(table.lines[1], "Row 1 | Value 1");
-    EXPECT_EQ(table.lines[2], "*Row 2* | red:Value 2");
-    EXPECT_EQ(table.selected, -1);
-    EXPECT_EQ(table.text, "");
-    EXPECT_TRUE(screen.choose("lvwBox", 3));
-    table = screen.look("lvwBox");
-    EXPECT_EQ(table.selected, 3);
-    EXPECT_EQ(table.text, "Row 3");
-    EXPECT_TRUE(table.focused);
-}
-
-TEST_F(WindowsScreenTest, ChoosesRowsOfATableAlsoThoseOutOfView) {
-    EXPECT_TRUE(screen.choose("lvwBox", 1));
-    EXPECT_TRUE(screen.choose("lvwBox", 28));
-    EXPECT_EQ(events(), (Events{"row 1", "row 28"}));
-    EXPECT_FALSE(screen.choose("lvwBox", 30));
-    EXPECT_FALSE(screen.choose("lvwBox", -1));
-    EXPECT_TRUE(screen.double_click("lvwBox", 0));
-    EXPECT_EQ(events(), (Events{"row 0", "table twice"}));
-    EXPECT_TRUE(screen.key(Key::down));
-    EXPECT_TRUE(screen.type("r"));
-    EXPECT_EQ(screen.look("lvwBox").text, "Row 2") << "The next one that begins so.";
-    ui.call([&] { EnableWindow(window("lvwBox"), FALSE); });
-    EXPECT_FALSE(screen.choose("lvwBox", 1));
-}
-
-TEST_F(WindowsScreenTest, SeesAndChoosesTabs) {
-    Sight tabs = screen.look("tabBox");
-    EXPECT_EQ(tabs.lines, (Events{"&One", "&Two", "T&hree"}));
-    EXPECT_EQ(tabs.selected, 0);
-    EXPECT_EQ(tabs.text, "&One");
-    EXPECT_TRUE(screen.choose("tabBox", 2));
-    EXPECT_EQ(events(), Events{"tab 2"});
-    tabs = screen.look("tabBox");
-    EXPECT_EQ(tabs.text, "T&hree");
-    EXPECT_TRUE(tabs.focused);
-    EXPECT_TRUE(screen.key(Key::left));
-    EXPECT_EQ(screen.look("tabBox").selected, 1);
-    EXPECT_FALSE(screen.choose("tabBox", 3));
-    EXPECT_FALSE(screen.choose("tabBox", -1));
 }
 
 TEST_F(WindowsScreenTest, SetsDatesAndTimesByTyping) {
@@ -334,86 +176,6 @@ TEST_F(WindowsScreenTest, JobsRunWhileADialogIsOpenAndTheirFailuresComeBack) {
     EXPECT_TRUE(ui.busy());
     EXPECT_THROW(ui.start([] { throw std::runtime_error("no"); }), std::runtime_error);
     EXPECT_EQ(screen.front(), "dlgPlain");
-}
-
-TEST_F(WindowsScreenTest, ADescriptionIsReadWithItsEscapesUndone) {
-    ui.call([&] {
-        dialog.description = L"dlgPlain\tform\t1\t1\t-1\t0\ttab\\t return\\r line\\n slash\\\\0 NUL\\0 end\n";
-        using namespace std::string_literals;
-        EXPECT_EQ(described(window("dlgPlain")).front().text, "tab\t return\r line\n slash\\0 NUL\0 end"s);
-    });
-}
-
-TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
-    const auto differences = [&](const wchar_t* description) {
-        std::string found;
-        ui.call([&] {
-            dialog.description = description;
-            found = differences_in(window("dlgPlain"));
-        });
-        return found;
-    };
-    EXPECT_EQ(differences(L"dlgPlain\tform\t1\t1\t-1\t0\tPlain\n"
-                          L"lblBox\tlabel\t1\t1\t-1\t0\t&Text:\n"
-                          L"chkBox\tcheck_box\t1\t1\t0\t0\tTic&k\n"
-                          L"lstBox\tlist_box\t1\t1\t-1\t50\t\n"
-                          L"treBox\ttree_view\t1\t1\t-1\t30\t\n"
-                          L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
-                          L"treBox\trow\t1\t1\t-1\t0\t+Node 1\n"
-                          L"lvwBox\tlist_view\t1\t1\t-1\t30\t\n"
-                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tName\n"
-                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tValue\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | Value 0\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 1 | Value 1\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\t*Row 2* | red:Value 2\n"
-                          L"tabBox\ttab_strip\t1\t1\t0\t3\t&One\n"
-                          L"tabBox\trow\t1\t1\t-1\t0\t&One\n"
-                          L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-21\n"
-                          L"bnOff\tbutton\t0\t1\t-1\t0\tOff\n"
-                          L"bnHidden\tbutton\t1\t0\t-1\t0\tHidden\n"
-                          L"Timer1\ttimer\t1\t0\t-1\t0\t\n"),
-              "");
-    EXPECT_EQ(differences(L"dlgPlain\tform\t1\t1\t-1\t0\tPl\\tain\n"
-                          L"chkBox\tcheck_box\t1\t0\t1\t0\tTic&k\n"
-                          L"lstBox\tlist_box\t1\t1\t3\t49\tLine 3\n"
-                          L"treBox\ttree_view\t1\t1\t2\t31\tNode 2\n"
-                          L"treBox\trow\t1\t1\t-1\t0\t Node 0\n"
-                          L"treBox\trow\t1\t1\t-1\t0\t-Node 1\n"
-                          L"lvwBox\tlist_view\t1\t1\t1\t31\tRow 1\n"
-                          L"lvwBox\tcolumn\t1\t1\t-1\t0\tItem\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | red:Value 0\n"
-                          L"tabBox\ttab_strip\t1\t1\t1\t3\t&Two\n"
-                          L"tabBox\trow\t1\t1\t-1\t0\tOne\n"
-                          L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-22\n"
-                          L"lblBox\tpanel\t1\t1\t1\t0\t&Text:\n"
-                          L"bnOff\tbutton\t1\t1\t-1\t0\tOff\n"
-                          L"bnNone\tbutton\t1\t1\t-1\t0\tNone\n"),
-              "dlgPlain: the caption is \"Plain\", but should be \"Pl\tain\"\n"
-              "dlgPlain.chkBox: visible is true, but should be false\n"
-              "dlgPlain.chkBox: the selected line or value is 0, but should be 1\n"
-              "dlgPlain.lstBox: the text is \"\", but should be \"Line 3\"\n"
-              "dlgPlain.lstBox: the number of lines is 50, but should be 49\n"
-              "dlgPlain.lstBox: the selected line or value is -1, but should be 3\n"
-              "dlgPlain.treBox: the text is \"\", but should be \"Node 2\"\n"
-              "dlgPlain.treBox: a row is \"+Node 1\", but should be \"-Node 1\"\n"
-              "dlgPlain.treBox: the number of lines is 30, but should be 31\n"
-              "dlgPlain.treBox: the selected line or value is -1, but should be 2\n"
-              "dlgPlain.lvwBox: the text is \"\", but should be \"Row 1\"\n"
-              "dlgPlain.lvwBox: the number of columns is 2, but should be 1\n"
-              "dlgPlain.lvwBox: a column is \"Name\", but should be \"Item\"\n"
-              "dlgPlain.lvwBox: a row is \"Row 0 | Value 0\", but should be \"Row 0 | red:Value 0\"\n"
-              "dlgPlain.lvwBox: the number of lines is 30, but should be 31\n"
-              "dlgPlain.lvwBox: the selected line or value is -1, but should be 1\n"
-              "dlgPlain.tabBox: the text is \"&One\", but should be \"&Two\"\n"
-              "dlgPlain.tabBox: a row is \"&One\", but should be \"One\"\n"
-              "dlgPlain.tabBox: the selected line or value is 0, but should be 1\n"
-              "dlgPlain.dtpDay: the text is \"2026-11-21\", but should be \"2026-11-22\"\n"
-              "dlgPlain.lblBox: in front is false, but should be true\n"
-              "dlgPlain.bnOff: enabled is false, but should be true\n"
-              "dlgPlain.bnNone: it has no window\n");
-    EnableWindow(ui.window(), TRUE);
-    EXPECT_EQ(differences(L"dlgPlain\tform\t1\t1\t-1\t0\tPlain\n"),
-              "dlgPlain: \"Host\" takes input at the same time\n");
 }
 
 TEST_F(WindowsScreenTest, AThreadThatHangsEndsTheDeed) {

@@ -54,7 +54,14 @@ private:
         ui_.call([&] { answer = question(); });
         return answer;
     }
-    template <class Deed> bool done(Deed&& deed);
+    /// Does a deed, given as what posts its input and says whether a person could do it.
+    template <class Deed> bool done(Deed&& deed) {
+        if (!asked(deed)) return false;
+        ui_.settle();
+        if (ui_.is_this()) return false;
+        note_differences();
+        return true;
+    }
     bool stroke(const Stroke& stroke);
     bool click_sign(const std::string& tree, int row, bool open);
     bool choose_in_combo_box(const std::string& list, int line);

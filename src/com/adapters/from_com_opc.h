@@ -4,6 +4,14 @@
 
 namespace brx {
 
+/// A position as an argument. It owns nothing.
+inline VARIANT position_argument(std::int32_t position) {
+    VARIANT argument{};
+    V_VT(&argument) = VT_I4;
+    V_I4(&argument) = position;
+    return argument;
+}
+
 template <> class FromCom<OPCServer> final : public ComModel<OPCServer> {
 public:
     using ComModel::ComModel;
@@ -35,6 +43,15 @@ public:
     std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
     OPCGroupPtr Item(const Variant& item_specifier) override {
         return get<OPCGroupPtr>(&Interface::Item, item_specifier);
+    }
+    void read_name(std::int32_t position, std::string& name) override {
+        com_ptr<::IOPCGroup> group;
+        require(original()->Item(position_argument(position), group.out()));
+        if (!group) throw Error(error::object_not_set);
+        Bstr text;
+        if (const HRESULT result = group->get_Name(text.out()); FAILED(result))
+            check(result, group.get(), __uuidof(::IOPCGroup));
+        text.read(name);
     }
     OPCGroupPtr Add(const std::optional<std::string>& name) override {
         return get<OPCGroupPtr>(&Interface::Add, name ? Variant(*name) : Variant(Missing{}));
@@ -114,11 +131,8 @@ public:
         return name;
     }
     void read_item(std::int32_t index, std::string& name) override {
-        VARIANT position{};
-        V_VT(&position) = VT_I4;
-        V_I4(&position) = index;
         Bstr item;
-        require(original()->Item(position, item.out()));
+        require(original()->Item(position_argument(index), item.out()));
         item.read(name);
     }
     void ShowBranches() override { call(&Interface::ShowBranches); }

@@ -62,6 +62,9 @@ public:
     virtual std::int32_t Count() = 0;
     /// By position (32-bit integer) or by name (text, exact case).
     virtual OPCGroupPtr Item(const Variant& item_specifier) = 0;
+    /// The name of the group at a position, into a text that is there already: for a look at every group each
+    /// second.
+    virtual void read_name(std::int32_t position, std::string& name);
     /// A new group; the server makes up a name when it is omitted.
     virtual OPCGroupPtr Add(const std::optional<std::string>& name) = 0;
     virtual void RemoveAll() = 0;
@@ -77,6 +80,10 @@ public:
     virtual std::string Name() = 0;
     virtual OPCItemsPtr OPCItems() = 0;
 };
+
+inline void OPCGroups::read_name(std::int32_t position, std::string& name) {
+    name = the(Item(position)).Name();
+}
 
 /// What adding items gave, one element for each item in the order given.
 struct AddedItems {
