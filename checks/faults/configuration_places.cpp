@@ -1,6 +1,7 @@
 #include "known_places.h"
 
-// Errors are ignored as the lists are read again after something could not be taken back.
+// Errors are ignored as the lists are read again after something could not be taken back, and as former names
+// are written back.
 std::vector<std::string> brx::checks::configuration_places() {
     return {
         "hlxOPCConfiguration.Active in dlgConfiguration.Form_Load",
@@ -253,5 +254,7 @@ std::vector<std::string> brx::checks::configuration_places() {
         "hlxOPCTest.State in nobody's trap",
         "hlxOPCTests.Count in nobody's trap",
         "hlxOPCTests.Item in nobody's trap",
+        "hlxOPCDescriptor.GroupName= in nobody's trap",
+        "hlxOPCDescriptor.ItemName= in nobody's trap",
     };
 }

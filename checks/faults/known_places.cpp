@@ -158,6 +158,20 @@ const std::set<std::string>& brx::checks::known_places_of_failure() {
         "hlxTestData.Mode= in dlgOPCTest.TestChoices",
         "hlxTestData.Name in dlgOPCTest.bnTest_Click",
         "hlxTestData.Save in dlgOPCTest.TestChoices",
+
+        // As former values are written back.
+        "hlxOPCTest.ClientHandle= in nobody's trap",
+        "hlxOPCTest.Constant= in nobody's trap",
+        "hlxOPCTest.ItemTrigger= in nobody's trap",
+        "hlxOPCTest.OPCItemID= in nobody's trap",
+        "hlxOPCTest.SaveAs= in nobody's trap",
+        "hlxOPCTest.State= in nobody's trap",
+        "hlxOPCTest.TriggerExpression= in nobody's trap",
+        "hlxOPCTest.TriggerValue= in nobody's trap",
+        "hlxTestData.Flag= in nobody's trap",
+        "hlxTestData.ID= in nobody's trap",
+        "hlxTestData.Mode= in nobody's trap",
+        "hlxTestData.Save in nobody's trap",
     };
     static const std::set<std::string> places = [] {
         std::set<std::string> all = own;
