@@ -4,7 +4,8 @@ namespace brx::host {
 
 std::shared_ptr<Host> Host::open(const std::string& path, std::shared_ptr<OpcSource> source, Log& log) {
     auto host = std::make_shared<Host>(path, std::move(source), log);
-    log.add("Opened " + path + (host->database_.file().is_read_only() ? " (write-protected)." : "."));
+    log.add("Opened " + path.substr(path.find_last_of("/\\") + 1) +
+            (host->database_.file().is_read_only() ? " (write-protected)." : "."));
     return host;
 }
 

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <filesystem>
+
 // What the window shows follows what is selected in it.
 
 namespace sample {
@@ -59,7 +61,9 @@ void MainWindow::show_selection() {
     CheckMenuRadioItem(GetMenu(window_), ID_PLANT, ID_WRAPPER, wrapper ? ID_WRAPPER : ID_PLANT, MF_BYCOMMAND);
     SetWindowTextW(child(ID_ITEM), position != 0 ? model_->last_item(position).c_str() : L"");
     const HWND status = child(ID_STATUS);
-    SendMessageW(status, SB_SETTEXTW, 0, reinterpret_cast<LPARAM>((L" " + model_->database_file()).c_str()));
+    SendMessageW(status, SB_SETTEXTW, 0,
+                 reinterpret_cast<LPARAM>(
+                     (L" " + std::filesystem::path(model_->database_file()).filename().wstring()).c_str()));
     SendMessageW(status, SB_SETTEXTW, 1,
                  reinterpret_cast<LPARAM>(wrapper ? L" OPC automation wrapper" : L" Simulated plant"));
 }
