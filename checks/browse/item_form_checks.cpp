@@ -25,11 +25,7 @@ struct ItemForm : testing::Test {
     Environment environment{engine, host, host, Locale::us_english()};
     dlgItemSelect form{environment};
 
-    template <class Which> Which& find(const std::string& name) {
-        for (Control* control : form.controls())
-            if (control->name() == name) return dynamic_cast<Which&>(*control);
-        throw Error(error::element_not_found);
-    }
+    template <class Which> Which& find(const std::string& name) { return control_of<Which>(form, name); }
     TreeView& tree() { return find<TreeView>("TrView"); }
 
     /// Shows the form with a person before it who does this.

@@ -24,11 +24,7 @@ struct ConfigurationForm : testing::Test {
     Environment environment{engine, host, host, Locale::us_english()};
     dlgConfiguration form{environment};
 
-    template <class Which> Which& find(const std::string& name) {
-        for (Control* control : form.controls())
-            if (control->name() == name) return dynamic_cast<Which&>(*control);
-        throw Error(error::element_not_found);
-    }
+    template <class Which> Which& find(const std::string& name) { return control_of<Which>(form, name); }
     TextBox& box(const std::string& name) { return find<TextBox>(name); }
     ListView& list(const std::string& name) { return find<ListView>(name); }
     void tick() { EXPECT_TRUE(find<Timer>("Timer1").tick()); }

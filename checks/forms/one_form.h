@@ -41,6 +41,13 @@ public:
     }
 };
 
+/// The control of the form with this name.
+template <class Which> Which& control_of(Form& form, const std::string& name) {
+    for (Control* control : form.controls())
+        if (control->name() == name) return dynamic_cast<Which&>(*control);
+    throw Error(error::element_not_found);
+}
+
 /// A form with one control of each kind that the checks drive.
 class OneForm : public Form {
 public:

@@ -34,12 +34,6 @@ struct LimitTest : testing::TestWithParam<const Locale*> {
         };
     }
 
-    template <class Which> static Which& find(Form& in, const std::string& name) {
-        for (Control* control : in.controls())
-            if (control->name() == name) return dynamic_cast<Which&>(*control);
-        throw Error(error::element_not_found);
-    }
-
     void the_item_is_of(std::int16_t type) {
         FakeOPCItems& items = *host.group->items;
         items.forget_all();
@@ -56,8 +50,8 @@ struct LimitTest : testing::TestWithParam<const Locale*> {
         form.set_TriggerValue(std::string("former"));
         engine.while_open = [&](Form&) {
             const ModalTurn waiting(&form);
-            find<TextBox>(form, "txtValue").user_text(text);
-            find<Button>(form, "bnOK").user_click();
+            control_of<TextBox>(form, "txtValue").user_text(text);
+            control_of<Button>(form, "bnOK").user_click();
         };
         messages.clear();
         form.show_modal();
@@ -78,9 +72,9 @@ struct LimitTest : testing::TestWithParam<const Locale*> {
         form.set_TestOPCItemID(item);
         engine.while_open = [&](Form&) {
             const ModalTurn waiting(&form);
-            find<TextBox>(form, "txtValue").user_text(value);
-            find<TextBox>(form, "txtConstant").user_text(constant);
-            find<Button>(form, "bnOK").user_click();
+            control_of<TextBox>(form, "txtValue").user_text(value);
+            control_of<TextBox>(form, "txtConstant").user_text(constant);
+            control_of<Button>(form, "bnOK").user_click();
         };
         messages.clear();
         form.show_modal();

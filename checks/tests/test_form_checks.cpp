@@ -32,20 +32,15 @@ struct TestForm : testing::Test {
     dlgOPCTest form{environment};
     std::vector<std::string> messages;
 
-    template <class Which> static Which& find(Form& in, const std::string& name) {
-        for (Control* control : in.controls())
-            if (control->name() == name) return dynamic_cast<Which&>(*control);
-        throw Error(error::element_not_found);
-    }
-    TextBox& constant() { return find<TextBox>(form, "txtConstant"); }
-    void press(const std::string& button) { EXPECT_TRUE(find<Button>(form, button).user_click()); }
+    TextBox& constant() { return control_of<TextBox>(form, "txtConstant"); }
+    void press(const std::string& button) { EXPECT_TRUE(control_of<Button>(form, button).user_click()); }
 
     void while_open(const std::function<void()>& story) {
         engine.while_open = [=, this](Form& shown) {
             const ModalTurn waiting(&shown);
             if (&shown == &form) return story();
-            EXPECT_TRUE(find<TextBox>(shown, "txtFullPath").user_text("Line1.Force"));
-            EXPECT_TRUE(find<Button>(shown, "bnOK").user_click());
+            EXPECT_TRUE(control_of<TextBox>(shown, "txtFullPath").user_text("Line1.Force"));
+            EXPECT_TRUE(control_of<Button>(shown, "bnOK").user_click());
         };
         form.show_modal();
     }

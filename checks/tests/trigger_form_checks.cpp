@@ -33,15 +33,10 @@ struct TriggerForm : testing::Test {
     dlgEvaluation form{environment};
     std::vector<Message> messages;
 
-    template <class Which> Which& find(Form& in, const std::string& name) {
-        for (Control* control : in.controls())
-            if (control->name() == name) return dynamic_cast<Which&>(*control);
-        throw Error(error::element_not_found);
-    }
-    ComboBox& items() { return find<ComboBox>(form, "cboItem"); }
-    ComboBox& operators() { return find<ComboBox>(form, "cboExpression"); }
-    TextBox& value() { return find<TextBox>(form, "txtValue"); }
-    Button& ok() { return find<Button>(form, "bnOK"); }
+    ComboBox& items() { return control_of<ComboBox>(form, "cboItem"); }
+    ComboBox& operators() { return control_of<ComboBox>(form, "cboExpression"); }
+    TextBox& value() { return control_of<TextBox>(form, "txtValue"); }
+    Button& ok() { return control_of<Button>(form, "bnOK"); }
 
     /// Shows the form with a trigger and a person before it who does this.
     void with_trigger(const std::string& item, std::int32_t expression, const Variant& trigger_value,
@@ -69,11 +64,11 @@ struct TriggerForm : testing::Test {
     std::string browsed;
     void browse(Form& browser) {
         if (browsed.empty()) {
-            EXPECT_TRUE(find<Button>(browser, "bnCancel").user_click());
+            EXPECT_TRUE(control_of<Button>(browser, "bnCancel").user_click());
             return;
         }
-        EXPECT_TRUE(find<TextBox>(browser, "txtFullPath").user_text(browsed));
-        EXPECT_TRUE(find<Button>(browser, "bnOK").user_click());
+        EXPECT_TRUE(control_of<TextBox>(browser, "txtFullPath").user_text(browsed));
+        EXPECT_TRUE(control_of<Button>(browser, "bnOK").user_click());
     }
 };
 
@@ -228,10 +223,10 @@ TEST_F(TriggerForm, ATypeThatCannotBeReadIsToldAndTheValueBecomesADouble) {
 TEST_F(TriggerForm, ABrowsedItemIsAddedAndIsTheCallersToRemove) {
     browsed = "New";
     with_trigger("Count", 1, std::int32_t{7}, [&] {
-        EXPECT_TRUE(find<Button>(form, "bnItem").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnItem").user_click());
         EXPECT_EQ(items().text(), "New");
         EXPECT_EQ(items().count(), 7);
-        EXPECT_TRUE(find<Button>(form, "bnCancel").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnCancel").user_click());
     });
     EXPECT_TRUE(form.AddedNewItem());
     EXPECT_NE(host.group->items->handle_of("New"), 0);
@@ -242,7 +237,7 @@ TEST_F(TriggerForm, ABrowsedItemThatTheGroupHasIsSelected) {
     browsed = "Flag";
     host.group->items->answers["Flag"] = 0;
     with_trigger("Count", 1, std::int32_t{7}, [&] {
-        EXPECT_TRUE(find<Button>(form, "bnItem").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnItem").user_click());
         EXPECT_EQ(items().text(), "Flag");
     });
     EXPECT_FALSE(form.AddedNewItem());
@@ -253,7 +248,7 @@ TEST_F(TriggerForm, ABrowsedItemThatCannotBeAddedChangesNothingSilently) {
     browsed = "Odd";
     host.group->items->claimed_errors = LongArray{{0}};
     with_trigger("Count", 1, std::int32_t{7}, [&] {
-        EXPECT_TRUE(find<Button>(form, "bnItem").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnItem").user_click());
         EXPECT_EQ(items().text(), "Count");
         EXPECT_EQ(items().count(), 6);
     });
@@ -264,7 +259,7 @@ TEST_F(TriggerForm, ABrowsedItemThatCannotBeAddedChangesNothingSilently) {
 
 TEST_F(TriggerForm, ACancelledBrowserChangesNothing) {
     with_trigger("Count", 1, std::int32_t{7}, [&] {
-        EXPECT_TRUE(find<Button>(form, "bnItem").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnItem").user_click());
         EXPECT_EQ(items().text(), "Count");
     });
     EXPECT_FALSE(form.AddedNewItem());
@@ -279,7 +274,7 @@ TEST_F(TriggerForm, AnOperatorCodeWithoutRoomIsAnOverflow) {
 TEST_F(TriggerForm, CancelLeavesTheTriggerAsItWas) {
     with_trigger("Count", 1, std::int32_t{7}, [&] {
         EXPECT_TRUE(value().user_text("8"));
-        EXPECT_TRUE(find<Button>(form, "bnCancel").user_click());
+        EXPECT_TRUE(control_of<Button>(form, "bnCancel").user_click());
         EXPECT_FALSE(form.loaded());
     });
     EXPECT_FALSE(form.OkClicked());

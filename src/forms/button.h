@@ -19,13 +19,7 @@ struct ButtonDesign {
 class Button : public Control {
 public:
     Button(Container& container, const char* name, const ButtonDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor}),
-          design_(design) {}
+        : Control(container, name, look_of(design)), design_(design) {}
 
     Kind kind() const override { return Kind::button; }
     bool focusable() const override { return true; }

@@ -19,14 +19,7 @@ struct CheckBoxDesign {
 class CheckBox : public Control {
 public:
     CheckBox(Container& container, const char* name, const CheckBoxDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor}),
-          design_(design),
-          value_(design.value) {}
+        : Control(container, name, look_of(design)), design_(design), value_(design.value) {}
 
     Kind kind() const override { return Kind::check_box; }
     bool focusable() const override { return true; }

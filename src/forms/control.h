@@ -47,6 +47,23 @@ struct Look {
     Color fore_color = color::button_text;
 };
 
+/// What the designs of all kinds say of a control's looks.
+template <class Design>
+Look look_of(const Design& design, Color back_color = color::button_face,
+             Color fore_color = color::button_text) {
+    return {.place = design.place,
+            .tab = design.tab,
+            .enabled = design.enabled,
+            .visible = design.visible,
+            .anchor = design.anchor,
+            .back_color = back_color,
+            .fore_color = fore_color};
+}
+/// The same for what is drawn like the inside of a window.
+template <class Design> Look window_look_of(const Design& design) {
+    return look_of(design, color::window, color::window_text);
+}
+
 /// A control owns its state and fires its own events. Setters are for code; `user_...` verbs are for what a
 /// person did, and refuse what a person could not do.
 class Control : public Element {

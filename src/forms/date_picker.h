@@ -24,15 +24,7 @@ struct DatePickerDesign {
 class DatePicker : public Control {
 public:
     DatePicker(Container& container, const char* name, const DatePickerDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor,
-                   .back_color = color::window,
-                   .fore_color = color::window_text}),
-          design_(design) {}
+        : Control(container, name, window_look_of(design)), design_(design) {}
 
     Kind kind() const override { return Kind::date_picker; }
     bool focusable() const override { return true; }

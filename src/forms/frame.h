@@ -21,20 +21,15 @@ public:
     Control* as_control() override { return this; }
 
 protected:
-    ContainerControl(Container& container, const char* name, const FrameDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor}) {}
+    ContainerControl(Container& container, const char* name, const Look& look)
+        : Control(container, name, look) {}
 };
 
 /// A captioned group of controls.
 class Frame : public ContainerControl {
 public:
     Frame(Container& container, const char* name, const FrameDesign& design)
-        : ContainerControl(container, name, design), caption_(design.caption) {}
+        : ContainerControl(container, name, look_of(design)), caption_(design.caption) {}
 
     Kind kind() const override { return Kind::frame; }
     const std::string& caption() const { return caption_; }
@@ -56,13 +51,7 @@ struct PanelDesign {
 class Panel : public ContainerControl {
 public:
     Panel(Container& container, const char* name, const PanelDesign& design)
-        : ContainerControl(container, name,
-                           {.place = design.place,
-                            .tab = design.tab,
-                            .enabled = design.enabled,
-                            .visible = design.visible,
-                            .anchor = design.anchor}),
-          edge_(design.edge) {}
+        : ContainerControl(container, name, look_of(design)), edge_(design.edge) {}
 
     Kind kind() const override { return Kind::panel; }
     bool edge() const { return edge_; }

@@ -63,15 +63,7 @@ public:
 
 protected:
     ListControl(Container& container, const char* name, const ListDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor,
-                   .back_color = color::window,
-                   .fore_color = color::window_text}),
-          design_(design) {}
+        : Control(container, name, window_look_of(design)), design_(design) {}
 
 private:
     int checked(int index) const;

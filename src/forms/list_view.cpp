@@ -49,15 +49,7 @@ void ListRow::set_look(int column, const CellLook& look) {
 }
 
 ListView::ListView(Container& container, const char* name, const ListViewDesign& design)
-    : Control(container, name,
-              {.place = design.place,
-               .tab = design.tab,
-               .enabled = design.enabled,
-               .visible = design.visible,
-               .anchor = design.anchor,
-               .back_color = color::window,
-               .fore_color = color::window_text}),
-      design_(design) {}
+    : Control(container, name, window_look_of(design)), design_(design) {}
 
 void ListView::add_column(const std::string& caption, int width) {
     columns_.push_back({caption, width});

@@ -22,13 +22,7 @@ struct TabStripDesign {
 class TabStrip : public Control {
 public:
     TabStrip(Container& container, const char* name, const TabStripDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor}),
-          design_(design) {}
+        : Control(container, name, look_of(design)), design_(design) {}
 
     Kind kind() const override { return Kind::tab_strip; }
     bool focusable() const override { return true; }

@@ -32,14 +32,7 @@ struct TextBoxDesign {
 class TextBox : public Control {
 public:
     TextBox(Container& container, const char* name, const TextBoxDesign& design)
-        : Control(container, name,
-                  {.place = design.place,
-                   .tab = design.tab,
-                   .enabled = design.enabled,
-                   .visible = design.visible,
-                   .anchor = design.anchor,
-                   .back_color = design.display_only ? color::button_face : color::window,
-                   .fore_color = design.display_only ? color::button_text : color::window_text}),
+        : Control(container, name, design.display_only ? look_of(design) : window_look_of(design)),
           design_(design),
           text_(design.text) {}
 

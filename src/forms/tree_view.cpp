@@ -5,15 +5,7 @@
 namespace brx {
 
 TreeView::TreeView(Container& container, const char* name, const TreeViewDesign& design)
-    : Control(container, name,
-              {.place = design.place,
-               .tab = design.tab,
-               .enabled = design.enabled,
-               .visible = design.visible,
-               .anchor = design.anchor,
-               .back_color = color::window,
-               .fore_color = color::window_text}),
-      design_(design) {}
+    : Control(container, name, window_look_of(design)), design_(design) {}
 
 TreeNode& TreeView::insert(TreeNode* parent, const std::string& key, const std::string& text) {
     if (!key.empty() && by_key_.contains(key)) throw Error(error::key_not_unique);
