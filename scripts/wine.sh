@@ -22,7 +22,12 @@ while [[ ${1:-} == --* ]]; do
     shift
 done
 [ $# -gt 0 ] || die "run what?"
-trap wine_end EXIT
+# The next program in this prefix finds the usual scale again.
+end() {
+    [ -z "$dpi" ] || wine_dpi 96
+    wine_end
+}
+trap end EXIT
 wine_begin "$bits" "${prefix:-wine$bits}"
 [ -z "$dpi" ] || wine_dpi "$dpi"
 [ -z "$locale" ] || wine_locale "$locale"
