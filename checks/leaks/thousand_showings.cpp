@@ -83,7 +83,7 @@ SCENARIO(ManyShowings, OfTheDialogsOverTheConfigurationLeaveNothingBehind) {
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     Configuring dialog(its);
-    leaves_nothing_behind(its, many_showings / 2, [&] {
+    leaves_nothing_behind(its, many_showings / 4, [&] {
         dialog.turns_to_sampling();
         its.person.presses("cmdSubgroupTrigger");
         its.person.closes_the_window();
