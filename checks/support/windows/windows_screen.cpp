@@ -24,6 +24,11 @@ HWND WindowsScreen::top_window() const {
 }
 
 HWND WindowsScreen::top_form() const {
+    // The order on the screen can be wrong for a moment while a window above closes.
+    const HWND front = top_window();
+    if (front && !is_message_box(front)) return front;
+    const HWND owner = front ? GetWindow(front, GW_OWNER) : nullptr;
+    if (owner && !name_of(owner).empty()) return owner;
     for (const HWND window : windows_of(ui_.id()))
         if (!name_of(window).empty()) return window;
     return nullptr;
