@@ -106,8 +106,7 @@ SCENARIO(TestDialog, TheValueIsKeptAsTheItemsType) {
         its.person.presses("bnOK");
         EXPECT_TRUE(testing.result());
         EXPECT_EQ(testing.fields().value, each.expected);
-        its.host.group->items->forget_all();
-        its.host.browser->root.branches.clear();
+        start_over(its);
     }
 }
 
@@ -241,9 +240,7 @@ SCENARIO(TestDialog, WhenTheHostFailsHalfWayTheTestIsAsBefore) {
          {"hlxOPCTest.ItemTrigger=", "hlxOPCTest.TriggerValue=", "hlxOPCTest.ClientHandle=",
           "hlxOPCTest.TriggerExpression=", "hlxOPCTest.OPCItemID=", "hlxOPCTest.State=", "hlxTestData.ID=",
           "hlxTestData.Save", "hlxOPCTest.Constant=", "hlxOPCTest.SaveAs="}) {
-        its.host.configuration->tests->entries.clear();
-        its.host.group->items->forget_all();
-        its.host.browser->root.branches.clear();
+        start_over(its);
         Testing testing(its, a_bound_test(its, 2));
         testing.picks_characteristic(8, "Width");
         its.person.picks("cboExpression", " <> ");
@@ -283,9 +280,7 @@ SCENARIO(TestDialog, ACharacteristicRecordThatIsGoneIsReportedAndNothingWritten)
 SCENARIO(TestDialog, ATestThatCouldNotBeReadIsNotWritten) {
     for (const char* member : {"hlxOPCTest.ItemTrigger", "hlxOPCTest.Constant", "hlxOPCTest.SaveAs",
                                "hlxOPCTest.TriggerExpression", "hlxOPCTest.TriggerValue"}) {
-        its.host.configuration->tests->entries.clear();
-        its.host.group->items->forget_all();
-        its.host.browser->root.branches.clear();
+        start_over(its);
         const auto test = a_bound_test(its, 2);
         its.host.calls.fail_on(member);
         Testing testing(its, test);

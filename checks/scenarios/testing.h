@@ -47,6 +47,13 @@ private:
     Showing edit_;
 };
 
+/// Before the next round of a story: no tests, no items, nothing to browse.
+inline void start_over(Play& its) {
+    its.host.configuration->tests->entries.clear();
+    its.host.group->items->forget_all();
+    its.host.browser->root.branches.clear();
+}
+
 /// A test that has a characteristic, an item and a trigger.
 inline std::shared_ptr<FakeTest> a_bound_test(Play& its, std::int16_t data_type) {
     its.host.group->items->data_types["Line1.Speed"] = data_type;
