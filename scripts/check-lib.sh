@@ -17,6 +17,9 @@ part_end() {
     exit
 }
 
+# is_prepared "$@": ends the part here when only what it needs is to be made.
+is_prepared() { [ "${1:-}" != prepare ] || part_end; }
+
 # fail NAME TEXT..: one failed check.
 fail() {
     failed=$((failed + 1))

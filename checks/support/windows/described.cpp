@@ -100,8 +100,7 @@ void compare_order(HWND form, HWND panel, const Described& held, Differences& di
     differences.compare(held.name, "in front", in_front, held.number == 1);
 }
 
-void compare_control(HWND form, const Described& held, Differences& differences) {
-    const HWND window = find_control(form, held.name);
+void compare_control(HWND form, HWND window, const Described& held, Differences& differences) {
     if (!window) return differences.add(held.name, "it has no window");
     const Sight shown = sight_of(window, nullptr);
     differences.compare(held.name, "the text", shown.text, held.text);
@@ -161,8 +160,10 @@ std::string differences_in(HWND form) {
     Differences differences(all.front().name);
     differences.compare(all.front().name, "the name", name_of(form), all.front().name);
     differences.compare(all.front().name, "the caption", text_of(form), all.front().text);
+    const NamedWindows windows(form);
     for (const Described& each : all)
-        if (each.kind != "form" && each.kind != "timer") compare_control(form, each, differences);
+        if (each.kind != "form" && each.kind != "timer")
+            compare_control(form, windows.find(each.name), each, differences);
     compare_modality(form, differences);
     return differences.all();
 }

@@ -14,6 +14,10 @@ namespace {
 
 constexpr const wchar_t* name_property = L"brx.Name";
 
+ATOM name_atom_of(HWND window) {
+    return static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, name_property)));
+}
+
 std::wstring class_of(HWND window) {
     std::array<wchar_t, 64> name{};
     const UINT length = RealGetWindowClassW(window, name.data(), static_cast<UINT>(name.size()));
@@ -83,7 +87,7 @@ LRESULT ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 std::string name_of(HWND window) {
-    const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, name_property)));
+    const ATOM atom = name_atom_of(window);
     if (atom == 0) return {};
     std::array<wchar_t, 256> name{};
     const UINT length = GlobalGetAtomNameW(atom, name.data(), static_cast<int>(name.size()));
@@ -103,14 +107,21 @@ std::vector<HWND> windows_of(DWORD thread) {
     return windows;
 }
 
-HWND find_control(HWND form, const std::string& name) {
-    for (const HWND child : children_of(form)) {
-        // The system keeps names without regard to case.
-        if (equal_ignoring_case(name_of(child), name)) return child;
-        if (const HWND deeper = find_control(child, name)) return deeper;
-    }
-    return nullptr;
+NamedWindows::NamedWindows(HWND form) {
+    const auto add = [](HWND window, LPARAM list) noexcept -> BOOL {
+        if (const ATOM name = name_atom_of(window)) reinterpret_cast<List*>(list)->emplace_back(name, window);
+        return TRUE;
+    };
+    EnumChildWindows(form, add, reinterpret_cast<LPARAM>(&windows_));
 }
+
+HWND NamedWindows::find(const std::string& name) const {
+    const ATOM wanted = GlobalFindAtomW(brx::wide(name).c_str());
+    const auto found = std::ranges::find(windows_, wanted, &List::value_type::first);
+    return wanted != 0 && found != windows_.end() ? found->second : nullptr;
+}
+
+HWND find_control(HWND form, const std::string& name) { return NamedWindows(form).find(name); }
 
 NativeKind kind_of(HWND control) {
     const std::wstring name = class_of(control);

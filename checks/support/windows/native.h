@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brx::checks {
@@ -26,6 +27,19 @@ std::string text_of(HWND window);
 
 /// The visible top-level windows of a thread, uppermost first.
 std::vector<HWND> windows_of(DWORD thread);
+
+/// The windows within a form's window that carry names, all found in one walk: every question about another
+/// window is a message to the system's server, and a form has sixty windows.
+class NamedWindows {
+public:
+    explicit NamedWindows(HWND form);
+    /// Null when there is none. The system keeps names without regard to case.
+    HWND find(const std::string& name) const;
+
+private:
+    using List = std::vector<std::pair<ATOM, HWND>>;
+    List windows_;
+};
 
 /// The control's window within a form's window, or null.
 HWND find_control(HWND form, const std::string& name);

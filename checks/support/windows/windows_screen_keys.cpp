@@ -94,7 +94,7 @@ bool WindowsScreen::go_to_by_tab(const std::string& control) {
 
 bool WindowsScreen::stroke(const Stroke& stroke) {
     const Stroke alt_key{.key = VK_MENU, .alt = true};
-    const bool down = done([&] {
+    const bool down = asked([&] {
         const HWND focused = focused_in_front();
         if (!focused) return false;
         hold_down(stroke);
@@ -102,6 +102,7 @@ bool WindowsScreen::stroke(const Stroke& stroke) {
         press_down(focused, stroke);
         return true;
     });
+    ui_.settle();
     // Wherever the focus has gone.
     done([&] {
         const HWND focused = GetFocus();

@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# The same with the 32-bit DLL, in a 32-bit root; where there can be none, the DLL is only inspected.
+# The 32-bit DLL and the check programs, in a 32-bit root; where there can be none, the DLL is only inspected.
+# Builds first.
+# Beside the others, on a core of its own.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
 source "$brx_top/scripts/wine-lib.sh"
@@ -21,6 +23,7 @@ if ! "$brx_top/scripts/wine32.sh" available; then
     "$brx_top/scripts/wine32.sh" make || not_run "no 32-bit root could be made on this machine"
     "$brx_top/scripts/wine32.sh" available || not_run "the 32-bit root cannot be entered on this machine"
 fi
+is_prepared "$@"
 trap wine_end EXIT
 wine_begin 32
 run_programs windows-x86 windows wine_run
