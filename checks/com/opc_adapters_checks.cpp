@@ -140,12 +140,20 @@ TEST_F(OpcAdapterTest, ReadTheNameOfTheGroupAtAPosition) {
     const auto groups = make<OPCGroups>();
     groups->answers["Item"] = ObjectPtr(group);
     const auto model = through(groups);
-    std::string name = "before";
+    HeldText name;
     const auto failing = [&] { return outcome([&] { return model->read_name(two, name), Variant(); }); };
-    model->read_name(two, name);
-    EXPECT_EQ(name, unusual_text);
+    EXPECT_TRUE(model->read_name(two, name));
+    EXPECT_EQ(name.text(), unusual_text);
     EXPECT_THAT(groups->take_calls(), ElementsAre("Item (" + describe(Variant(two)) + ")"));
     EXPECT_THAT(group->take_calls(), ElementsAre("Name"));
+    EXPECT_FALSE(model->read_name(two, name)) << "It is the same name.";
+    EXPECT_THAT(group->take_calls(), ElementsAre("Name"));
+    group->answers["Name"] = std::string("Other");
+    EXPECT_TRUE(model->read_name(two, name));
+    EXPECT_EQ(name.text(), "Other");
+    group->answers["Name"] = std::string();
+    EXPECT_TRUE(model->read_name(two, name));
+    EXPECT_EQ(name.text(), "");
     const Error refused(-2147220501, "No name today", "Sim.1");
     group->failure = refused;
     EXPECT_EQ(failing(), describe(refused));
@@ -155,7 +163,7 @@ TEST_F(OpcAdapterTest, ReadTheNameOfTheGroupAtAPosition) {
     groups->failure = std::nullopt;
     groups->answers["Item"] = ObjectPtr();
     EXPECT_EQ(failing(), describe(Error(error::object_not_set)));
-    EXPECT_EQ(name, unusual_text) << "A failure leaves it as it is.";
+    EXPECT_EQ(name.text(), "") << "A failure leaves it as it is.";
 }
 
 TEST_F(OpcAdapterTest, PassItemsOn) {

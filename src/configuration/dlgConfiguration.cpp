@@ -19,7 +19,7 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
 
 void dlgConfiguration::Form_Load() {
     fields_loaded_ = tests_listed_ = false;
-    group_rows_.clear();
+    groups_.clear();
     piece_trigger_ = subgroup_trigger_ = {};
     trap("Form_Load", [&] {
         load_general();

@@ -189,7 +189,12 @@ private:
 
     // Server information
     void Timer1_Timer();
-    void update_group(std::int32_t n, const std::string& name);
+    /// A server can have a thousand groups: while a name stays the same, its row is not even looked up.
+    struct ListedGroup {
+        HeldText name;
+        bool is_shown = false;
+    };
+    void show_group(std::int32_t n, ListedGroup& group);
     void UpdateServerInfo(const std::string& key, const std::string& caption, const std::string& value);
 
     CommonTools tools_;
@@ -198,7 +203,7 @@ private:
     bool tests_listed_ = false;  ///< the list shows the configuration's tests
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
-    std::vector<const ListRow*> group_rows_; ///< of the server's groups, as far as they are listed
+    std::vector<ListedGroup> groups_; ///< of the server
     std::optional<dlgDescriptorType> type_dialog_;
     std::optional<dlgDescriptorProperties> properties_dialog_;
     std::int32_t first_value_ = 0;

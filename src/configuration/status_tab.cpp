@@ -27,24 +27,21 @@ void dlgConfiguration::Timer1_Timer() {
 
         const OPCGroupsPtr groups = server->OPCGroups();
         const std::int32_t count = the(groups).Count();
-        std::string name;
         for (std::int32_t n = 1; n <= count; ++n) {
-            groups->read_name(n, name);
-            update_group(n, name);
+            if (groups_.size() < static_cast<std::size_t>(n)) groups_.emplace_back();
+            ListedGroup& group = groups_[static_cast<std::size_t>(n) - 1];
+            if (groups->read_name(n, group.name) || !group.is_shown) show_group(n, group);
         }
     });
 }
 
-/// There can be a thousand groups, so the row of each is looked up only once. Rows are never removed here.
-void dlgConfiguration::update_group(std::int32_t n, const std::string& name) {
-    const auto index = static_cast<std::size_t>(n) - 1;
-    if (index < group_rows_.size() && group_rows_[index]->reads(1, name)) return;
+void dlgConfiguration::show_group(std::int32_t n, ListedGroup& group) {
     const std::string number = std::to_string(n);
     const std::string key = "Group" + number;
     // The first one goes without a number.
-    UpdateServerInfo(key, "Group " + (n == 1 ? std::string() : number), name);
+    UpdateServerInfo(key, "Group " + (n == 1 ? std::string() : number), group.name.text());
     const ListRow* const row = lvwServerInfo.find(key);
-    if (row && index == group_rows_.size()) group_rows_.push_back(row);
+    group.is_shown = row && row->reads(1, group.name.text());
 }
 
 /// An unchanged value is not written again, so that the list does not flicker.

@@ -107,12 +107,12 @@ std::vector<HWND> windows_of(DWORD thread) {
     return windows;
 }
 
-NamedWindows::NamedWindows(HWND form) {
-    const auto add = [](HWND window, LPARAM list) noexcept -> BOOL {
-        if (const ATOM name = name_atom_of(window)) reinterpret_cast<List*>(list)->emplace_back(name, window);
-        return TRUE;
-    };
-    EnumChildWindows(form, add, reinterpret_cast<LPARAM>(&windows_));
+NamedWindows::NamedWindows(HWND form) { EnumChildWindows(form, add, reinterpret_cast<LPARAM>(this)); }
+
+BOOL CALLBACK NamedWindows::add(HWND window, LPARAM self) noexcept {
+    const ATOM name = name_atom_of(window);
+    if (name != 0) reinterpret_cast<NamedWindows*>(self)->windows_.emplace_back(name, window);
+    return TRUE;
 }
 
 HWND NamedWindows::find(const std::string& name) const {

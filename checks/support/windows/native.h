@@ -37,6 +37,8 @@ public:
     HWND find(const std::string& name) const;
 
 private:
+    static BOOL CALLBACK add(HWND window, LPARAM self) noexcept;
+
     using List = std::vector<std::pair<ATOM, HWND>>;
     List windows_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/model/object.h"
+#include "common/values/held_text.h"
 
 #include <cstdint>
 #include <optional>
@@ -62,9 +63,9 @@ public:
     virtual std::int32_t Count() = 0;
     /// By position (32-bit integer) or by name (text, exact case).
     virtual OPCGroupPtr Item(const Variant& item_specifier) = 0;
-    /// The name of the group at a position, into a text that is there already: for a look at every group each
-    /// second.
-    virtual void read_name(std::int32_t position, std::string& name);
+    /// Reads the name of the group at a position: for a look at every group each second. False when it is the
+    /// one that was held.
+    virtual bool read_name(std::int32_t position, HeldText& name);
     /// A new group; the server makes up a name when it is omitted.
     virtual OPCGroupPtr Add(const std::optional<std::string>& name) = 0;
     virtual void RemoveAll() = 0;
@@ -81,8 +82,9 @@ public:
     virtual OPCItemsPtr OPCItems() = 0;
 };
 
-inline void OPCGroups::read_name(std::int32_t position, std::string& name) {
-    name = the(Item(position)).Name();
+inline bool OPCGroups::read_name(std::int32_t position, HeldText& name) {
+    const std::string read = the(Item(position)).Name();
+    return name.hold(read, [&](std::string& text) { text = read; });
 }
 
 /// What adding items gave, one element for each item in the order given.
