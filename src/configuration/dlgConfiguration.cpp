@@ -20,6 +20,7 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
 void dlgConfiguration::Form_Load() {
     fields_loaded_ = tests_listed_ = false;
     groups_.clear();
+    server_values_ = {};
     piece_trigger_ = subgroup_trigger_ = {};
     trap("Form_Load", [&] {
         load_general();

@@ -14,6 +14,7 @@
 #include "forms/text_box.h"
 #include "forms/timer.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -194,8 +195,10 @@ private:
         HeldText name;
         bool is_shown = false;
     };
+    void show_value(std::optional<Variant>& shown, const char* key, const char* caption,
+                    const Variant& value);
     void show_group(std::int32_t n, ListedGroup& group);
-    void UpdateServerInfo(const std::string& key, const std::string& caption, const std::string& value);
+    bool UpdateServerInfo(const std::string& key, const std::string& caption, const std::string& value);
 
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
@@ -203,7 +206,8 @@ private:
     bool tests_listed_ = false;  ///< the list shows the configuration's tests
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
-    std::vector<ListedGroup> groups_; ///< of the server
+    std::array<std::optional<Variant>, 12> server_values_; ///< as the status shows them
+    std::vector<ListedGroup> groups_;                      ///< of the server, as the status shows them
     std::optional<dlgDescriptorType> type_dialog_;
     std::optional<dlgDescriptorProperties> properties_dialog_;
     std::int32_t first_value_ = 0;

@@ -9,8 +9,9 @@ void dlgConfiguration::Timer1_Timer() {
         const ObjectPtr connection = the(entry).OPCServer();
         if (!connection) return;
         const auto server = resolve<OPCServer>(connection);
+        std::size_t place = 0;
         const auto show = [&](const char* key, const char* caption, const Variant& value) {
-            UpdateServerInfo(key, caption, to_text(value, environment().locale));
+            show_value(server_values_.at(place++), key, caption, value);
         };
         show("Node", "Server Node", server->ServerNode());
         show("Name", "Server Name", server->ServerName());
@@ -35,24 +36,32 @@ void dlgConfiguration::Timer1_Timer() {
     });
 }
 
-void dlgConfiguration::show_group(std::int32_t n, ListedGroup& group) {
-    const std::string number = std::to_string(n);
-    const std::string key = "Group" + number;
-    // The first one goes without a number.
-    UpdateServerInfo(key, "Group " + (n == 1 ? std::string() : number), group.name.text());
-    const ListRow* const row = lvwServerInfo.find(key);
-    group.is_shown = row && row->reads(1, group.name.text());
+/// Nothing is done about a value that is the one shown.
+void dlgConfiguration::show_value(std::optional<Variant>& shown, const char* key, const char* caption,
+                                  const Variant& value) {
+    if (shown == value) return;
+    shown.reset();
+    const std::string text = to_text(value, environment().locale);
+    if (UpdateServerInfo(key, caption, text)) shown = value;
 }
 
-/// An unchanged value is not written again, so that the list does not flicker.
-void dlgConfiguration::UpdateServerInfo(const std::string& key, const std::string& caption,
+void dlgConfiguration::show_group(std::int32_t n, ListedGroup& group) {
+    const std::string number = std::to_string(n);
+    // The first one goes without a number.
+    group.is_shown =
+        UpdateServerInfo("Group" + number, "Group " + (n == 1 ? std::string() : number), group.name.text());
+}
+
+/// An unchanged value is not written again, so that the list does not flicker. Whether the list shows it now.
+bool dlgConfiguration::UpdateServerInfo(const std::string& key, const std::string& caption,
                                         const std::string& value) {
     ListRow* row = lvwServerInfo.find(key);
-    if (row && row->reads(1, value)) return;
+    if (row && row->reads(1, value)) return true;
     if (!row) attempt([&] { row = &lvwServerInfo.add(key, caption); });
     attempt([&] {
         if (row) row->set_text(1, value);
     });
+    return row && row->reads(1, value);
 }
 
 } // namespace brx
