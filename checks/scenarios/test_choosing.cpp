@@ -153,16 +153,7 @@ SCENARIO(TestDialog, AnItemThatCannotBeAddedIsToldAndForgotten) {
     its.host.has_test(8, "Width");
     Testing testing(its, its.host.has_test(0, ""));
     testing.picks_characteristic(7, "Length");
-    its.person.presses("bnItem");
-    its.person.enters("txtFullPath", "Line1.Speed");
-    // Refused from here on, while the browser still takes it.
-    its.host.group->items->claimed_errors = LongArray{{0}};
-    its.host.group->items->answers.erase("Line1.Speed");
-    its.person.presses("bnOK");
-    its.person.answers({.text = "UNABLE TO ADD ITEM!\r\n\r\nThe item is not known to the server.\r\n\r\n"
-                                "Item: Line1.Speed",
-                        .style = message::critical,
-                        .title = component_name});
+    testing.picks_item_that_is_refused("Line1.Speed");
     EXPECT_EQ(its.person.reads("txtItem"), "");
     EXPECT_FALSE(its.person.can_press("bnOK"));
     EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);
@@ -171,14 +162,46 @@ SCENARIO(TestDialog, AnItemThatCannotBeAddedIsToldAndForgotten) {
     EXPECT_TRUE(its.host.group->items->removed.empty());
 }
 
-SCENARIO(TestDialog, ADisconnectedServerIsTold) {
-    const Testing testing(its, its.host.has_test(0, ""));
-    its.host.configuration->server->entry = std::make_shared<FakeServer>(its.host.calls, "Sim", "PC9");
-    its.person.presses("bnItem");
-    its.person.answers({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: PC9\r\n"
-                                "Server Name: Sim",
-                        .style = message::exclamation,
-                        .title = "Server Error"});
+SCENARIO(TestDialog, AfterARefusedItemNothingIsTakenBack) {
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.picks_item("Line1.Speed");
+    testing.picks_item_that_is_refused("Line1.Force");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+    EXPECT_TRUE(its.host.group->items->removed.empty());
+    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line1.Speed"});
+}
+
+SCENARIO(TestDialog, AnItemThatTheGroupHasLeavesTheAddedOneToBeTakenBack) {
+    its.host.group->items->has("Line1.Force");
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.picks_item("Line1.Speed");
+    testing.picks_item("Line1.Force");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line1.Force"});
+}
+
+SCENARIO(TestDialog, AnItemAloneIsNotEnough) {
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.picks_item("Line1.Speed");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(TestDialog, ADisconnectedServerIsToldAndThenNoMissingGroup) {
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.loses_the_server();
+    for (const bool with_group : {true, false}) {
+        if (!with_group) its.host.configuration->group = nullptr;
+        its.person.presses("bnItem");
+        its.person.answers({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: PC9\r\n"
+                                    "Server Name: Sim",
+                            .style = message::exclamation,
+                            .title = "Server Error"});
+        its.person.is_at("dlgOPCTest");
+    }
     its.person.presses("bnCancel");
 }
 

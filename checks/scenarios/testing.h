@@ -10,11 +10,13 @@ namespace brx::checks {
 /// The test dialog, open for one test of the host's configuration.
 class Testing {
 public:
-    Testing(Play& its, std::shared_ptr<FakeTest> test)
+    /// Opens it; these messages come before it shows.
+    Testing(Play& its, std::shared_ptr<FakeTest> test, const std::vector<Message>& told_first = {})
         : its_(its), test_(std::move(test)), edit_(*its.stage, "TestConfiguration") {
         its.host.browser->root.has("Line1", {"Speed", "Force"});
         for (const char* item : {"Line1.Speed", "Line1.Force"}) its.host.group->items->answers[item] = 0;
         edit_.show(test_);
+        for (const Message& message : told_first) its.person.answers(message);
         its.person.is_at("dlgOPCTest");
     }
 
@@ -31,6 +33,23 @@ public:
         its_.person.enters("txtFullPath", item);
         its_.person.presses("bnOK");
     }
+    /// The browser still takes the item, the group does not.
+    void picks_item_that_is_refused(const std::string& item) {
+        FakeOPCItems& items = *its_.host.group->items;
+        its_.person.presses("bnItem");
+        its_.person.enters("txtFullPath", item);
+        items.claimed_errors = LongArray{{0}};
+        items.answers.erase(item);
+        its_.person.presses("bnOK");
+        its_.person.answers({.text = "UNABLE TO ADD ITEM!\r\n\r\nThe item is not known to the server.\r\n\r\n"
+                                     "Item: " +
+                                     item,
+                             .style = message::critical,
+                             .title = component_name});
+    }
+    void loses_the_server() {
+        its_.host.configuration->server->entry = std::make_shared<FakeServer>(its_.host.calls, "Sim", "PC9");
+    }
 
     /// What has been written to the host's objects since the dialog opened, in order.
     std::vector<std::string> writes() const {
@@ -46,6 +65,11 @@ private:
     std::shared_ptr<FakeTest> test_;
     Showing edit_;
 };
+
+/// What is told of an item whose type the server does not tell.
+inline Message no_data_type(const std::string& text = "The item is not known to the server.") {
+    return {.text = text, .style = message::exclamation, .title = "Error Getting Data Type"};
+}
 
 /// Before the next round of a story: no tests, no items, nothing to browse.
 inline void start_over(Play& its) {

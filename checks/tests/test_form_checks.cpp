@@ -20,7 +20,7 @@ struct TestForm : testing::Test {
         form.set_database(host.database);
         form.set_TestOPCItemID("Line1.Speed");
         engine.while_asking = [this](const Message& message) {
-            messages.push_back(message.text);
+            messages.push_back(message);
             return message::ok;
         };
     }
@@ -30,7 +30,7 @@ struct TestForm : testing::Test {
     Environment environment{engine, host, host, Locale::us_english()};
     std::shared_ptr<FakeTest> test = host.has_test(7, "Length");
     dlgOPCTest form{environment};
-    std::vector<std::string> messages;
+    std::vector<Message> messages;
 
     TextBox& constant() { return control_of<TextBox>(form, "txtConstant"); }
     void press(const std::string& button) { EXPECT_TRUE(control_of<Button>(form, button).user_click()); }
@@ -76,8 +76,9 @@ TEST_F(TestForm, ARedBackgroundRefusesTheConstant) {
     while_open([&] {
         constant().set_back_color(color::red);
         press("bnOK");
-        EXPECT_EQ(messages, std::vector<std::string>{
-                                "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value."});
+        const Message expected = {.text = "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value.",
+                                  .style = message::critical};
+        EXPECT_EQ(messages, std::vector{expected});
         EXPECT_TRUE(form.loaded());
     });
     EXPECT_FALSE(form.OKPressed());
@@ -94,6 +95,26 @@ TEST_F(TestForm, ANewItemIsAskedForAndAddedAsTheServerHasIt) {
     EXPECT_EQ(items.client_handles, (std::vector<LongArray>{{{7}}}));
     EXPECT_EQ(items.requested_types, (std::vector<std::optional<ShortArray>>{ShortArray{{0}}}));
     EXPECT_EQ(items.added_paths, (std::vector<std::optional<StringArray>>{StringArray{{""}}}));
+    std::vector<std::string> calls = host.calls.members();
+    std::erase_if(calls, [](const std::string& member) {
+        return member != "OPCItems.Validate" && member != "OPCItems.AddItems";
+    });
+    EXPECT_EQ(calls,
+              std::vector<std::string>({"OPCItems.Validate", "OPCItems.Validate", "OPCItems.AddItems"}));
+}
+
+TEST_F(TestForm, AValueThatAlwaysDoesNotNeedLooksClosed) {
+    test->fields.item_trigger = true;
+    test->fields.expression = 2;
+    while_open([&] {
+        auto& operators = control_of<ComboBox>(form, "cboExpression");
+        const auto& value = control_of<TextBox>(form, "txtValue");
+        EXPECT_EQ(value.back_color(), color::window);
+        EXPECT_TRUE(operators.user_select(0));
+        EXPECT_EQ(value.back_color(), color::button_face);
+        EXPECT_TRUE(operators.user_select(1));
+        EXPECT_EQ(value.back_color(), color::window);
+    });
 }
 
 TEST_F(TestForm, CancelRemovesTheAddedItemAndEmptiesEveryProperty) {
