@@ -71,6 +71,23 @@ TEST_F(TriggerForm, AnItemThatIsCalledNoneStandsForNoItem) {
     EXPECT_EQ(form.TriggerValue(), Variant(std::string()));
 }
 
+TEST_F(TriggerForm, WithoutAGroupTheTriggerCanStillBeCleared) {
+    host.configuration->group = nullptr;
+    with_trigger("Count", 2, std::int32_t{7}, [&] {
+        EXPECT_TRUE(press("bnOK"));
+        EXPECT_TRUE(form.loaded()); // nothing is selected
+        pick("<None>");
+        EXPECT_TRUE(press("bnOK"));
+    });
+    EXPECT_TRUE(form.OkClicked());
+    EXPECT_EQ(form.TriggerOPCItemID(), "<None>");
+    EXPECT_EQ(form.TriggerExpression(), 0);
+    EXPECT_EQ(form.TriggerValue(), Variant(std::string()));
+    ASSERT_EQ(host.reports.size(), 2U);
+    EXPECT_EQ(host.reports[0].what.location, "CommonTools.ResolveOPCGroup");
+    EXPECT_EQ(host.reports[1].what.location, "dlgEvaluation.BuildDlg");
+}
+
 TEST_F(TriggerForm, ChoosingAnItemOpensTheOperatorsAndAnOperatorTheValue) {
     with_trigger("", 0, std::string(), [&] {
         pick("Count");

@@ -136,19 +136,16 @@ void dlgEvaluation::CheckDataType() {
 bool dlgEvaluation::GetCalculation() {
     bool usable = false;
     trap("GetCalculation", [&] {
-        // Only when the lists could not be filled nothing is selected.
-        if (cboItem.selected() < 0 || cboExpression.selected() < 0) return;
-        usable = true;
         item_id_ = cboItem.text();
         if (is_no_item(item_id_)) {
             expression_ = trigger_operator::always;
             value_ = std::string();
+            usable = true;
             return;
         }
-        if (cboExpression.selected() != trigger_operator::always && txtValue.text().empty()) {
-            usable = false;
-            return;
-        }
+        // Where the lists could not be filled, or with a code that they do not have, nothing is selected.
+        if (cboItem.selected() < 0 || cboExpression.selected() < 0) return;
+        if (cboExpression.selected() != trigger_operator::always && txtValue.text().empty()) return;
         expression_ = static_cast<std::int16_t>(cboExpression.selected());
         CheckDataType();
         usable = SetExpressions(data_type_);
