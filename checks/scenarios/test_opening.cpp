@@ -124,6 +124,66 @@ SCENARIO(TestDialog, ATestThatCouldNotBeReadIsNotWritten) {
     }
 }
 
+SCENARIO(TestDialog, ASaveAsCodeThatTheListLacksIsReportedAndCanBeReplaced) {
+    for (const std::int16_t code : {std::int16_t{4}, std::int16_t{-2}}) {
+        start_over(its);
+        const auto test = a_bound_test(its, 2);
+        test->fields.save_as = code;
+        Testing testing(its, test);
+        its.expect_report(error::invalid_procedure_call, "dlgOPCTest.EditSet");
+        EXPECT_EQ(its.person.reads("cboSaveAs"), "Actual Value");
+        EXPECT_EQ(its.person.reads("cboExpression"), " > ");
+        EXPECT_EQ(its.person.reads("txtValue"), "12");
+        EXPECT_TRUE(its.person.sees("chkItemTrigger").enabled);
+        its.person.picks("cboSaveAs", "Absolute Value");
+        its.person.presses("bnOK");
+        EXPECT_TRUE(testing.result());
+        EXPECT_EQ(testing.fields().save_as, 1);
+        EXPECT_EQ(testing.fields().expression, 2);
+        EXPECT_EQ(testing.fields().value, Variant(std::int16_t{12}));
+    }
+}
+
+SCENARIO(TestDialog, AnOperatorCodeThatTheListLacksIsReportedAndCanBeReplaced) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.expression = 7;
+    Testing testing(its, test);
+    its.expect_report(error::invalid_procedure_call, "dlgOPCTest.EditSet");
+    EXPECT_EQ(its.person.reads("cboExpression"), "Always");
+    EXPECT_EQ(its.person.reads("txtValue"), "12");
+    its.person.picks("cboExpression", " <> ");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().expression, 6);
+    EXPECT_EQ(testing.fields().value, Variant(std::int16_t{12}));
+}
+
+SCENARIO(TestDialog, ATriggerValueWithoutDataIsReportedAndCanBeReplaced) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.value = Null();
+    Testing testing(its, test);
+    its.expect_report(error::invalid_use_of_null, "dlgOPCTest.EditSet");
+    EXPECT_EQ(its.person.reads("txtValue"), "");
+    EXPECT_EQ(its.person.reads("cboExpression"), " > ");
+    its.person.enters("txtValue", "5");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().value, Variant(std::int16_t{5}));
+}
+
+SCENARIO(TestDialog, OfSeveralFieldsThatCannotShowTheFirstIsReported) {
+    const auto test = a_bound_test(its, 2);
+    test->fields.save_as = 4;
+    test->fields.value = Null();
+    Testing testing(its, test);
+    its.expect_report(error::invalid_procedure_call, "dlgOPCTest.EditSet");
+    its.person.enters("txtValue", "5");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().save_as, 0);
+    EXPECT_EQ(testing.fields().value, Variant(std::int16_t{5}));
+}
+
 SCENARIO(TestDialog, EveryFieldHasItsLetter) {
     const Testing testing(its, a_bound_test(its, 2));
     const std::pair<char, const char*> letters[] = {

@@ -5,6 +5,7 @@
 #include "common/values/convert.h"
 #include "forms/setup_form.h"
 
+#include <optional>
 #include <utility>
 
 namespace brx {
@@ -54,9 +55,16 @@ void dlgOPCTest::Form_Unload() {
     database_ = nullptr;
 }
 
+/// A test that the host could not tell whole cannot be confirmed. A code or value that no control can show is
+/// reported as well, but the person can choose another.
 void dlgOPCTest::EditSet() {
     trap("EditSet", [&] {
         hlxOPCTest& test = the(test_);
+        std::optional<Error> unfit;
+        const auto fit = [&](const auto& show) {
+            const auto failure = failure_of(show);
+            if (!unfit) unfit = failure;
+        };
         all_read_ = false;
         client_handle_ = test.ClientHandle();
         test_name_ = test.CharacteristicName();
@@ -64,17 +72,20 @@ void dlgOPCTest::EditSet() {
         txtItem.set_text(item_id_);
         chkItemTrigger.set_value(test.ItemTrigger() ? 1 : 0);
         txtConstant.set_text(to_text(test.Constant(), environment().locale));
-        cboSaveAs.select(test.SaveAs());
+        const std::int16_t save_as = test.SaveAs();
+        fit([&] { cboSaveAs.select(save_as); });
         if (chkItemTrigger.value() == 1) {
             GetItemDataType();
             ShowEvalType(chkItemTrigger.value());
-            cboExpression.select(test.TriggerExpression());
+            const std::int16_t expression = test.TriggerExpression();
+            fit([&] { cboExpression.select(expression); });
             value_ = test.TriggerValue();
-            txtValue.set_text(to_text(value_, environment().locale));
+            fit([&] { txtValue.set_text(to_text(value_, environment().locale)); });
         }
         all_read_ = true;
         chkItemTrigger.set_enabled(true);
         bnOK.set_enabled(true);
+        if (unfit) throw Error(*unfit);
     });
 }
 

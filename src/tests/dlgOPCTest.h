@@ -124,7 +124,7 @@ private:
     Variant value_;
     std::int32_t client_handle_ = 0;
     bool edit_mode_ = false;
-    bool all_read_ = false; ///< what OK writes, other than what was entered, is the test's own
+    bool all_read_ = false; ///< the host told everything that OK writes again
     bool test_chosen_ = false;
     bool added_new_item_ = false;
     std::int32_t data_type_ = 0;
