@@ -115,6 +115,16 @@ SCENARIO(TestDialog, ATypeThatIsGoneByTheTimeOfOKIsToldAndTheValueKeptAsText) {
     EXPECT_EQ(testing.fields().value, Variant(std::string("12")));
 }
 
+SCENARIO(TestDialog, WithoutAServerATypeThatCannotBeReadIsToldOnceAndWithoutAText) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.host.group->items->forget_all();
+    testing.loses_the_server();
+    its.person.presses("bnOK");
+    its.person.answers(no_data_type(""));
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(testing.fields().value, Variant(std::string("12")));
+}
+
 SCENARIO(TestDialog, WithTheTriggerOffTheOperatorIsAlwaysWhateverTheListShows) {
     Testing testing(its, a_bound_test(its, 2));
     its.person.ticks("chkItemTrigger");

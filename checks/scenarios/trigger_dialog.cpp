@@ -72,3 +72,26 @@ SCENARIO(TriggerDialog, TheBrowserStartsAtThePresentItemAndWhatIsPickedIsAdded) 
               std::vector<std::string>({"Line1.Speed", "Line1.Force", "Version"}));
     trigger.configuration().leaves();
 }
+
+SCENARIO(TriggerDialog, ADisconnectedServerCannotBeBrowsedAndIsReportedOnce) {
+    a_filled_configuration(its);
+    an_unconnected_server(its, "Plant.Simulation.1");
+    Triggering trigger(its);
+    its.person.presses("bnItem");
+    its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCServer");
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
+    trigger.cancels();
+}
+
+SCENARIO(TriggerDialog, WithoutAServerATypeThatCannotBeReadIsToldOnceAndWithoutAText) {
+    a_filled_configuration(its);
+    an_unconnected_server(its, "Plant.Simulation.1");
+    Triggering trigger(its);
+    its.host.group->items->forget_all();
+    its.person.presses("bnOK");
+    its.person.answers({.text = "", .style = message::exclamation, .title = "Error Getting Data Type"});
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.reads("txtSGEval"), "Line1.Speed = 5");
+    trigger.configuration().leaves();
+}

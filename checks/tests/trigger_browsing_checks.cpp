@@ -105,3 +105,12 @@ TEST_F(TriggerForm, AnItemThatTheGroupHasLeavesTheAddedOneTheCallersToRemove) {
     });
     EXPECT_TRUE(form.AddedNewItem());
 }
+
+TEST_F(TriggerForm, AGroupThatIsGoneCannotBeBrowsedAndIsReportedOnce) {
+    with_trigger("Count", 1, std::int32_t{7}, [&] {
+        host.configuration->group = nullptr;
+        EXPECT_TRUE(press("bnItem"));
+    });
+    ASSERT_EQ(host.reports.size(), 1U);
+    EXPECT_EQ(host.reports[0].what.location, "CommonTools.ResolveOPCGroup");
+}

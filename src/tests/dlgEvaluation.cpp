@@ -13,9 +13,7 @@ dlgEvaluation::dlgEvaluation(Environment& environment)
 
 void dlgEvaluation::set_TriggerExpression(std::int32_t expression) { expression_ = to_int16(expression); }
 
-OPCServerPtr dlgEvaluation::server() {
-    return tools_.ResolveOPCServer(the(the(the(configuration_).Server()).ServerEntry()).OPCServer());
-}
+ObjectPtr dlgEvaluation::server() { return the(the(the(configuration_).Server()).ServerEntry()).OPCServer(); }
 
 OPCItemsPtr dlgEvaluation::items() {
     return the(tools_.ResolveOPCGroup(the(configuration_).OPCGroup())).OPCItems();
@@ -100,7 +98,7 @@ void dlgEvaluation::bnItem_Click() {
     trap("bnItem_Click", [&] {
         LeafSelect browser(environment());
         browser.set_ItemID(cboItem.text());
-        if (!browser.Show(server(), tools_.ResolveOPCGroup(the(configuration_).OPCGroup()))) return;
+        if (!browser.Show(server(), the(configuration_).OPCGroup())) return;
         take_item(browser.ItemID());
         CheckDataType();
     });
@@ -128,7 +126,7 @@ void dlgEvaluation::CheckDataType() {
     const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item); });
     if (!failure) return;
     std::string text;
-    attempt([&] { text = the(server()).GetErrorString(failure->number()); });
+    attempt([&] { text = resolve<OPCServer>(server())->GetErrorString(failure->number()); });
     show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
     data_type_ = data_type::unread;
 }

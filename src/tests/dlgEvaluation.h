@@ -77,7 +77,7 @@ private:
     void take_item(const std::string& item_id);
     void follow_operator();
     void note_key();
-    OPCServerPtr server();
+    ObjectPtr server();
     OPCItemsPtr items();
 
     CommonTools tools_;

@@ -19,9 +19,7 @@ dlgOPCTest::dlgOPCTest(Environment& environment)
 
 hlxOPCConfigurationPtr dlgOPCTest::configuration() { return the(the(test_).Parent()).Parent(); }
 
-OPCServerPtr dlgOPCTest::server() {
-    return tools_.ResolveOPCServer(the(the(the(configuration()).Server()).ServerEntry()).OPCServer());
-}
+ObjectPtr dlgOPCTest::server() { return the(the(the(configuration()).Server()).ServerEntry()).OPCServer(); }
 
 OPCItemsPtr dlgOPCTest::items() {
     return the(tools_.ResolveOPCGroup(the(configuration()).OPCGroup())).OPCItems();
@@ -199,8 +197,8 @@ void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
             added_new_item_ = true;
             return;
         }
-        show_message(
-            {.text = refusal_text(the(server()).GetErrorString(error), item_id), .style = message::critical});
+        show_message({.text = refusal_text(resolve<OPCServer>(server())->GetErrorString(error), item_id),
+                      .style = message::critical});
         server_handles_ = LongArray{{0}};
         added_new_item_ = false;
     } catch (...) {

@@ -107,7 +107,7 @@ private:
     void drop_added_item();
     void write_test(double constant);
     hlxOPCConfigurationPtr configuration();
-    OPCServerPtr server();
+    ObjectPtr server();
     OPCItemsPtr items();
 
     CommonTools tools_;

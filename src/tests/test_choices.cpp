@@ -65,7 +65,7 @@ void dlgOPCTest::GetItemDataType() {
     const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item_id_); });
     if (!failure) return;
     std::string text;
-    attempt([&] { text = the(server()).GetErrorString(failure->number()); });
+    attempt([&] { text = resolve<OPCServer>(server())->GetErrorString(failure->number()); });
     show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
     data_type_ = data_type::variant;
 }
