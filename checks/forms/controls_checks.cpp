@@ -23,6 +23,19 @@ TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {
     });
 }
 
+TEST_F(Controls, EditCommandsComeBackWithoutKeyPressAndBackspaceIsACharacter) {
+    while_open([&] {
+        form.on_key = [](std::int32_t& key) { key = 0; };
+        for (const std::int32_t command : {1, 3, 22, 24, 26})
+            EXPECT_EQ(form.box.user_key_press(command), command);
+        EXPECT_EQ(form.notes, Notes());
+        for (const std::int32_t other : {2, 8, 9, 23, 25, 27}) EXPECT_EQ(form.box.user_key_press(other), 0);
+        EXPECT_EQ(form.notes, Notes(6, "box_KeyPress"));
+        form.box.set_enabled(false);
+        EXPECT_EQ(form.box.user_key_press(22), 0);
+    });
+}
+
 TEST_F(Controls, AKeyPressHandlerCanChangeOrDiscardTheCharacter) {
     while_open([&] {
         form.on_key = [](std::int32_t& key) { key = key == 'a' ? 'b' : 0; };

@@ -144,6 +144,23 @@ SCENARIO(ConfigurationDialog, NumbersTakeDigitsAndNothingElseFromTheKeyboard) {
     dialog.leaves();
 }
 
+SCENARIO(ConfigurationDialog, ControlAndVPastesAnythingIntoTheNumbers) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    for (const char* box : {"txtDeadband", "txtSubgroupSize", "txtUpdateRate"}) {
+        its.person.replaces(box, "");
+        its.person.pastes_by_key("12x");
+        EXPECT_EQ(its.person.reads(box), "12x") << box;
+    }
+    dialog.turns_to_sampling();
+    for (const char* box : {"txtPieceTimeInterval", "txtSGInterval"}) {
+        its.person.replaces(box, "");
+        its.person.pastes_by_key("-.5");
+        EXPECT_EQ(its.person.reads(box), "-.5") << box;
+    }
+    dialog.leaves();
+}
+
 SCENARIO(ConfigurationDialog, NothingIsWrittenBeforeClose) {
     a_filled_configuration(its);
     Configuring dialog(its);

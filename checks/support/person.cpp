@@ -112,6 +112,11 @@ void Person::types(const std::string& text) { must(screen_.type(text), "type \""
 
 void Person::pastes(const std::string& text) { must(screen_.paste(text), "paste \"" + text + "\""); }
 
+void Person::pastes_by_key(const std::string& text) {
+    must(screen_.copy(text), "copy \"" + text + "\"");
+    hits(Key::control_v);
+}
+
 void Person::hits(Key key) { must(screen_.key(key), "hit key " + std::to_string(static_cast<int>(key))); }
 
 void Person::uses_accelerator(char letter) {

@@ -51,6 +51,8 @@ public:
     void replaces(const std::string& box, const std::string& text);
     void types(const std::string& text);
     void pastes(const std::string& text);
+    /// With the keyboard, what she copied elsewhere.
+    void pastes_by_key(const std::string& text);
     void hits(Key key);
     void uses_accelerator(char letter);
     void closes_the_window();

@@ -36,6 +36,7 @@ enum class Key {
     f1,
     backspace,
     erase, ///< all of a box's text: Home, Shift+End, Delete
+    control_v,
     next_tab,
     previous_tab
 };
@@ -68,7 +69,8 @@ public:
     virtual bool set_date(const std::string& picker, const std::string& text) = 0;
     virtual bool focus(const std::string& control) = 0; ///< by clicking into it
     virtual bool type(const std::string& text) = 0;     ///< into the control that has the focus
-    virtual bool paste(const std::string& text) = 0;
+    virtual bool paste(const std::string& text) = 0;    ///< from the menu of the box
+    virtual bool copy(const std::string& text) = 0;     ///< in another program, to the clipboard
     virtual bool key(Key key) = 0;
     virtual bool accelerator(char letter) = 0;
     virtual bool close_box() = 0;

@@ -120,6 +120,36 @@ TEST_F(TextBoxTest, ControlAndVPastesAndControlAndASelectsEverything) {
     });
 }
 
+TEST_F(TextBoxTest, TheEditCommandsOfTheKeyboardReachNoKeyPress) {
+    put_on_clipboard(L"12x");
+    Boxes form(environment);
+    form.on_key_press = [](std::int32_t& key) { key = 0; };
+    show(form, [&](Hands& hands) {
+        hands.form("Boxes");
+        const auto reads = [&](const char* expected) {
+            hands.run([&] { EXPECT_EQ(form.Box.text(), expected); });
+        };
+        hands.keys({VK_CONTROL, 'A'});
+        hands.keys({VK_CONTROL, 'V'});
+        reads("12x");
+        hands.keys({VK_CONTROL, 'Z'});
+        reads("start");
+        hands.keys({VK_CONTROL, 'A'});
+        hands.keys({VK_CONTROL, 'X'});
+        reads("");
+        hands.keys({VK_CONTROL, 'V'});
+        hands.keys({VK_CONTROL, 'A'});
+        hands.keys({VK_CONTROL, 'C'});
+        hands.key(VK_END);
+        hands.keys({VK_CONTROL, 'V'});
+        reads("startstart");
+        hands.run([&] { EXPECT_EQ(form.events.find("Press"), std::string::npos) << form.events; });
+        hands.key(VK_BACK);
+        reads("startstart");
+        hands.run([&] { EXPECT_NE(form.events.find("Press8 "), std::string::npos) << form.events; });
+    });
+}
+
 TEST_F(TextBoxTest, TextSetByCodeIsShownAndTheWindowTellsNothingBack) {
     Boxes form(environment);
     show(form, [&](Hands& hands) {

@@ -11,6 +11,12 @@ namespace brx {
 using KeyPressHandler = std::function<void(std::int32_t& key_ascii)>;
 using KeyHandler = std::function<void(std::int32_t key_code)>;
 
+/// Ctrl+A, C, V, X and Z come as characters too, but enter none: no KeyPress tells of them. Backspace is a
+/// character like any other.
+constexpr bool is_edit_command(std::int32_t key_ascii) {
+    return key_ascii == 1 || key_ascii == 3 || key_ascii == 22 || key_ascii == 24 || key_ascii == 26;
+}
+
 struct TextBoxDesign {
     Place place;
     int tab = 0;
@@ -69,10 +75,11 @@ public:
             if (design_.KeyUp) design_.KeyUp(key_code);
         });
     }
-    /// A person typed a character. Returns the code of the character to enter, 0 for none.
+    /// A person typed a character. Returns the code of the character to enter, 0 for none. An edit command
+    /// comes back as it is, for the platform to carry out.
     std::int32_t user_key_press(std::int32_t key_ascii) {
         if (!by_person([&] {
-                if (design_.KeyPress) design_.KeyPress(key_ascii);
+                if (design_.KeyPress && !is_edit_command(key_ascii)) design_.KeyPress(key_ascii);
             }))
             return 0;
         return key_ascii;

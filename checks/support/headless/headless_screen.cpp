@@ -74,6 +74,10 @@ bool HeadlessScreen::type(const std::string& text) {
 bool HeadlessScreen::paste(const std::string& text) {
     return deed([=, this] { return user_.paste(text); });
 }
+bool HeadlessScreen::copy(const std::string& text) {
+    clipboard_ = text;
+    return true;
+}
 
 bool HeadlessScreen::key(Key key) {
     return deed([=, this] {
@@ -106,6 +110,8 @@ bool HeadlessScreen::key(Key key) {
             return user_.backspace();
         case Key::erase:
             return user_.erase();
+        case Key::control_v:
+            return user_.control_v(clipboard_);
         case Key::next_tab:
             return user_.turn_tab(false);
         case Key::previous_tab:

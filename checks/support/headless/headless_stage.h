@@ -32,6 +32,7 @@ public:
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;
     bool paste(const std::string& text) override;
+    bool copy(const std::string& text) override;
     bool key(Key key) override;
     bool accelerator(char letter) override;
     bool close_box() override;
@@ -59,6 +60,7 @@ private:
     Baton& baton_;
     HeadlessEngine& engine_;
     HeadlessUser user_;
+    std::string clipboard_;
     std::thread::id forms_thread_;
 };
 

@@ -91,6 +91,9 @@ TEST_F(WindowsScreenTest, PastesAndFocusesByAClick) {
     EXPECT_TRUE(screen.paste("from elsewhere"));
     EXPECT_EQ(events(), Events{"change"});
     EXPECT_EQ(screen.look("txtBox").text, "from elsewhere");
+    EXPECT_TRUE(screen.copy(" and here"));
+    EXPECT_TRUE(screen.key(Key::control_v));
+    EXPECT_EQ(screen.look("txtBox").text, "from elsewhere and here");
     EXPECT_FALSE(screen.focus("bnOff"));
 }
 

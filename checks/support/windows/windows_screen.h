@@ -38,6 +38,7 @@ public:
     bool focus(const std::string& control) override;
     bool type(const std::string& text) override;
     bool paste(const std::string& text) override;
+    bool copy(const std::string& text) override;
     bool key(Key key) override;
     bool accelerator(char letter) override;
     bool close_box() override;

@@ -136,6 +136,10 @@ bool WindowsScreen::paste(const std::string& text) {
     });
 }
 
+bool WindowsScreen::copy(const std::string& text) {
+    return asked([&] { return copy_to_clipboard(ui_.window(), brx::wide(text)); });
+}
+
 bool WindowsScreen::key(Key key) {
     switch (key) {
     case Key::enter:
@@ -167,6 +171,8 @@ bool WindowsScreen::key(Key key) {
     case Key::erase:
         return stroke({.key = VK_HOME}) && stroke({.key = VK_END, .shift = true}) &&
                stroke({.key = VK_DELETE});
+    case Key::control_v:
+        return stroke({.key = 'V', .control = true});
     case Key::next_tab:
         return stroke({.key = VK_TAB, .control = true});
     case Key::previous_tab:

@@ -22,6 +22,7 @@ namespace {
 constexpr std::int32_t backspace_key = 8;
 constexpr std::int32_t enter_key = 13;
 constexpr std::int32_t delete_key = 46;
+constexpr std::int32_t control_v_code = 22;
 
 /// UTF-8 text cut into its characters.
 std::vector<std::string> characters(const std::string& text) {
@@ -107,6 +108,14 @@ bool HeadlessUser::paste(const std::string& text) {
     auto* box = as<TextBox>(focused());
     return box && !box->display_only() &&
            box->user_text((box->all_selected() ? std::string() : box->text()) + text);
+}
+
+bool HeadlessUser::control_v(const std::string& clipboard) {
+    auto* box = as<TextBox>(focused());
+    if (!box || !box->user_key_down('V')) return false;
+    if (box->user_key_press(control_v_code) == control_v_code) paste(clipboard);
+    box->user_key_up('V');
+    return true;
 }
 
 bool HeadlessUser::backspace() { return type(std::string(1, static_cast<char>(backspace_key))); }

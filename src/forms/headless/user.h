@@ -27,6 +27,8 @@ public:
     bool focus(const std::string& control);
     bool type(const std::string& text);
     bool paste(const std::string& text);
+    /// Ctrl+V, with this on the clipboard.
+    bool control_v(const std::string& clipboard);
     bool enter();
     bool escape();
     bool tab(bool backwards);
