@@ -90,7 +90,7 @@ SCENARIO(TestsTab, EditOpensTheSelectedTest) {
     dialog.leaves();
 }
 
-SCENARIO(TestsTab, AConfirmedEditShowsAndTheTestStaysSelected) {
+SCENARIO(TestsTab, AConfirmedEditShowsAndNoTestIsSelectedAfterIt) {
     three_tests(its);
     its.host.configuration->tests->entries[1]->fields.item_text = "Line1.Force";
     Configuring dialog(its);
@@ -100,7 +100,11 @@ SCENARIO(TestsTab, AConfirmedEditShowsAndTheTestStaysSelected) {
     its.person.presses("bnOK");
     its.person.is_at("dlgConfiguration");
     EXPECT_EQ(its.person.line_of("lvwTest", 1), "Breadth | Line1.Force | Matrix | PC7");
-    EXPECT_EQ(its.person.sees("lvwTest").selected, 1);
+    EXPECT_EQ(its.person.sees("lvwTest").selected, -1);
+    its.person.presses("bnRemove");
+    its.person.presses("cmdEdit");
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Width", "Mass"}));
     dialog.leaves();
 }
 

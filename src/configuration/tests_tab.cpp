@@ -86,9 +86,7 @@ void dlgConfiguration::EditItem() {
     if (position == 0) return;
     const hlxOPCTestPtr test = the(the(configuration_).Tests()).Item(std::int32_t{position});
     TestConfiguration editor(environment());
-    if (!editor.Show(test)) return;
-    AddToList();
-    lvwTest.select(std::min(position, lvwTest.count()));
+    if (editor.Show(test)) AddToList();
 }
 
 void dlgConfiguration::bnRemove_Click() {
