@@ -76,6 +76,7 @@ SCENARIO(ConfigurationDialog, WithoutTestsItAsksAndCancelStays) {
     its.person.answers(no_test, message::cancel);
     its.person.is_at("dlgConfiguration");
     EXPECT_EQ(dialog.writes(), Lines());
+    EXPECT_EQ(its.host.calls.count("hlxOPCTests.Count"), 1); // as the list was filled
     dialog.leaves();
 }
 
@@ -155,6 +156,31 @@ SCENARIO(ConfigurationDialog, AnUnreadableDescriptorKeepsNobodyFromTheFields) {
     dialog.closes(); // and does not take the tests for none
     EXPECT_EQ(dialog.fields().name, "Line 2");
     EXPECT_EQ(dialog.fields().subgroup_trigger_item, "Line1.Speed");
+}
+
+SCENARIO(ConfigurationDialog, AnUnreadableDescriptorDoesNotHideThatThereIsNoTest) {
+    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName");
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.person.presses("bnClose");
+    its.person.answers(no_test, message::cancel);
+    EXPECT_EQ(its.host.calls.count("hlxOPCTests.Count"), 1);
+    its.person.is_at("dlgConfiguration");
+    dialog.leaves();
+}
+
+SCENARIO(ConfigurationDialog, WhereTestsCanNeitherBeListedNorCountedItStays) {
+    a_filled_configuration(its);
+    its.host.calls.fail_on("hlxOPCTests.Count");
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.person.presses("bnClose");
+    its.person.is_at("dlgConfiguration");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(dialog.writes(), Lines());
+    its.host.calls.fail_on("");
+    dialog.closes();
 }
 
 SCENARIO(ConfigurationDialog, EnterCloses) {

@@ -175,3 +175,26 @@ SCENARIO(TestsTab, ATestThatCannotBeListedIsStillATest) {
     EXPECT_EQ(its.person.lines_of("lvwTest"), Lines());
     dialog.closes(); // nobody asks whether it is to be removed
 }
+
+SCENARIO(TestsTab, TheRowsStayWhereTheTestsCannotBeReadAgainAndCloseStillAsks) {
+    three_tests(its);
+    its.host.configuration->tests->entries[1]->fields.item_text = "Line1.Force";
+    Configuring dialog(its);
+    const Lines before = its.person.lines_of("lvwTest");
+    its.person.picks("lvwTest", "Width | Line1.Force | Matrix | PC7");
+    its.person.presses("cmdEdit");
+    its.host.calls.fail_on("hlxOPCTest.CharacteristicName");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.cmdEdit_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), before);
+    for (const std::string& line : before) {
+        its.person.picks("lvwTest", line);
+        its.person.presses("bnRemove");
+    }
+    EXPECT_EQ(characteristics(its), Lines());
+    its.person.presses("bnClose");
+    EXPECT_EQ(its.person.screen().front(), "message");
+    its.person.screen().answer(message::ok);
+    its.person.is_at("");
+    EXPECT_EQ(dialog.fields().subgroup_trigger_item, "");
+}

@@ -59,7 +59,7 @@ void dlgConfiguration::bnClose_Click() {
     trap("bnClose_Click", [&] {
         // What could not be read has been reported, and what stands in its place is not the host's.
         if (!fields_loaded_) return unload();
-        if (tests_listed_ && lvwTest.count() == 0) {
+        if (is_without_tests()) {
             const Message question = {
                 .text = "Without a Test Characteristic this Configuration will be removed.  "
                         "Are you sure you want to continue?",

@@ -176,6 +176,7 @@ private:
     void EditItem();
     void bnRemove_Click();
     void take_back(hlxOPCTest& test);
+    bool is_without_tests() const;
 
     // Descriptors
     void ConfigureDescriptors();

@@ -98,4 +98,10 @@ void dlgConfiguration::bnRemove_Click() {
     });
 }
 
+/// An empty list that is not known to be the configuration's proves nothing: then the tests are counted.
+bool dlgConfiguration::is_without_tests() const {
+    if (lvwTest.count() != 0) return false;
+    return tests_listed_ || the(the(configuration_).Tests()).Count() == 0;
+}
+
 } // namespace brx
