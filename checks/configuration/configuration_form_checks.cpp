@@ -1,7 +1,4 @@
-#include "configuration/dlgConfiguration.h"
-#include "forms/one_form.h"
-
-#include <gtest/gtest.h>
+#include "configuration_form.h"
 
 #include <map>
 #include <utility>
@@ -12,48 +9,6 @@ using namespace brx::checks;
 // What of the configuration dialog a person cannot read off the screen, or only as a colour.
 
 namespace {
-
-struct ConfigurationForm : testing::Test {
-    ConfigurationForm() {
-        host.has_test(7, "Length")->fields.item_id = "Line1.Speed";
-        form.set_configuration(host.configuration);
-    }
-
-    FakeHost host;
-    ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
-    dlgConfiguration form{environment};
-
-    template <class Which> Which& find(const std::string& name) { return control_of<Which>(form, name); }
-    TextBox& box(const std::string& name) { return find<TextBox>(name); }
-    ListView& list(const std::string& name) { return find<ListView>(name); }
-    void tick() { EXPECT_TRUE(find<Timer>("Timer1").tick()); }
-
-    void while_open(const std::function<void()>& story) {
-        engine.while_open = [=](Form& shown) {
-            const ModalTurn waiting(&shown);
-            story();
-        };
-        form.show_modal();
-    }
-    /// What is typed, or pasted, replaces the text.
-    void enter(const std::string& name, const std::string& text) {
-        const bool on_sampling = name == "txtSGInterval" || name == "txtPieceTimeInterval";
-        EXPECT_TRUE(find<TabStrip>("TabStrip1").user_select(on_sampling ? 2 : 1));
-        EXPECT_TRUE(box(name).user_text(text));
-    }
-
-    std::vector<std::string> red_boxes() {
-        std::vector<std::string> red;
-        for (const char* name :
-             {"txtDeadband", "txtPieceTimeInterval", "txtSGInterval", "txtSubgroupSize", "txtUpdateRate"})
-            if (box(name).back_color() != color::window) {
-                EXPECT_EQ(box(name).back_color(), color::red);
-                red.emplace_back(name);
-            }
-        return red;
-    }
-};
 
 using Names = std::vector<std::string>;
 using Columns = std::vector<std::pair<std::string, int>>;
@@ -104,14 +59,6 @@ TEST_F(ConfigurationForm, TheColoursOfTheStartComeFromWhatIsLoadedBefore) {
     host.configuration->fields.subgroup_interval = 40000;
     host.configuration->fields.subgroup_size = 99999;
     while_open([&] { EXPECT_EQ(red_boxes(), (Names{"txtPieceTimeInterval", "txtSGInterval"})); });
-}
-
-TEST_F(ConfigurationForm, ANumberThatNothingCanHoldIsReportedByTheChangedField) {
-    while_open([&] { enter("txtSGInterval", "1E999"); });
-    ASSERT_EQ(host.reports.size(), 1U);
-    EXPECT_EQ(host.reports[0].what.number, error::overflow);
-    EXPECT_EQ(host.reports[0].what.location, "dlgConfiguration.txtSGInterval_Change");
-    EXPECT_EQ(host.reports[0].library, ErrorLibrary::hlxER01);
 }
 
 TEST_F(ConfigurationForm, TheListsHaveTheirColumns) {
@@ -209,20 +156,6 @@ TEST_F(ConfigurationForm, TheTwoNumbersForTheOneWhoShowsItAreLongIntegers) {
     EXPECT_EQ(form.second_value(), Variant(std::int32_t{0}));
 }
 
-TEST_F(ConfigurationForm, DoesNotHoldTheHostsObjectsAfterwards) {
-    while_open([] {});
-    EXPECT_EQ(host.still_held(), "");
-}
-
-TEST_F(ConfigurationForm, ADateBeforeItsCalendarIsReportedAndNothingIsCommitted) {
-    host.configuration->fields.sync_date_time = Date{-200000}; // in 1352
-    while_open([&] { EXPECT_TRUE(find<Button>("bnClose").user_click()); });
-    ASSERT_EQ(host.reports.size(), 1U);
-    EXPECT_EQ(host.reports[0].what.number, error::invalid_procedure_call);
-    EXPECT_EQ(host.reports[0].what.location, "dlgConfiguration.Form_Load");
-    EXPECT_EQ(host.calls.count("hlxOPCConfiguration.Name="), 0);
-}
-
 TEST_F(ConfigurationForm, AnEditStartedBesideTheRowsDoesNothing) {
     while_open([&] {
         EXPECT_TRUE(list("lvwTest").user_double_click());
@@ -271,31 +204,4 @@ TEST_F(ConfigurationForm, EachFieldHasItsCaption) {
                                                             {"lblSyncDate", "&A. Date:"},
                                                             {"lblSyncTime", "&B. Time:"},
                                                             {"lblUpdateRate", "&B. Update Rate:"}}));
-}
-
-TEST_F(ConfigurationForm, FormatsThatCannotBeReadBackLoseNoDate) {
-    const Date sync{46347.5625};
-    host.configuration->fields.sync_date_time = sync;
-    for (const auto& [short_date, long_time] :
-         {std::pair("yyyy. MM. dd.", "H:mm:ss"), std::pair("yyyy-MM-dd", "tt h:mm:ss"),
-          std::pair("d.M.yyyy '\u0433.'", "H:mm:ss '\u0447.'")}) {
-        environment.locale.short_date = short_date;
-        environment.locale.long_time = long_time;
-        form.set_configuration(host.configuration);
-        while_open([&] { EXPECT_TRUE(find<Button>("bnClose").user_click()); });
-        EXPECT_EQ(host.calls.count("hlxOPCConfiguration.SyncDateTime="), 1) << short_date << long_time;
-        EXPECT_NEAR(host.configuration->fields.sync_date_time.days, sync.days, 1e-9);
-        EXPECT_TRUE(host.reports.empty());
-        host.calls = CallLog();
-    }
-}
-
-TEST_F(ConfigurationForm, WhereTheCommaSeparatesDecimalsTheDeadBandIsReadUpToIt) {
-    environment.locale = Locale::german();
-    host.configuration->fields.dead_band = 2.5F;
-    while_open([&] {
-        EXPECT_EQ(box("txtDeadband").text(), "2,5");
-        EXPECT_TRUE(find<Button>("bnClose").user_click());
-    });
-    EXPECT_EQ(host.configuration->fields.dead_band, 2.0F);
 }

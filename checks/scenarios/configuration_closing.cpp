@@ -87,6 +87,10 @@ SCENARIO(ConfigurationDialog, WithoutTestsOkCommitsWithoutTriggersAndWithoutChec
     its.person.enters("txtName", "Line 2");
     pastes_into(its.person, "txtUpdateRate", "fast");
     pastes_into(its.person, "txtSubgroupSize", "8pieces");
+    pastes_into(its.person, "txtDeadband", "much");
+    dialog.turns_to_sampling();
+    pastes_into(its.person, "txtSGInterval", "often");
+    pastes_into(its.person, "txtPieceTimeInterval", "6 or 7");
     its.person.presses("bnClose");
     its.person.answers(no_test, message::ok);
     its.person.is_at("");
@@ -94,6 +98,9 @@ SCENARIO(ConfigurationDialog, WithoutTestsOkCommitsWithoutTriggersAndWithoutChec
     EXPECT_EQ(fields.name, "Line 2");
     EXPECT_EQ(fields.update_rate, 0);
     EXPECT_EQ(fields.subgroup_size, 8);
+    EXPECT_EQ(fields.dead_band, 0.0F);
+    EXPECT_EQ(fields.subgroup_interval, 0);
+    EXPECT_EQ(fields.piece_interval, 6);
     EXPECT_EQ(fields.piece_trigger_item, "");
     EXPECT_EQ(fields.subgroup_trigger_item, "");
     EXPECT_EQ(fields.subgroup_trigger_type, 1);
@@ -131,6 +138,36 @@ SCENARIO(ConfigurationDialog, WithoutAGroupTheTriggersCannotBeCommitted) {
     its.person.is_at("dlgConfiguration");
     its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCGroup");
     its.expect_report(error::object_not_set, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(dialog.writes(),
+              (Lines{"hlxOPCConfiguration.Name=", "hlxOPCConfiguration.SubgroupSize=",
+                     "hlxOPCConfiguration.UpdateRate=", "hlxOPCConfiguration.DeadBand=",
+                     "hlxOPCConfiguration.Active=", "hlxOPCConfiguration.SyncDateTime=",
+                     "hlxOPCConfiguration.PieceInterval=", "hlxOPCConfiguration.PieceTimeUnit="}));
+    dialog.leaves();
+}
+
+SCENARIO(ConfigurationDialog, WithoutAGroupAndTriggersEverythingIsCommitted) {
+    a_filled_configuration(its);
+    its.host.configuration->group = nullptr;
+    its.host.configuration->fields.subgroup_trigger_item = "";
+    its.host.configuration->fields.piece_trigger_item = "<None>";
+    Configuring dialog(its);
+    its.person.enters("txtName", "Line 2");
+    dialog.closes();
+    its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCGroup");
+    EXPECT_EQ(dialog.fields().name, "Line 2");
+    EXPECT_EQ(dialog.writes().size(), 16U);
+    EXPECT_EQ(dialog.writes().back(), "hlxOPCConfiguration.PieceTriggerValue=");
+}
+
+SCENARIO(ConfigurationDialog, TheGroupIsAskedForBeforeAnythingIsWritten) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    its.host.calls.fail_on("hlxOPCConfiguration.OPCGroup");
+    its.person.presses("bnClose");
+    its.person.is_at("dlgConfiguration");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(dialog.writes(), Lines());
     dialog.leaves();
 }
 

@@ -1,9 +1,25 @@
 #include "configuring.h"
 
+#include <utility>
+
 // The configuration dialog as a whole and its first tab.
 
 using namespace brx;
 using namespace brx::checks;
+
+namespace {
+
+/// What was asked of configurations since there were `from` calls.
+Lines asked_of_configurations(const Play& its, std::size_t from) {
+    Lines asked;
+    const std::vector<HostCall>& made = its.host.calls.made();
+    const std::string prefix = "hlxOPCConfiguration.";
+    for (std::size_t n = from; n < made.size(); ++n)
+        if (made[n].member.starts_with(prefix)) asked.push_back(made[n].member.substr(prefix.size()));
+    return asked;
+}
+
+} // namespace
 
 SCENARIO(ConfigurationDialog, ShowsTheGeneralSettings) {
     a_filled_configuration(its);
@@ -18,6 +34,36 @@ SCENARIO(ConfigurationDialog, ShowsTheGeneralSettings) {
     EXPECT_EQ(dialog.containers(), std::vector<int>{0});
     EXPECT_TRUE(its.person.has_focus("txtName"));
     dialog.leaves();
+}
+
+SCENARIO(ConfigurationDialog, ReadsEverySettingOnceAndInOneOrder) {
+    a_filled_configuration(its);
+    // Hosts that bind early and late take turns.
+    for (int opening = 0; opening < 3; ++opening) {
+        const std::size_t before = its.host.calls.made().size();
+        Configuring dialog(its);
+        EXPECT_EQ(asked_of_configurations(its, before), (Lines{"Server",
+                                                               "Name",
+                                                               "SubgroupSize",
+                                                               "UpdateRate",
+                                                               "DeadBand",
+                                                               "Active",
+                                                               "SyncDateTime",
+                                                               "SubgroupTimeUnit",
+                                                               "PieceTimeUnit",
+                                                               "SubgroupInterval",
+                                                               "PieceInterval",
+                                                               "SubgroupTriggerType",
+                                                               "SubgroupTriggerItem",
+                                                               "SubgroupTriggerValue",
+                                                               "PieceTriggerType",
+                                                               "PieceTriggerItem",
+                                                               "PieceTriggerValue",
+                                                               "Descriptors",
+                                                               "Tests",
+                                                               "Server"})); // that of the only test
+        dialog.leaves();
+    }
 }
 
 SCENARIO(ConfigurationDialog, TheServerOfTheLocalComputerGoesWithoutANode) {
@@ -86,6 +132,36 @@ SCENARIO(ConfigurationDialog, ArrowKeysTurnTheTabsWhenTheStripHasTheFocus) {
     dialog.leaves();
 }
 
+SCENARIO(ConfigurationDialog, TheLetterInACaptionLeadsToTheFieldBehindIt) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    using Fields = std::vector<std::pair<char, const char*>>;
+    // The letter of the dead band is that of the button to close, too.
+    for (const auto& [letter, field] : Fields{{'e', "txtSubgroupSize"},
+                                              {'a', "txtName"},
+                                              {'b', "txtUpdateRate"},
+                                              {'c', "txtDeadband"},
+                                              {'f', "lvwTest"},
+                                              {'d', "chkActive"}}) {
+        its.person.uses_accelerator(letter);
+        EXPECT_TRUE(its.person.has_focus(field)) << field;
+    }
+    EXPECT_EQ(its.person.sees("chkActive").selected, 0);
+    dialog.turns_to_sampling();
+    for (const auto& [letter, field] : Fields{{'a', "dtSyncDate"},
+                                              {'b', "dtSyncTime"},
+                                              {'c', "txtSGInterval"},
+                                              {'d', "cboSGTimeUnit"},
+                                              {'e', "txtSGEval"},
+                                              {'f', "txtPieceTimeInterval"},
+                                              {'g', "cboPieceTimeUnit"},
+                                              {'h', "txtPieceEval"}}) {
+        its.person.uses_accelerator(letter);
+        EXPECT_TRUE(its.person.has_focus(field)) << field;
+    }
+    dialog.leaves();
+}
+
 SCENARIO(ConfigurationDialog, AcceleratorsOfHiddenTabsAreDead) {
     a_filled_configuration(its);
     Configuring dialog(its);
@@ -125,7 +201,7 @@ SCENARIO(ConfigurationDialog, NumbersTakeDigitsAndNothingElseFromTheKeyboard) {
     a_filled_configuration(its);
     Configuring dialog(its);
     for (const char* box : {"txtDeadband", "txtSubgroupSize", "txtUpdateRate"}) {
-        its.person.replaces(box, "1-2.3,4 x5");
+        its.person.replaces(box, "1-2.3,4 x/:5");
         EXPECT_EQ(its.person.reads(box), "12345") << box;
         its.person.hits(Key::backspace);
         EXPECT_EQ(its.person.reads(box), "12345") << box;
@@ -134,7 +210,7 @@ SCENARIO(ConfigurationDialog, NumbersTakeDigitsAndNothingElseFromTheKeyboard) {
     }
     dialog.turns_to_sampling();
     for (const char* box : {"txtPieceTimeInterval", "txtSGInterval"}) {
-        its.person.replaces(box, "-3.0e0");
+        its.person.replaces(box, "-3.0e/:0");
         EXPECT_EQ(its.person.reads(box), "300") << box;
         its.person.hits(Key::backspace);
         EXPECT_EQ(its.person.reads(box), "300") << box;

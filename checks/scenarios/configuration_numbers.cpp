@@ -98,6 +98,7 @@ SCENARIO(ConfigurationDialog, EachNumberIsCheckedAndTheFieldAtFaultComesForward)
         pastes_into(its.person, each.box, "ten");
         dialog.turns_to("&4. Server Information");
         its.person.presses("bnClose");
+        EXPECT_EQ(dialog.containers(), std::vector<int>{3}) << "It turns when the message has been read.";
         its.person.answers(invalid(each.why));
         EXPECT_EQ(dialog.containers(), std::vector<int>{each.container}) << each.box;
         EXPECT_TRUE(its.person.has_focus(each.box));
@@ -106,6 +107,31 @@ SCENARIO(ConfigurationDialog, EachNumberIsCheckedAndTheFieldAtFaultComesForward)
         pastes_into(its.person, each.box, "ten");
     }
     EXPECT_EQ(dialog.fields(), before);
+    dialog.leaves();
+}
+
+SCENARIO(ConfigurationDialog, AMissingUnitIsToldInItsPlaceAmongTheNumbers) {
+    a_filled_configuration(its);
+    its.host.configuration->fields.subgroup_time_unit = -1;
+    Configuring dialog(its);
+    pastes_into(its.person, "txtSubgroupSize", "ten");
+    struct Case {
+        const char* piece_interval;
+        const char* subgroup_interval;
+        const char* why;
+    };
+    const std::vector<Case> cases = {{"ten", "ten", "Piece Interval must be a numeric value."},
+                                     {"10", "ten", "A Piece Time Unit must be selected."},
+                                     {"", "ten", "Subgroup Interval must be a numeric value."},
+                                     {"", "10", "A Subgroup Time Unit must be selected."},
+                                     {"", "", "Subgroup Size must be a numeric value."}};
+    for (const Case& each : cases) {
+        dialog.turns_to_sampling();
+        pastes_into(its.person, "txtPieceTimeInterval", each.piece_interval);
+        pastes_into(its.person, "txtSGInterval", each.subgroup_interval);
+        its.person.presses("bnClose");
+        its.person.answers(invalid(each.why));
+    }
     dialog.leaves();
 }
 
@@ -163,4 +189,17 @@ SCENARIO(ConfigurationDialog, ANumberTooLargeIsReportedAndTheFormStays) {
     its.person.replaces("txtUpdateRate", "500");
     dialog.closes();
     EXPECT_EQ(dialog.fields().update_rate, 500);
+}
+
+SCENARIO(ConfigurationDialog, ADeadBandTooLargeIsReportedAndWrittenNowhere) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    pastes_into(its.person, "txtDeadband", "1E39");
+    its.person.presses("bnClose");
+    its.person.is_at("dlgConfiguration");
+    its.expect_report(error::overflow, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(dialog.writes(), (Lines{"hlxOPCConfiguration.Name=", "hlxOPCConfiguration.SubgroupSize=",
+                                      "hlxOPCConfiguration.UpdateRate="}));
+    EXPECT_EQ(dialog.fields().dead_band, 0.1F);
+    dialog.leaves();
 }

@@ -69,6 +69,8 @@ SCENARIO(SamplingTab, WithoutAnItemNoTriggerShowsAndNoneIsKept) {
     EXPECT_EQ(dialog.fields().subgroup_trigger_value, Variant(Empty()));
     EXPECT_EQ(dialog.fields().piece_trigger_type, 0);
     EXPECT_EQ(dialog.fields().piece_trigger_value, Variant(Empty()));
+    EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.SubgroupTriggerValue"), 0);
+    EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.PieceTriggerValue"), 0);
 }
 
 SCENARIO(SamplingTab, TheTriggerDialogGetsTheTriggerAndItsAnswerShowsWithoutTheBlank) {

@@ -31,11 +31,24 @@ SCENARIO(TestsTab, ListsTheTestsInTheirOrder) {
     dialog.leaves();
 }
 
+SCENARIO(TestsTab, TheServerOfATestIsThatWhichItsOwnParentsLeadTo) {
+    a_filled_configuration(its);
+    const auto other = std::make_shared<FakeConfiguration>(its.host.calls);
+    other->server = std::make_shared<FakeServerHolder>(its.host.calls);
+    other->server->entry = std::make_shared<FakeServer>(its.host.calls, "Press", "PC9");
+    its.host.configuration->tests->parent = other;
+    Configuring dialog(its);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{"Length | Line1.Speed | Press | PC9"}));
+    dialog.leaves();
+}
+
 SCENARIO(TestsTab, ATestWhoseItemCouldNotBeHadIsBoldAndRedWithoutIt) {
     three_tests(its);
     its.host.configuration->tests->entries[1]->fields.state = 2;
+    its.host.configuration->tests->entries[2]->fields.state = 3;
     Configuring dialog(its);
     EXPECT_EQ(its.person.line_of("lvwTest", 1), "*red:Width* |  | *red:Matrix* | *red:PC7*");
+    EXPECT_EQ(its.person.line_of("lvwTest", 2), "Mass | Line1.Torque | Matrix | PC7");
     dialog.leaves();
 }
 
@@ -73,6 +86,25 @@ SCENARIO(TestsTab, ACancelledNewTestIsTakenBack) {
     its.person.closes_the_window();
     EXPECT_EQ(characteristics(its), (Lines{"Length", "Width", "Mass"}));
     EXPECT_EQ(its.person.lines_of("lvwTest").size(), 3U);
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, ACancelledNewTestIsTakenBackFromWhereverItIs) {
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    its.person.presses("bnAdd");
+    its.host.has_test(9, "Mass"); // by somebody else
+    its.person.presses("bnCancel");
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Mass"}));
+    its.person.presses("bnAdd");
+    const auto owner = its.host.configuration->tests;
+    const auto others = std::make_shared<FakeTests>(its.host.calls);
+    for (const std::int32_t id : {1, 2, 3}) others->has(id, "Another", 1);
+    its.host.configuration->tests = others;
+    its.person.presses("bnCancel");
+    its.host.configuration->tests = owner;
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Mass"}));
+    EXPECT_EQ(others->entries.size(), 3U);
     dialog.leaves();
 }
 
@@ -121,6 +153,19 @@ SCENARIO(TestsTab, RemoveTakesTheSelectedTestWithoutAsking) {
     its.person.picks("lvwTest", "Mass | Line1.Torque | Matrix | PC7");
     its.person.presses("bnRemove");
     EXPECT_EQ(characteristics(its), (Lines{"Length"}));
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, ATestThatTheHostDoesNotRemoveStaysInTheList) {
+    three_tests(its);
+    its.host.configuration->tests->keeps_all = true;
+    Configuring dialog(its);
+    const Lines before = its.person.lines_of("lvwTest");
+    its.person.picks("lvwTest", "Width | Line1.Force | Matrix | PC7");
+    its.person.presses("bnRemove");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemove_Click",
+                      ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), before);
     dialog.leaves();
 }
 

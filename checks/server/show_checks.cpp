@@ -50,6 +50,15 @@ TEST_F(ShowTest, AClosedInformationIsTrue) {
     EXPECT_EQ(windows.count(), 1);
 }
 
+TEST_F(ShowTest, AClosedConfigurationIsNotHeld) {
+    const auto object = dll.create<_ConfigurationSetup>(CLSID_ConfigurationSetup);
+    IDispatch* configuration = to_com<hlxOPCConfiguration>(host.configuration).detach();
+    EXPECT_EQ(object->Show(configuration), S_OK);
+    EXPECT_EQ(windows.count(), 1);
+    EXPECT_EQ(configuration->Release(), 0u) << "the configuration is held";
+    EXPECT_EQ(errors.heard.size(), 0u);
+}
+
 TEST_F(ShowTest, AnObjectIsShownAnyNumberOfTimes) {
     const auto object = dll.create<_ServerInformation>(CLSID_ServerInformation);
     const auto connection = to_com<OPCServer>(host.enumerator);
