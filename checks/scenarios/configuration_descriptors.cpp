@@ -1,6 +1,9 @@
 #include "configuring.h"
 
-// The descriptors of a configuration, and the dialog in which their kind is chosen.
+#include <algorithm>
+#include <iterator>
+
+// The descriptors of a configuration.
 
 using namespace brx;
 using namespace brx::checks;
@@ -211,74 +214,6 @@ SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
     dialog.leaves();
 }
 
-namespace {
-
-void opens_the_kinds(Play& its, Configuring& dialog) {
-    dialog.turns_to_descriptors();
-    its.person.presses("bnAddDesc");
-    its.person.is_at("dlgDescriptorType");
-}
-
-} // namespace
-
-SCENARIO(DescriptorTypeDialog, AnEmptyConfigurationIsOfferedEveryKind) {
-    Configuring dialog(its);
-    opens_the_kinds(its, dialog);
-    EXPECT_EQ(its.person.title(), "Descriptor Type");
-    EXPECT_EQ(its.person.lines_of("List1"),
-              (Lines{"Part", "Process", "Job", "Lot", "Shift", "Serial Number", "Subgroup Comment",
-                     "User Defined (Subgroup)", "User Defined (Piece)"}));
-    EXPECT_EQ(its.person.sees("List1").selected, 0);
-    its.person.hits(Key::escape);
-    its.person.is_at("dlgConfiguration");
-    dialog.leaves();
-}
-
-SCENARIO(DescriptorTypeDialog, OnlyTheUserDefinedKindsAreOfferedTwice) {
-    for (const std::int32_t type : {0, 1, 2, 3, 4, 5, 5, 6, 7, 8, 9, 100, -1})
-        its.host.configuration->descriptors->has({.type = type, .item = "x", .group = "y"});
-    Configuring dialog(its);
-    opens_the_kinds(its, dialog);
-    EXPECT_EQ(its.person.lines_of("List1"), (Lines{"User Defined (Subgroup)", "User Defined (Piece)"}));
-    EXPECT_EQ(its.person.sees("List1").selected, 0);
-    its.person.presses("bnCancel");
-    dialog.leaves();
-}
-
-SCENARIO(DescriptorTypeDialog, UnknownCodesHideNoKind) {
-    its.host.configuration->descriptors->has({.type = 9, .item = "x", .group = "y"});
-    Configuring dialog(its);
-    opens_the_kinds(its, dialog);
-    EXPECT_EQ(its.person.lines_of("List1").size(), 9U);
-    its.person.presses("bnCancel");
-    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{" | y | x"}));
-    dialog.leaves();
-}
-
-SCENARIO(DescriptorTypeDialog, ADoubleClickChooses) {
-    Configuring dialog(its);
-    opens_the_kinds(its, dialog);
-    its.person.double_clicks("List1", "User Defined (Piece)");
-    its.person.is_at("dlgDescriptorProperties");
-    EXPECT_EQ(its.person.title(), "Descriptor Properties - User Defined (Piece)");
-    EXPECT_EQ(its.host.configuration->descriptors->fields()[0].type, 6);
-    its.person.presses("bnCancel");
-    dialog.leaves();
-}
-
-SCENARIO(DescriptorTypeDialog, WithoutItsKindsNothingCanBeChosen) {
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
-    its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
-    its.person.presses("bnAddDesc");
-    its.expect_report(CallLog::failure_number, "dlgDescriptorType.Form_Load");
-    its.person.presses("bnOK");
-    its.person.is_at("dlgDescriptorType");
-    its.person.presses("bnCancel");
-    EXPECT_EQ(its.host.configuration->descriptors->entries.size(), 0U);
-    dialog.leaves();
-}
-
 SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
     three_descriptors(its);
     const Fields before = its.host.configuration->descriptors->fields();
@@ -292,5 +227,76 @@ SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
     its.expect_report(CallLog::failure_number, "dlgConfiguration.bnEditDesc_Click");
     EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ACancelledDescriptorIsFoundWhereverTheHostPutIt) {
+    three_descriptors(its);
+    const Fields before = its.host.configuration->descriptors->fields();
+    its.host.configuration->descriptors->adds_in_front = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Job");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.host.configuration->descriptors->fields()[0], (DescriptorFields{2, "", ""}));
+    its.person.presses("bnCancel");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ARowShowsWhatTheDescriptorKeptOfTheNames) {
+    its.host.configuration->descriptors->trims_names = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Part");
+    its.person.presses("bnOK");
+    its.person.enters("txtGroup", " Castings ");
+    its.person.enters("txtItem", " Wheel ");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines{"Part | Castings | Wheel"});
+    its.person.double_clicks("lvwDescriptors", "Part | Castings | Wheel");
+    its.person.enters("txtGroup", "  Forgings");
+    its.person.enters("txtItem", "Axle  ");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines{"Part | Forgings | Axle"});
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, AnEditCallsTheHostInTheOrderThatItKnows) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[0]);
+    const auto before = static_cast<std::ptrdiff_t>(its.host.calls.made().size());
+    its.person.presses("bnEditDesc");
+    its.person.presses("bnOK");
+    const Lines all = its.host.calls.members();
+    Lines calls;
+    std::copy_if(all.begin() + before, all.end(), std::back_inserter(calls), [](const std::string& member) {
+        return member.starts_with("hlxOPCDescriptor") || member == "hlxApplication.Database";
+    });
+    EXPECT_EQ(calls,
+              (Lines{"hlxOPCDescriptors.Item", "hlxApplication.Database",
+                     // shown
+                     "hlxOPCDescriptor.Type", "hlxOPCDescriptor.ItemName", "hlxOPCDescriptor.GroupName",
+                     // written, each after its former value
+                     "hlxOPCDescriptor.ItemName", "hlxOPCDescriptor.ItemName=", "hlxOPCDescriptor.GroupName",
+                     "hlxOPCDescriptor.GroupName=",
+                     // listed
+                     "hlxOPCDescriptor.Type", "hlxOPCDescriptor.GroupName", "hlxOPCDescriptor.ItemName"}));
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, DescriptorsThatCannotAllBeReadAreNotListed) {
+    three_descriptors(its);
+    its.host.calls.fail_on("hlxOPCDescriptor.ItemName");
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    dialog.turns_to_descriptors();
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines());
     dialog.leaves();
 }

@@ -107,10 +107,9 @@ void dlgDescriptorProperties::AddOPCItem(const OPCGroupPtr& group, const std::st
                 items->AddItems({{item_id}}, LongArray{{0}}, ShortArray{{0}}, std::nullopt);
             const std::int32_t error = added.Errors.at(1);
             if (error != 0) {
-                const hlxOPCServerPtr entry = the(the(configuration_).Server()).ServerEntry();
-                const OPCServerPtr server = tools_.ResolveOPCServer(the(entry).OPCServer());
-                show_message({.text = refusal_text(the(server).GetErrorString(error), item_id),
-                              .style = message::critical});
+                // The group leads to its server even when the configuration has lost its connection.
+                const std::string why = the(group->Parent()).GetErrorString(error);
+                show_message({.text = refusal_text(why, item_id), .style = message::critical});
                 return;
             }
         }

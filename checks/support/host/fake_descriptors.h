@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/model/configuration.h"
+#include "common/values/text.h"
 #include "host/call_log.h"
 
 #include <memory>
@@ -39,10 +40,7 @@ private:
         calls_.note("hlxOPCDescriptor." + member);
         return value;
     }
-    void write(const std::string& member, std::string& field, const std::string& value) {
-        calls_.note("hlxOPCDescriptor." + member);
-        field = value;
-    }
+    void write(const std::string& member, std::string& field, const std::string& value);
 
     CallLog& calls_;
     const FakeDescriptors& owner_;
@@ -54,7 +52,9 @@ public:
     explicit FakeDescriptors(CallLog& calls) : calls_(calls) {}
 
     std::vector<std::shared_ptr<FakeDescriptor>> entries;
-    bool keeps_all = false; ///< Remove fails
+    bool keeps_all = false;     ///< Remove fails
+    bool adds_in_front = false; ///< Add makes the new one the first
+    bool trims_names = false;   ///< leading and trailing blanks are not kept
 
     void has(const DescriptorFields& fields) {
         entries.push_back(std::make_shared<FakeDescriptor>(calls_, *this, fields));
@@ -71,8 +71,10 @@ public:
     }
     hlxOPCDescriptorPtr Add(std::int32_t type) override {
         calls_.note("hlxOPCDescriptors.Add");
-        has({.type = type, .item = {}, .group = {}});
-        return entries.back();
+        const auto where = adds_in_front ? entries.begin() : entries.end();
+        return *entries.insert(
+            where, std::make_shared<FakeDescriptor>(calls_, *this,
+                                                    DescriptorFields{.type = type, .item = {}, .group = {}}));
     }
     hlxOPCDescriptorPtr Item(const Variant& position) override {
         calls_.note("hlxOPCDescriptors.Item");
@@ -106,6 +108,11 @@ private:
 
     CallLog& calls_;
 };
+
+inline void FakeDescriptor::write(const std::string& member, std::string& field, const std::string& value) {
+    calls_.note("hlxOPCDescriptor." + member);
+    field = owner_.trims_names ? trim(value) : value;
+}
 
 inline std::int32_t FakeDescriptor::Index() {
     calls_.note("hlxOPCDescriptor.Index");
