@@ -100,3 +100,45 @@ SCENARIO(ServerStatusTab, TheTimerGoesOnUnderOtherDialogs) {
     EXPECT_EQ(its.person.lines_of("lvwServerInfo"), server_rows);
     dialog.leaves();
 }
+
+SCENARIO(ServerStatusTab, ALostConnectionLeavesTheListAsItWas) {
+    its.host.groups->has("Fast");
+    Configuring dialog(its);
+    its.person.waits_for_ticks(1);
+    const Lines rows = with(server_rows, {"Group  | Fast"});
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), rows);
+    const hlxOPCServerPtr connected = its.host.configuration->server->entry;
+    an_unconnected_server(its, "Matrix");
+    its.host.groups->entries[0]->name = "Faster";
+    its.person.waits_for_ticks(1);
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), rows);
+    its.host.configuration->server->entry = connected;
+    its.person.waits_for_ticks(1);
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), with(server_rows, {"Group  | Faster"}));
+    dialog.leaves();
+}
+
+SCENARIO(ServerStatusTab, AValueThatCannotBeReadEndsTheTick) {
+    its.host.groups->has("Fast");
+    Configuring dialog(its);
+    its.host.calls.fail_on("OPCServer.Bandwidth");
+    its.person.waits_for_ticks(1);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Timer1_Timer");
+    const Lines first_five(server_rows.begin(), server_rows.begin() + 5);
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), first_five);
+    its.host.calls.fail_on("");
+    its.person.waits_for_ticks(1);
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), with(server_rows, {"Group  | Fast"}));
+    // What comes before it goes on, what comes after it stays.
+    its.host.connection->current_time = Date{46002.5};
+    its.host.connection->vendor_info = "Others";
+    its.host.groups->entries[0]->name = "Faster";
+    its.host.calls.fail_on("OPCServer.Bandwidth");
+    its.person.waits_for_ticks(1);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Timer1_Timer");
+    EXPECT_TRUE(its.host.reports.empty());
+    Lines rows = server_rows;
+    rows[3] = "Current Time | 12/11/2025 12:00:00 PM";
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo"), with(rows, {"Group  | Fast"}));
+    dialog.leaves();
+}
