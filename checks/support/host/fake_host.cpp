@@ -92,7 +92,8 @@ std::string FakeHost::still_held() const {
     std::string held;
     if (servers.use_count() > 1) held += "The servers collection is still referred to. ";
     for (const auto& entry : servers->entries())
-        if (entry.use_count() > 1) held += "A server entry is still referred to. ";
+        if (entry.use_count() > (entry == configuration->server->entry ? 2 : 1))
+            held += "A server entry is still referred to. ";
     if (enumerator.use_count() > 2) held += "The enumerating server is still referred to. ";
     if (connection.use_count() > 2) held += "The browsed server is still referred to. ";
     if (browser.use_count() > 2) held += "The browser is still referred to. ";
