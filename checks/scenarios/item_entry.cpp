@@ -112,6 +112,21 @@ SCENARIO(ItemEntry, OKWithoutAnItemAsksForOne) {
     EXPECT_FALSE(browsing.result());
 }
 
+SCENARIO(ItemEntry, TheHostsOwnMessageServiceShowsTheMessages) {
+    a_plant(its);
+    its.host.message_service = std::make_shared<FakeMessageService>(its.host.calls);
+    its.host.browser->failing = {"GetItemID"};
+    Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "Speed");
+    its.person.presses("bnOK");
+    its.person.enters("txtFullPath", "Nothing");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.host.message_service->shown, (std::vector<Message>{no_item, unknown_item}));
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(browsing.result());
+}
+
 SCENARIO(ItemEntry, ADoubleClickOnALeafWithoutAnIdentifierAsksForAnItem) {
     a_plant(its);
     its.host.browser->failing = {"GetItemID"};

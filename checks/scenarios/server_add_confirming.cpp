@@ -129,6 +129,12 @@ SCENARIO(AddingAServer, TheHostsOwnMessageServiceShowsTheMessages) {
     its.person.presses("bnOK");
     EXPECT_EQ(its.host.message_service->shown, std::vector<Message>{already_there});
     its.person.is_at("dlgServerAdd");
+    its.host.servers->refuses("Class not registered");
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    ASSERT_EQ(its.host.message_service->shown.size(), 2U);
+    EXPECT_TRUE(its.host.message_service->shown[1].text.starts_with("UNABLE TO CONNECT!"));
+    its.person.is_at("dlgServerAdd");
     dialog.cancels();
 }
 

@@ -1,3 +1,4 @@
+#include "faults.h"
 #include "scenario.h"
 
 #include <gtest/gtest-spi.h>
@@ -52,7 +53,16 @@ void expect_the_right_report(const Play& its, const HostCall& call, const std::s
 /// A call's member without what it was given.
 std::string member_of(const HostCall& call) { return call.member.substr(0, call.member.find('(')); }
 
+std::set<std::string>& reached_places() {
+    static std::set<std::string> places;
+    return places;
+}
+
 } // namespace
+
+bool plays_with_a_failing_host(const std::string& suite) { return suite.ends_with("WithAFailingHost"); }
+
+const std::set<std::string>& places_that_stories_reached() { return reached_places(); }
 
 std::set<std::string> play_with_failing_calls(const Story& story) {
     std::set<std::string> places;
@@ -72,6 +82,8 @@ std::set<std::string> play_with_failing_calls(const Story& story) {
         EXPECT_EQ(its.stage->leaks(), "");
         places.insert(member_of(call) + " in " + (call.location.empty() ? "nobody's trap" : call.location));
     }
+    if (plays_with_a_failing_host(testing::UnitTest::GetInstance()->current_test_info()->test_suite_name()))
+        reached_places().insert(places.begin(), places.end());
     return places;
 }
 
