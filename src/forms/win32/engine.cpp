@@ -111,7 +111,10 @@ std::int32_t Win32Engine::message_box(const Message& message) {
         pressed = MessageBoxW(owner, text.c_str(), title.c_str(), style);
     }
     if (pressed == 0) throw Error(error::invalid_procedure_call);
-    if (open_forms_.empty()) give_focus_back(focus_before);
+    if (open_forms_.empty())
+        give_focus_back(focus_before);
+    else // Some systems leave a form below its owner when a box follows a form that has just closed.
+        SetWindowPos(owner, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return pressed;
 }
 
