@@ -1,5 +1,7 @@
 #include "sample/store_stage.h"
 
+#include "collect/reference.h"
+
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -241,12 +243,12 @@ TEST_F(StoreConfigurations, ADescriptorThatCannotBeStoredOrRemovedChangesNothing
 }
 
 TEST_F(StoreConfigurations, AReferenceToAnItemStandsBetweenItsSigns) {
-    EXPECT_EQ(referred_item("(%Labeller.Batch)"), "Labeller.Batch");
-    EXPECT_EQ(referred_item("(%Tank (A).Level)"), "Tank (A).Level");
-    EXPECT_EQ(referred_item("Bottle 0.5 l"), "");
-    EXPECT_EQ(referred_item("(%Labeller"), "");
-    EXPECT_EQ(referred_item(") (%x"), "");
-    EXPECT_EQ(referred_item(""), "");
+    EXPECT_EQ(collect::referred_item("(%Labeller.Batch)"), "Labeller.Batch");
+    EXPECT_EQ(collect::referred_item("(%Tank (A).Level)"), "Tank (A).Level");
+    EXPECT_EQ(collect::referred_item("Bottle 0.5 l"), "");
+    EXPECT_EQ(collect::referred_item("(%Labeller"), "");
+    EXPECT_EQ(collect::referred_item(") (%x"), "");
+    EXPECT_EQ(collect::referred_item(""), "");
 }
 
 } // namespace

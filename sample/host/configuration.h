@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/model/opc_automation.h"
+#include "host/collection.h"
 #include "host/configuration_descriptors.h"
 #include "host/configuration_tests.h"
 
@@ -60,6 +61,8 @@ public:
 
     std::int64_t id() const { return stored_.id; }
     TestList& tests() { return *tests_; }
+    DescriptorList& descriptors() { return *descriptors_; }
+    Collection& collection() { return collection_; }
     /// Makes the group anew with the items of the tests, triggers and descriptors; none without a connected
     /// server. Never fails: what cannot be had is told in the log and by the tests' states.
     void fill_group(const ObjectPtr& server) noexcept;
@@ -75,6 +78,7 @@ private:
     StoredConfiguration stored_;
     std::shared_ptr<TestList> tests_;
     std::shared_ptr<DescriptorList> descriptors_;
+    Collection collection_{*this};
     OPCGroupPtr group_; ///< null while the server is not connected
 };
 

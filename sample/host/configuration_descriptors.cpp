@@ -1,5 +1,6 @@
 #include "host/configuration_descriptors.h"
 
+#include "collect/reference.h"
 #include "host/host.h"
 #include "host/positions.h"
 
@@ -19,13 +20,6 @@ private:
 };
 
 } // namespace
-
-std::string referred_item(const std::string& text) {
-    const std::size_t begin = text.find("(%");
-    const std::size_t end = text.rfind(')');
-    if (begin == std::string::npos || end == std::string::npos || end < begin) return {};
-    return text.substr(begin + 2, end - begin - 2);
-}
 
 void ConfigurationDescriptor::write(const char* column, std::string& field, const std::string& value) {
     host_.configurations().descriptor_row(id()).write({{column, cell_of(value)}});
@@ -86,7 +80,7 @@ std::int32_t DescriptorList::position(const ConfigurationDescriptor* descriptor)
 std::set<std::string> DescriptorList::items() const {
     std::set<std::string> found;
     for (const auto& each : descriptors_)
-        found.insert({referred_item(each->ItemName()), referred_item(each->GroupName())});
+        found.insert({collect::referred_item(each->ItemName()), collect::referred_item(each->GroupName())});
     return found;
 }
 

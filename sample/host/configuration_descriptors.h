@@ -52,6 +52,7 @@ public:
     void Remove(std::int32_t position) override;
 
     std::int32_t position(const ConfigurationDescriptor* descriptor) const;
+    const std::vector<std::shared_ptr<ConfigurationDescriptor>>& all() const { return descriptors_; }
     /// The items that the descriptors' texts refer to.
     std::set<std::string> items() const;
 
@@ -60,8 +61,5 @@ private:
     std::int64_t configuration_id_;
     std::vector<std::shared_ptr<ConfigurationDescriptor>> descriptors_;
 };
-
-/// The item that a descriptor's text refers to as "(%" item ")"; "" for a text that is no reference.
-std::string referred_item(const std::string& text);
 
 } // namespace brx::host

@@ -77,6 +77,7 @@ public:
     hlxOPCConfigurationPtr Parent() override;
 
     std::int32_t position(const CollectionTest* test) const;
+    const std::vector<std::shared_ptr<CollectionTest>>& all() const { return tests_; }
     /// The items that the tests are bound to.
     std::set<std::string> items() const;
     /// Tells every test of the item.

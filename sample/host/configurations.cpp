@@ -39,7 +39,15 @@ bool Configurations::settle(std::int32_t position) {
         return false;
     }
     configuration.fill_group(server_.OPCServer());
+    configuration.collection().take_over();
     return true;
+}
+
+void Configurations::collect(Date now) {
+    for (const auto& each : configurations_) {
+        const std::string news = each->collection().tick(server_, now);
+        if (!news.empty()) host_.log().add(each->Name() + ": " + news);
+    }
 }
 
 void Configurations::fill_groups() {

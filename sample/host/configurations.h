@@ -28,6 +28,8 @@ public:
     /// any other holds what it needs from now on. True when it is still there.
     bool settle(std::int32_t position);
 
+    /// Collects in all that run, with the local time.
+    void collect(Date now);
     void fill_groups();
     void drop_groups() noexcept;
 

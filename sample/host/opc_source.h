@@ -21,6 +21,11 @@ public:
     virtual ObjectPtr connect(const std::string& program_id, const std::string& node) = 0;
     /// The value that an item of such a connection has now; none when it is not good.
     virtual std::optional<Variant> value_of(const ObjectPtr& item) = 0;
+    /// How far an item's values can lie apart; none when that is not known.
+    virtual std::optional<double> range_of(const ObjectPtr& item) {
+        static_cast<void>(item);
+        return std::nullopt;
+    }
     /// Drops the connection of one that `connect` gave.
     virtual void disconnect(const ObjectPtr& server) noexcept = 0;
 };

@@ -20,6 +20,11 @@ std::optional<Variant> PlantSource::value_of(const ObjectPtr& item) {
     return reading.value;
 }
 
+std::optional<double> PlantSource::range_of(const ObjectPtr& item) {
+    const auto simulated = std::dynamic_pointer_cast<plant::Item>(item);
+    return simulated ? simulated->range() : std::nullopt;
+}
+
 void PlantSource::disconnect(const ObjectPtr& server) noexcept {
     if (const auto simulated = std::dynamic_pointer_cast<plant::Server>(server)) simulated->Disconnect();
 }

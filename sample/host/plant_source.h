@@ -13,6 +13,7 @@ public:
     ObjectPtr make() override;
     ObjectPtr connect(const std::string& program_id, const std::string& node) override;
     std::optional<Variant> value_of(const ObjectPtr& item) override;
+    std::optional<double> range_of(const ObjectPtr& item) override;
     void disconnect(const ObjectPtr& server) noexcept override;
 
 private:

@@ -84,11 +84,11 @@ inline constexpr const char* model_tables = R"(
 
 /// Of the servers that a new file has. One item of the filling line has gone since the test was made.
 inline constexpr const char* sample_configurations = R"(
-    INSERT INTO configuration (id, server_id, name, dead_band, subgroup_interval, sync_date_time,
-                               piece_trigger_item, piece_trigger_type, piece_trigger_value_type,
-                               piece_trigger_value) VALUES
-        (1, 1, 'Filler head 1', 0.5, 15, 46000.25, 'Filler.Head 1.Ready', 1, 11, 1),
-        (2, 2, 'Bottles',       0,   30, 46000.25, '', 0, 0, NULL);
+    INSERT INTO configuration (id, server_id, name, dead_band, subgroup_size, subgroup_interval,
+                               subgroup_time_unit, sync_date_time, piece_trigger_item, piece_trigger_type,
+                               piece_trigger_value_type, piece_trigger_value) VALUES
+        (1, 1, 'Filler head 1', 0.5, 3, 15, 0, 46000.25, 'Filler.Head 1.Ready', 1, 11, 1),
+        (2, 2, 'Bottles',       0,   5, 30, 1, 46000.25, '', 0, 0, NULL);
     INSERT INTO test (configuration_id, characteristic_id, state, item_id) VALUES
         (1, 101, 1, 'Filler.Head 1.Weight'),
         (1, 102, 1, 'Filler.Head 1.Volume'),

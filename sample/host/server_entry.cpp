@@ -12,6 +12,9 @@ namespace brx::host {
 
 namespace {
 
+constexpr std::int32_t running = 1;
+constexpr std::int32_t test = 5;
+
 std::string state_name(std::int32_t state) {
     static constexpr std::array names = {"Running",   "Failed", "No configuration",
                                          "Suspended", "Test",   "Disconnected"};
@@ -80,11 +83,24 @@ void ServerEntry::set_source(std::shared_ptr<OpcSource> source) {
 
 std::optional<Variant> ServerEntry::value_of(Configuration& configuration, const std::string& item_id) const {
     std::optional<Variant> value;
-    attempt([&] {
-        const auto items = resolve<brx::OPCGroup>(configuration.OPCGroup())->OPCItems();
-        value = source_->value_of(items->Item(item_id));
-    });
+    attempt([&] { value = source_->value_of(item_of(configuration, item_id)); });
     return value;
+}
+
+std::optional<double> ServerEntry::range_of(Configuration& configuration, const std::string& item_id) const {
+    std::optional<double> range;
+    attempt([&] { range = source_->range_of(item_of(configuration, item_id)); });
+    return range;
+}
+
+ObjectPtr ServerEntry::item_of(Configuration& configuration, const std::string& item_id) const {
+    return resolve<brx::OPCGroup>(configuration.OPCGroup())->OPCItems()->Item(item_id);
+}
+
+std::string ServerEntry::obstacle() const {
+    std::int32_t state = 0;
+    if (server_) attempt([&] { state = resolve<brx::OPCServer>(server_)->ServerState(); });
+    return state == running || state == test ? std::string() : state_text();
 }
 
 ObjectPtr FreshEntry::OPCServer() {

@@ -33,6 +33,10 @@ public:
     Configurations& configurations() { return configurations_; }
     /// The value that an item of a configuration has now; none when it cannot be had.
     std::optional<Variant> value_of(Configuration& configuration, const std::string& item_id) const;
+    /// How far the values of such an item can lie apart; none when that is not known.
+    std::optional<double> range_of(Configuration& configuration, const std::string& item_id) const;
+    /// Why nothing can be collected from the server now; "" when it can.
+    std::string obstacle() const;
 
     /// Takes over a connection that has just been made, and makes the configurations' groups on it.
     void set_connected(ObjectPtr server);
@@ -44,6 +48,8 @@ public:
     void leave() { servers_ = nullptr; }
 
 private:
+    ObjectPtr item_of(Configuration& configuration, const std::string& item_id) const;
+
     Servers* servers_; ///< null once taken out
     StoredServer stored_;
     std::shared_ptr<OpcSource> source_;

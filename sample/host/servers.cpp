@@ -82,6 +82,10 @@ void Servers::remove(std::int32_t position) {
     host_.log().add("Removed " + entry->display_text() + ".");
 }
 
+void Servers::collect(Date now) {
+    for (const auto& entry : entries_) entry->configurations().collect(now);
+}
+
 void Servers::set_last_item(std::int32_t position, const std::string& item_id) {
     ServerEntry& entry = at(position);
     store_.set_last_item(entry.id(), item_id);

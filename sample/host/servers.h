@@ -30,6 +30,8 @@ public:
     bool connect(std::int32_t position);
     void connect_all();
     void remove(std::int32_t position);
+    /// Collects in all configurations that run, with the local time. To be called several times a second.
+    void collect(Date now);
     /// Remembers the item that was chosen of a server, for the next time.
     void set_last_item(std::int32_t position, const std::string& item_id);
     /// From now on servers come from here; those that are there are connected again.

@@ -116,6 +116,12 @@ Reading Item::read() const {
     return {value_at(source.signal, seed, time), good, time};
 }
 
+std::optional<double> Item::range() const {
+    const Signal& signal = leaf().signal;
+    const bool limited = is_number(signal.type) && signal.high > signal.low;
+    return limited ? std::optional(signal.high - signal.low) : std::nullopt;
+}
+
 std::int32_t Items::Count() {
     static_cast<void>(group_.server());
     return static_cast<std::int32_t>(items_.size());

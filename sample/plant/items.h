@@ -33,6 +33,8 @@ public:
     std::int32_t ClientHandle() const { return client_handle_; }
     /// The value now. That of an inactive item is bad.
     Reading read() const;
+    /// From its lowest to its highest value; none for an item that has no such limits.
+    std::optional<double> range() const;
     void remove() { group_ = nullptr; }
 
 private:

@@ -68,7 +68,7 @@ TEST(SampleProgramConfigurations, TheCloseBoxOfTheDialogChangesNothing) {
     EXPECT_EQ(host.rows(L"lstTests"), 2);
     const OpenConfiguration after(host, L"bnConfigure");
     EXPECT_EQ(after.reads(L"txtName"), "Filler head 1");
-    EXPECT_EQ(after.reads(L"txtSubgroupSize"), "5");
+    EXPECT_EQ(after.reads(L"txtSubgroupSize"), "3");
     EXPECT_EQ(SendMessageW(after.control(L"chkActive"), BM_GETCHECK, 0, 0), BST_CHECKED);
 }
 

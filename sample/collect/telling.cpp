@@ -1,0 +1,85 @@
+#include "collect/telling.h"
+
+#include "common/trap.h"
+#include "common/values/convert.h"
+
+#include <algorithm>
+#include <array>
+
+namespace brx::collect {
+
+namespace {
+
+std::string text_of(const Variant& value, const Locale& locale) {
+    std::string text = "?";
+    attempt([&] { text = to_text(value, locale); });
+    return text;
+}
+
+/// With as many digits as singles have: what is measured has no more.
+std::string number_text(double number, const Locale& locale) {
+    return text_of(static_cast<float>(number), locale);
+}
+
+std::string counted(std::size_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string operation_text(const Condition& condition, const Locale& locale) {
+    static constexpr std::array operators = {"", " = ", " > ", " >= ", " < ", " <= ", " <> "};
+    const auto code = static_cast<std::size_t>(condition.operation);
+    if (code == 0 || code >= operators.size()) return {};
+    return operators[code] + text_of(condition.value, locale);
+}
+
+std::string clock_text(const Period& period) {
+    static constexpr std::array ones = {"second", "minute", "hour",    "day",
+                                        "week",   "month",  "quarter", "year"};
+    const std::string unit = ones.at(static_cast<std::size_t>(period.time_unit));
+    if (period.interval == 1) return "every " + unit;
+    return "every " + std::to_string(period.interval) + " " + unit + "s";
+}
+
+std::string trigger_text(const Period& period, const Locale& locale) {
+    if (period.condition.operation == 0) return "when " + period.item + " changes";
+    return "when " + period.item + operation_text(period.condition, locale);
+}
+
+/// `else_when` for a period with neither clock nor trigger.
+std::string period_text(const Period& period, const char* else_when, const Locale& locale) {
+    if (!period.has_clock() && !period.has_trigger()) return else_when;
+    if (!period.has_trigger()) return clock_text(period);
+    if (!period.has_clock()) return trigger_text(period, locale);
+    return clock_text(period) + " or " + trigger_text(period, locale);
+}
+
+std::string own_trigger_text(const Condition& condition, const Locale& locale) {
+    if (condition.operation == 0) return "each new value";
+    return "each new value" + operation_text(condition, locale);
+}
+
+} // namespace
+
+std::string so_far(const Collector& collector, std::int64_t test, const Locale& locale) {
+    const Series& series = collector.series(test);
+    std::string text =
+        counted(static_cast<std::size_t>(series.complete_subgroups()), "subgroup", "subgroups");
+    if (series.is_open())
+        text += ", " + std::to_string(series.pieces_of_the_open_one()) + " of " +
+                counted(static_cast<std::size_t>(std::max(collector.settings().subgroup_size, 1)), "piece",
+                        "pieces") +
+                " of the next";
+    const auto last = std::find_if(series.points().rbegin(), series.points().rend(),
+                                   [](const Point& point) { return point.subgroup != 0; });
+    if (last != series.points().rend()) text += ", last value " + number_text(last->value, locale);
+    return text;
+}
+
+std::string how_it_goes_on(const Settings& settings, const TestSettings& test, const Locale& locale) {
+    std::string pieces = test.own_trigger ? own_trigger_text(test.condition, locale)
+                                          : period_text(settings.piece, "each new value", locale);
+    return "Subgroup: " + period_text(settings.subgroup, "after the one before", locale) +
+           ".  Piece: " + pieces + ".";
+}
+
+} // namespace brx::collect

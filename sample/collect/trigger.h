@@ -1,0 +1,16 @@
+#pragma once
+
+#include "collect/settings.h"
+
+#include <optional>
+
+namespace brx::collect {
+
+/// A value as a number, False being 0 and True -1; none for what is none.
+std::optional<double> number_in(const Variant& value);
+
+/// Whether a value fulfils a condition. Both sides are compared as numbers where both are numbers, otherwise
+/// as texts. What has neither number nor text fulfils nothing but "always".
+bool holds(const Condition& condition, const Variant& value);
+
+} // namespace brx::collect
