@@ -23,6 +23,7 @@ TEST(CollectConditions, CompareNumbersOfAnyType) {
     EXPECT_EQ(holding(2.5F, std::int32_t{2}), "0236");
     EXPECT_EQ(holding(Currency{10000}, 2.0), "0456");
     EXPECT_EQ(holding(std::string("10"), std::int16_t{9}), "0236");
+    EXPECT_EQ(holding(Date{46000.5}, std::int32_t{46000}), "0236");
 }
 
 TEST(CollectConditions, CompareTextsWhereOneSideIsNoNumber) {

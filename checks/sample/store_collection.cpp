@@ -114,6 +114,16 @@ TEST_F(StoreCollection, OfATestThatWasAddedBeginsWhenTheDialogHasClosed) {
     EXPECT_EQ(collection().series(3).complete_subgroups(), 3);
 }
 
+TEST_F(StoreCollection, OfATestThatWasRemovedIsNothing) {
+    collection().run();
+    pass(60);
+    configuration->Tests()->Remove(1);
+    EXPECT_EQ(collection().text(2, Locale::us_english()), "");
+    EXPECT_EQ(collection().text(0, Locale::us_english()), "");
+    EXPECT_TRUE(collection().series(2).points().empty());
+    EXPECT_EQ(collection().series(1).complete_subgroups(), 3);
+}
+
 TEST_F(StoreCollection, HasTheDeadBandOfTheItemsRange) {
     const auto range = [&](const std::string& item) { return entry.range_of(*configuration, item); };
     EXPECT_EQ(range("Filler.Head 1.Weight"), 5.0);

@@ -2,7 +2,6 @@
 
 #include "collect/telling.h"
 #include "host/configuration.h"
-#include "host/positions.h"
 #include "host/server_entry.h"
 
 namespace brx::host {
@@ -88,7 +87,8 @@ std::string Collection::tick(ServerEntry& server, Date now) {
 
 std::int64_t Collection::id_at(std::int32_t position) const {
     const auto& all = configuration_.tests().all();
-    return all[index_of(all, position)]->id();
+    const auto index = static_cast<std::size_t>(position) - 1;
+    return index < all.size() ? all[index]->id() : 0;
 }
 
 const collect::Series& Collection::series(std::int32_t position) const {
@@ -106,6 +106,7 @@ std::string Collection::state_text(std::int64_t test, const Locale& locale) cons
 
 std::string Collection::text(std::int32_t position, const Locale& locale) const {
     const std::int64_t id = id_at(position);
+    if (id == 0) return {};
     const auto settings = settings_of(configuration_);
     const std::string plan =
         collect::how_it_goes_on(settings, settings.tests[static_cast<std::size_t>(position - 1)], locale);

@@ -28,12 +28,13 @@ public:
     /// on, or that it goes on; otherwise "".
     std::string tick(ServerEntry& server, Date now);
 
-    /// Of the test at a position from 1.
+    // Of the test at a position from 1; nothing where there is none any more, as while a dialog removes some.
     const collect::Series& series(std::int32_t position) const;
-    /// Two lines about it: how far it is, and how it goes on.
+    /// Two lines: how far it is, and how it goes on.
     std::string text(std::int32_t position, const Locale& locale) const;
 
 private:
+    /// 0 for none.
     std::int64_t id_at(std::int32_t position) const;
     std::string state_text(std::int64_t test, const Locale& locale) const;
 

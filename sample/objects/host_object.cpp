@@ -33,6 +33,35 @@ std::string default_file() {
     return to_utf8((std::filesystem::path(folder.data()) / "brxSample" / "host.db").u16string());
 }
 
+Date local_time() {
+    SYSTEMTIME now{};
+    Date time;
+    GetLocalTime(&now);
+    SystemTimeToVariantTime(&now, &time.days);
+    time.days += now.wMilliseconds / 86'400'000.0;
+    return time;
+}
+
+/// Three doubles for each.
+VARIANT points_of(const collect::Series& series) {
+    const auto& points = series.points();
+    SAFEARRAY* const array = SafeArrayCreateVector(VT_R8, 0, static_cast<ULONG>(3 * points.size()));
+    void* data = nullptr;
+    if (!array || FAILED(SafeArrayAccessData(array, &data))) check(E_OUTOFMEMORY);
+    auto* next = static_cast<double*>(data);
+    for (const collect::Point& point : points) {
+        const collect::Subgroup* around = series.subgroup(point.subgroup);
+        *next++ = point.value;
+        *next++ = point.subgroup;
+        *next++ = around ? around->mean() : point.value;
+    }
+    SafeArrayUnaccessData(array);
+    VARIANT result{};
+    V_VT(&result) = VT_ARRAY | VT_R8;
+    V_ARRAY(&result) = array;
+    return result;
+}
+
 class HostObject final : public Dual<_Host> {
 public:
     STDMETHODIMP get_DatabaseFile(BSTR* result) override {
@@ -114,6 +143,35 @@ public:
         return give(result, [&] { return value_text(position, number, text_of(item)); });
     }
 
+    STDMETHODIMP get_Running(LONG position, LONG number, VARIANT_BOOL* result) override {
+        return give(result, [&] { return collection(position, number)->is_running(); });
+    }
+    STDMETHODIMP put_Running(LONG position, LONG number, VARIANT_BOOL value) override {
+        return run([&] {
+            if (value != VARIANT_FALSE)
+                collection(position, number)->run();
+            else
+                collection(position, number)->stop();
+        });
+    }
+    STDMETHODIMP Collect() override {
+        return run([&] { servers()->collect(local_time()); });
+    }
+    STDMETHODIMP HoldConfiguration(LONG position, LONG number) override {
+        return run([&] { collection(position, number)->hold(); });
+    }
+    STDMETHODIMP get_CollectionText(LONG position, LONG number, LONG test, BSTR* result) override {
+        return give(result, [&] { return collection(position, number)->text(test, system_locale()); });
+    }
+    STDMETHODIMP get_CollectedValues(LONG position, LONG number, LONG test, VARIANT* result) override {
+        if (!result) return E_POINTER;
+        VariantInit(result);
+        return run([&] { *result = points_of(collection(position, number)->series(test)); });
+    }
+    STDMETHODIMP get_SubgroupCount(LONG position, LONG number, LONG test, LONG* result) override {
+        return give(result, [&] { return collection(position, number)->series(test).complete_subgroups(); });
+    }
+
 private:
     template <class Body> static HRESULT run(Body&& body) noexcept { return guard(__uuidof(_Host), body); }
     template <class Raw, class Body> static HRESULT give(Raw* result, Body&& body) noexcept {
@@ -143,6 +201,12 @@ private:
     std::shared_ptr<Servers> servers() { return open()->servers(); }
 
     Configurations& configurations(std::int32_t position) { return servers()->at(position).configurations(); }
+
+    /// It lives as long as its configuration.
+    std::shared_ptr<Collection> collection(std::int32_t position, std::int32_t number) {
+        const auto configuration = configurations(position).at(number);
+        return {configuration, &configuration->collection()};
+    }
 
     std::string value_text(std::int32_t position, std::int32_t number, const std::string& item_id) {
         const auto configuration = configurations(position).at(number);

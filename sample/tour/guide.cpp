@@ -22,12 +22,12 @@ RECT area_of(HWND window) {
 } // namespace
 
 void Guide::step(const std::string& telling, const std::string& picture, const std::function<void()>& doing,
-                 const std::wstring& outcome, const std::function<bool()>& come_out) {
+                 const std::wstring& outcome, const std::function<bool()>& come_out, int answers) {
     ++steps_;
     std::printf("%2d. %s\n", steps_, telling.c_str());
     std::fflush(stdout);
     doing();
-    program_->wait_until(outcome, come_out);
+    program_->wait_until(outcome, come_out, answers);
     take_picture(picture);
 }
 

@@ -15,10 +15,10 @@ public:
     /// The program that the steps from now on are in; it must live as long.
     void go_to(const Program& program) { program_ = &program; }
 
-    /// One step: what is told, what is done, and what must have come of it. The picture, NN-`picture`.png,
-    /// shows the window in front and what it lies over.
+    /// One step: what is told, what is done, and what must have come of it (see wait_until). The picture,
+    /// NN-`picture`.png, shows the window in front and what it lies over.
     void step(const std::string& telling, const std::string& picture, const std::function<void()>& doing,
-              const std::wstring& outcome, const std::function<bool()>& come_out);
+              const std::wstring& outcome, const std::function<bool()>& come_out, int answers = 300);
 
     int steps() const { return steps_; }
     /// NN-`name`.png, beside the steps' own.

@@ -36,6 +36,7 @@ void work_through(const std::wstring& command_line, Guide& guide) {
         visit.browsing();
         visit.browsing_other_servers();
         visit.configurations();
+        visit.running();
         visit.editing_a_test();
         visit.configuring();
         visit.configuring_in_vain();

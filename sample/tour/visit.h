@@ -16,6 +16,7 @@ public:
     void browsing();
     void browsing_other_servers();
     void configurations();
+    void running();
     void editing_a_test();
     void configuring();
     void configuring_in_vain();
@@ -46,6 +47,8 @@ private:
     bool sampling_is_filled_in() const;
     bool descriptors_are_filled_in() const;
     bool configuration_is_listed() const;
+    /// In the host's window.
+    bool chart_tells(const std::wstring& text) const;
 
     // What she does there.
     void press(const std::wstring& button) const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/chart.h"
 #include "window/com.h"
 #include "window/table.h"
 
@@ -47,6 +48,15 @@ public:
     /// To be called when a dialog on it has closed. False when it had no tests and is removed.
     bool settle_configuration(long position, long number);
     std::wstring configuration_name(long position, long number) const;
+
+    bool is_running(long position, long number) const;
+    void run(long position, long number, bool running);
+    /// Collects what is due; to be called several times a second.
+    void collect();
+    /// Until it is settled, nothing is collected in it.
+    void hold_configuration(long position, long number);
+    /// What the chart shows of a test.
+    ChartContent collected(long position, long number, long test) const;
 
     bool connect(long position);
     void remove(long position);

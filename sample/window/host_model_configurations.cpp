@@ -107,8 +107,9 @@ std::vector<TableLine> HostModel::configurations(long position) const {
         Ref<_hlxOPCTests> tests;
         check(each->get_Name(name.out()));
         check(each->get_Active(&active));
-        lines.push_back({{name.text(), std::to_wstring(tests_in(*each.get(), tests)),
-                          active != VARIANT_FALSE ? L"Active" : L"Not active"},
+        std::wstring state = active != VARIANT_FALSE ? L"Active" : L"Not active";
+        if (is_running(position, number)) state += L", running";
+        lines.push_back({{name.text(), std::to_wstring(tests_in(*each.get(), tests)), state},
                          active != VARIANT_FALSE ? Tone::plain : Tone::pale});
     }
     return lines;

@@ -15,13 +15,20 @@ constexpr const wchar_t* window_class = L"brxSampleHost";
 constexpr const wchar_t* title = L"OPC Collection Sample Host";
 constexpr UINT_PTR refresh_timer = 1;
 constexpr UINT refresh_milliseconds = 1000;
+constexpr UINT_PTR collection_timer = 2;
+constexpr UINT collection_milliseconds = 250;
 
 /// So many pixels at 96 DPI.
-constexpr SIZE first_size{860, 700};
-constexpr SIZE least_size{640, 620};
+constexpr SIZE first_size{860, 800};
+constexpr SIZE least_size{640, 680};
 
 BOOL CALLBACK forget_each(HWND control, LPARAM) {
     forget_name(control);
+    return TRUE;
+}
+
+BOOL CALLBACK tell_new_colors(HWND control, LPARAM) {
+    SendMessageW(control, WM_SYSCOLORCHANGE, 0, 0);
     return TRUE;
 }
 
@@ -38,6 +45,7 @@ bool MainWindow::open(HINSTANCE program, int show_command) {
     description.lpszMenuName = MAKEINTRESOURCEW(ID_MENU);
     description.lpszClassName = window_class;
     RegisterClassExW(&description);
+    Chart::register_class(program);
     keys_ = LoadAcceleratorsW(program, MAKEINTRESOURCEW(ID_KEYS));
 
     CreateWindowExW(WS_EX_CONTROLPARENT, window_class, title, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
@@ -80,6 +88,7 @@ bool MainWindow::start() {
     servers_.select(1);
     show_selection();
     SetTimer(window_, refresh_timer, refresh_milliseconds, nullptr);
+    SetTimer(window_, collection_timer, collection_milliseconds, nullptr);
     return true;
 }
 
@@ -145,7 +154,10 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         SetFocus(focus_ ? focus_ : servers_.handle());
         return 0;
     case WM_TIMER:
-        refresh();
+        if (wparam == collection_timer)
+            collect();
+        else
+            refresh();
         return 0;
     case WM_COMMAND:
         if (lparam != 0 && HIWORD(wparam) != BN_CLICKED)
@@ -155,6 +167,9 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     case WM_NOTIFY:
         return notified(lparam);
+    case WM_SYSCOLORCHANGE:
+        EnumChildWindows(window_, tell_new_colors, 0);
+        break;
     case WM_CTLCOLORSTATIC:
         if (reinterpret_cast<HWND>(lparam) == child(ID_LOG)) {
             SetBkColor(reinterpret_cast<HDC>(wparam), GetSysColor(COLOR_WINDOW));
@@ -170,6 +185,7 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return MAKELRESULT(default_button_, DC_HASDEFID);
     case WM_DESTROY:
         KillTimer(window_, refresh_timer);
+        KillTimer(window_, collection_timer);
         EnumChildWindows(window_, forget_each, 0);
         forget_name(window_);
         PostQuitMessage(0);

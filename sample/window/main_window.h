@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/chart.h"
 #include "window/host_model.h"
 #include "window/screen.h"
 #include "window/table.h"
@@ -44,6 +45,9 @@ private:
     void show_details();
     void enable_commands();
     void show_log();
+    void collect();
+    void show_chart();
+    void show_run_command();
 
     void command(int id);
     void select_server();
@@ -52,7 +56,9 @@ private:
     void browse_items();
     void new_configuration();
     void configure();
+    void run_configuration();
     void edit_test();
+    template <class Show> void hold_while(long position, long number, Show&& show);
     void show_configuration(long position, long number);
     bool settle(long position, long number);
     void connect();
@@ -79,8 +85,10 @@ private:
     Table servers_;
     Table configurations_;
     Table tests_;
+    Chart chart_;
     long shown_server_ = 0;        ///< whose configurations are listed
     long shown_configuration_ = 0; ///< whose tests are listed
+    bool shown_running_ = false;   ///< as the command says it
     bool showing_ = false;         ///< the lists are being filled
     std::optional<HostModel> model_;
     bool dialogs_found_ = false;

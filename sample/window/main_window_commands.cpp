@@ -62,6 +62,9 @@ void MainWindow::command(int id) {
     case ID_EDIT_TEST:
         edit_test();
         break;
+    case ID_RUN:
+        run_configuration();
+        break;
     case ID_CONNECT:
         connect();
         break;

@@ -6,10 +6,21 @@
 
 namespace sample {
 
+/// While a dialog on a configuration is open, nothing is collected in it; then with what was changed.
+template <class Show> void MainWindow::hold_while(long position, long number, Show&& show) {
+    model_->hold_configuration(position, number);
+    try {
+        show();
+    } catch (const Failure&) {
+        model_->settle_configuration(position, number);
+        throw;
+    }
+}
+
 /// What a person changes in it is kept as it is changed, the rest when it closes.
 void MainWindow::show_configuration(long position, long number) {
     const auto dialog = create<_ConfigurationSetup>(L"brxOpcDlgs6.ConfigurationSetup");
-    check(dialog->Show(model_->configuration(position, number).get()));
+    hold_while(position, number, [&] { check(dialog->Show(model_->configuration(position, number).get())); });
 }
 
 /// The dialog has announced it: a configuration without tests is removed. False when it is.
@@ -54,7 +65,7 @@ void MainWindow::edit_test() {
     const auto dialog = create<_TestConfiguration>(L"brxOpcDlgs6.TestConfiguration");
     const auto edited = model_->test(position, number, test);
     VARIANT_BOOL confirmed = VARIANT_FALSE;
-    check(dialog->Show(edited.get(), &confirmed));
+    hold_while(position, number, [&] { check(dialog->Show(edited.get(), &confirmed)); });
     Text name;
     check(edited->get_CharacteristicName(name.out()));
     model_->log(L"Edit test: " + name.text() +

@@ -24,18 +24,19 @@ constexpr std::array server_buttons = {
     Button{ID_INFORMATION, L"Server &Information...", L"bnInformation", true},
     Button{ID_BROWSE, L"&Browse Items...", L"bnBrowse", false},
     Button{ID_CONNECT, L"&Connect Again", L"bnConnect", false},
-    Button{ID_REMOVE, L"&Remove", L"bnRemove", false},
+    Button{ID_REMOVE, L"R&emove", L"bnRemove", false},
 };
 constexpr std::array configuration_buttons = {
     Button{ID_NEW_CONFIGURATION, L"&New Configuration...", L"bnNewConfiguration", false},
     Button{ID_CONFIGURE, L"Confi&gure...", L"bnConfigure", false},
+    Button{ID_RUN, L"&Run", L"bnRun", false},
 };
 constexpr std::array test_buttons = {Button{ID_EDIT_TEST, L"E&dit Test...", L"bnEditTest", false}};
 
 constexpr std::array server_columns = {TableColumn{L"OPC Server", 180}, TableColumn{L"Node", 110},
                                        TableColumn{L"State", 0}};
 constexpr std::array configuration_columns = {TableColumn{L"Configuration", 0}, TableColumn{L"Tests", 80},
-                                              TableColumn{L"State", 110}};
+                                              TableColumn{L"State", 130}};
 constexpr std::array test_columns = {TableColumn{L"Characteristic", 130}, TableColumn{L"OPC Item", 0},
                                      TableColumn{L"Save As", 110}, TableColumn{L"Trigger", 90},
                                      TableColumn{L"Value", 110}};
@@ -53,15 +54,18 @@ constexpr int button_height = 23;
 constexpr int box_height = 23;
 constexpr int item_label_width = 62;
 
-/// What the lists and the log get of the height, in parts of a whole.
-struct Shares {
-    int servers = 34;
-    int configurations = 18;
-    int tests = 28;
-    int log = 20;
-    int whole() const { return servers + configurations + tests + log; }
+/// The height of a list: what it needs, and its share of what is left, in parts of a whole.
+struct Height {
+    int least; ///< at 96 DPI
+    int share;
 };
-constexpr Shares shares;
+constexpr Height servers_height{138, 10};
+constexpr Height configurations_height{83, 5};
+constexpr Height tests_height{66, 25};
+constexpr Height chart_height{92, 45};
+constexpr Height log_height{45, 15};
+constexpr std::array heights = {servers_height, configurations_height, tests_height, chart_height,
+                                log_height};
 
 HWND make(HWND parent, const wchar_t* kind, const wchar_t* text, DWORD style, int id, const wchar_t* name,
           DWORD ex_style = 0) {
@@ -106,7 +110,7 @@ void MainWindow::create_controls() {
             make(window_, WC_BUTTONW, button.caption, style | BS_NOTIFY | WS_TABSTOP, button.id, button.name);
         }
     };
-    make_list(servers_, L"Configured OPC s&ervers:", ID_SERVERS_LABEL, L"lblServers", ID_SERVERS,
+    make_list(servers_, L"Configured O&PC servers:", ID_SERVERS_LABEL, L"lblServers", ID_SERVERS,
               L"lstServers", server_columns);
     make_buttons(server_buttons);
     default_button_ = usual_default;
@@ -116,9 +120,12 @@ void MainWindow::create_controls() {
     make_list(configurations_, L"Collection config&urations of the selected server:", ID_CONFIGURATIONS_LABEL,
               L"lblConfigurations", ID_CONFIGURATIONS, L"lstConfigurations", configuration_columns);
     make_buttons(configuration_buttons);
-    make_list(tests_, L"Tests of the selected configuration with their &present values:", ID_TESTS_LABEL,
+    make_list(tests_, L"Tests of the selected configuration &with their present values:", ID_TESTS_LABEL,
               L"lblTests", ID_TESTS, L"lstTests", test_columns);
     make_buttons(test_buttons);
+    make(window_, WC_STATICW, L"Collected values of the selected test:", 0, ID_CHART_LABEL, L"lblChart");
+    chart_.create(window_, ID_CHART);
+    name_window(chart_.handle(), L"chtValues");
     make(window_, WC_STATICW, L"&Log:", 0, ID_LOG_LABEL, L"lblLog");
     const HWND log =
         make(window_, WC_EDITW, L"", WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
@@ -164,8 +171,11 @@ void MainWindow::lay_out() {
     const int list_right = buttons_left - px(margin);
     const int label_room = px(label_height + below_label);
     const int item_room = px(gap + box_height);
-    const int free = bottom - 5 * px(margin) - 4 * label_room - item_room;
-    const auto share = [&](int part) { return free * part / shares.whole(); };
+    int free = bottom - 6 * px(margin) - 5 * label_room - item_room;
+    for (const Height& each : heights) free -= px(each.least);
+    const auto share = [&](const Height& height) {
+        return px(height.least) + MulDiv(std::max(free, 0), height.share, 100);
+    };
 
     int top = px(margin);
     const auto place_label = [&](int id) {
@@ -187,7 +197,7 @@ void MainWindow::lay_out() {
 
     place_label(ID_SERVERS_LABEL);
     place_buttons(server_buttons);
-    place_list(servers_, share(shares.servers));
+    place_list(servers_, share(servers_height));
     top += px(gap);
     const int item_left = left + px(item_label_width);
     MoveWindow(child(ID_ITEM_LABEL), left, top + px((box_height - label_height) / 2), px(item_label_width),
@@ -197,13 +207,17 @@ void MainWindow::lay_out() {
 
     place_label(ID_CONFIGURATIONS_LABEL);
     place_buttons(configuration_buttons);
-    place_list(configurations_, share(shares.configurations));
+    place_list(configurations_, share(configurations_height));
     top += px(margin);
 
     place_label(ID_TESTS_LABEL);
     place_buttons(test_buttons);
-    place_list(tests_, share(shares.tests));
+    place_list(tests_, share(tests_height));
     top += px(margin);
+
+    place_label(ID_CHART_LABEL);
+    MoveWindow(chart_.handle(), left, top, right - left, share(chart_height), TRUE);
+    top += share(chart_height) + px(margin);
 
     place_label(ID_LOG_LABEL);
     MoveWindow(child(ID_LOG), left, top, right - left, bottom - px(margin) - top, TRUE);

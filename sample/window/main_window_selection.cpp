@@ -50,6 +50,7 @@ void MainWindow::show_details() {
     if (server != shown_server_ || configuration != shown_configuration_) tests_.select(1);
     shown_server_ = server;
     shown_configuration_ = configuration;
+    show_chart();
 }
 
 void MainWindow::show_selection() {
@@ -85,6 +86,8 @@ void MainWindow::enable_commands() {
     enable(ID_NEW_CONFIGURATION, dialogs_found_ && server);
     enable(ID_CONFIGURE, dialogs_found_ && configuration);
     enable(ID_EDIT_TEST, dialogs_found_ && tests_.selected() != 0);
+    show_run_command();
+    enable(ID_RUN, configuration && tests_.count() != 0);
 }
 
 } // namespace sample

@@ -14,6 +14,9 @@
 #define ID_TESTS_LABEL 109
 #define ID_TESTS 110
 
+#define ID_CHART_LABEL 111
+#define ID_CHART 112
+
 #define ID_SELECT 201
 #define ID_ADD 202
 #define ID_INFORMATION 203
@@ -23,6 +26,7 @@
 #define ID_NEW_CONFIGURATION 207
 #define ID_CONFIGURE 208
 #define ID_EDIT_TEST 209
+#define ID_RUN 210
 
 #define ID_EXIT 301
 #define ID_PLANT 302

@@ -33,6 +33,7 @@ public:
 
     /// Shows these lines; only what differs is drawn anew. The selection stays where it is.
     void show(const std::vector<TableLine>& lines);
+    long count() const { return static_cast<long>(lines_.size()); }
     /// The position of the selected line from 1; 0 for none.
     long selected() const;
     void select(long position);

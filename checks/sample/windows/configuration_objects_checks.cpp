@@ -84,6 +84,28 @@ TEST_F(SampleConfigurations, ANewOneIsRemovedAgainWhenItsDialogLeavesItWithoutTe
     EXPECT_EQ(configurations(), 0);
 }
 
+TEST_F(SampleConfigurations, RunWhenAScriptSaysSo) {
+    constexpr std::uint16_t doubles = VT_ARRAY | VT_R8;
+    put(configuration().get(), "SubgroupInterval", std::int32_t{0});
+    put(configuration().get(), "SubgroupSize", std::int32_t{1});
+    put(configuration().get(), "PieceTriggerItem", std::string());
+    invoke(host.get(), "Running", DISPATCH_PROPERTYPUT, {first, first, true});
+    EXPECT_EQ(get(host.get(), "Running", {first, first}), Variant(true));
+    const auto subgroups = [&] {
+        return std::get<std::int32_t>(get(host.get(), "SubgroupCount", {first, first, first}));
+    };
+    for (int i = 0; i < 300 && subgroups() == 0; ++i) {
+        call(host.get(), "Collect");
+        Sleep(100);
+    }
+    EXPECT_GT(subgroups(), 0);
+    const auto text = std::get<std::string>(get(host.get(), "CollectionText", {first, first, first}));
+    EXPECT_THAT(text, testing::StartsWith("Running: "));
+    EXPECT_EQ(vartype(get(host.get(), "CollectedValues", {first, first, first})), doubles);
+    invoke(host.get(), "Running", DISPATCH_PROPERTYPUT, {first, first, false});
+    EXPECT_EQ(get(host.get(), "Running", {first, first}), Variant(false));
+}
+
 TEST_F(SampleConfigurations, RecordsAreLookedUpByTheClassesOfTheDatabaseLibrary) {
     struct Wanted {
         const wchar_t* name;

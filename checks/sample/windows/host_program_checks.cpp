@@ -25,8 +25,8 @@ TEST(SampleProgram, OpensMakesItsDatabaseAndEnds) {
     const Controls controls = controls_of(window);
     for (const wchar_t* name :
          {L"lstServers", L"bnSelect", L"bnAdd", L"bnInformation", L"bnBrowse", L"lstConfigurations",
-          L"bnNewConfiguration", L"bnConfigure", L"lstTests", L"bnEditTest", L"bnConnect", L"bnRemove",
-          L"txtItem", L"txtLog", L"stbStatus"})
+          L"bnNewConfiguration", L"bnConfigure", L"bnRun", L"lstTests", L"chtValues", L"bnEditTest",
+          L"bnConnect", L"bnRemove", L"txtItem", L"txtLog", L"stbStatus"})
         EXPECT_TRUE(controls.contains(name)) << std::string(name, name + wcslen(name));
     PostMessageW(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.exit_code(), 0U);
