@@ -47,7 +47,7 @@ void Visit::add_descriptors() {
                    !IsWindowEnabled(program_.control(L"txtGroup"));
         });
     guide_.step(
-        "A label of her own she types in.", "label",
+        "A label of her own follows an item.", "label",
         [&] {
             press(L"bnOK");
             program_.wait_until(L"the configuration", [&] { return at(L"dlgConfiguration"); });
@@ -55,9 +55,11 @@ void Visit::add_descriptors() {
             program_.wait_until(L"the kinds of descriptor", [&] { return at(L"dlgDescriptorType"); });
             add_descriptor(L"User Defined (Subgroup)");
             fill_in(L"txtGroup", L"Remarks");
-            fill_in(L"txtItem", L"Night run");
+            press(L"bnItem");
+            program_.wait_until(L"the items", [&] { return at(L"dlgItemSelect"); });
+            click_on(L"lstItem", L"TT-301", true);
         },
-        L"the OK button", [&] { return can_press(L"bnOK"); });
+        L"the reference", [&] { return reads(L"txtItem") == L"(%TT-301)" && can_press(L"bnOK"); });
     guide_.step(
         "All three are listed.", "configuration-descriptors", [&] { press(L"bnOK"); }, L"the descriptors",
         [&] { return descriptors_are_filled_in(); });
@@ -77,7 +79,7 @@ bool Visit::descriptors_are_filled_in() const {
            rows_of(program_.control(L"lvwDescriptors")) == 3 &&
            cells(L"lvwDescriptors", 0, 3) == Lines{L"Part", L"Bottles", L"Bottle 0.75 l"} &&
            cells(L"lvwDescriptors", 1, 3) == Lines{L"Serial Number", L"", L"(%Total)"} &&
-           cells(L"lvwDescriptors", 2, 3) == Lines{L"User Defined (Subgroup)", L"Remarks", L"Night run"};
+           cells(L"lvwDescriptors", 2, 3) == Lines{L"User Defined (Subgroup)", L"Remarks", L"(%TT-301)"};
 }
 
 } // namespace tour
