@@ -224,3 +224,15 @@ SCENARIO(TestDialog, TheBrowserStartsAtThePresentItemAndMayBeCancelled) {
     EXPECT_EQ(its.person.reads("txtItem"), "Line1.Speed");
     its.person.presses("bnCancel");
 }
+
+SCENARIO(TestDialog, AnItemThatTheHostFailsToAddIsForgotten) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.host.calls.fail_on("OPCItems.AddItems");
+    testing.picks_item("Line1.Force");
+    its.expect_report(CallLog::failure_number, "dlgOPCTest.bnItem_Click");
+    its.host.calls.fail_on("");
+    EXPECT_EQ(its.person.reads("txtItem"), "");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+}

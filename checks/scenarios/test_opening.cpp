@@ -7,6 +7,22 @@
 using namespace brx;
 using namespace brx::checks;
 
+namespace {
+
+/// OK can be pressed, tells what is missing, and the dialog stays.
+void cannot_confirm(Play& its, Testing& testing) {
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    its.person.presses("bnOK");
+    its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
+                        .style = message::information,
+                        .title = component_name});
+    its.person.is_at("dlgOPCTest");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(testing.result());
+}
+
+} // namespace
+
 SCENARIO(TestDialog, AnExistingTestComesWithAllItsFields) {
     Testing testing(its, a_bound_test(its, 2));
     EXPECT_EQ(its.person.reads("txtTest"), "Length");
@@ -46,14 +62,7 @@ SCENARIO(TestDialog, InStateTwoTheItemIsNotShown) {
     Testing testing(its, test);
     EXPECT_EQ(its.person.reads("txtItem"), "");
     EXPECT_EQ(its.person.reads("txtTest"), "Length");
-    EXPECT_TRUE(its.person.can_press("bnOK"));
-    its.person.presses("bnOK");
-    its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
-                        .style = message::information,
-                        .title = component_name});
-    its.person.is_at("dlgOPCTest");
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
+    cannot_confirm(its, testing);
 }
 
 SCENARIO(TestDialog, CancellingThePickerClosesOKWhileTheItemIsMissing) {
@@ -75,14 +84,7 @@ SCENARIO(TestDialog, AnItemWithoutACharacteristicIsAnInvalidSelection) {
     test->fields.characteristic = test->data->name = "";
     Testing testing(its, test);
     EXPECT_EQ(its.person.reads("txtTest"), "");
-    EXPECT_TRUE(its.person.can_press("bnOK"));
-    its.person.presses("bnOK");
-    its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
-                        .style = message::information,
-                        .title = component_name});
-    its.person.is_at("dlgOPCTest");
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
+    cannot_confirm(its, testing);
 }
 
 SCENARIO(TestDialog, AnItemThatOnlyTheDialogIsGivenMakesAnExistingTestToo) {

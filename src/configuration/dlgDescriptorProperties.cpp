@@ -78,7 +78,7 @@ void dlgDescriptorProperties::SelectOPCItem(std::string& item_id, bool& ok) {
     trap("SelectOPCItem", [&] {
         ok = false;
         hlxOPCConfiguration& configuration = the(configuration_);
-        const ObjectPtr server = the(the(configuration.Server()).ServerEntry()).OPCServer();
+        const ObjectPtr server = connection_of(configuration);
         const OPCGroupPtr group = tools_.ResolveOPCGroup(configuration.OPCGroup());
         if (!server || !group) {
             show_message({.text = "Server is disconnected or does not exist.",

@@ -5,8 +5,7 @@ namespace brx {
 
 void dlgConfiguration::Timer1_Timer() {
     trap(ErrorLibrary::brxError6, "Timer1_Timer", [&] {
-        const hlxOPCServerPtr entry = the(the(configuration_).Server()).ServerEntry();
-        const ObjectPtr connection = the(entry).OPCServer();
+        const ObjectPtr connection = connection_of(the(configuration_));
         if (!connection) return;
         const auto server = resolve<OPCServer>(connection);
         std::size_t place = 0;

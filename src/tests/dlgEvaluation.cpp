@@ -13,8 +13,6 @@ dlgEvaluation::dlgEvaluation(Environment& environment)
 
 void dlgEvaluation::set_TriggerExpression(std::int32_t expression) { expression_ = to_int16(expression); }
 
-ObjectPtr dlgEvaluation::server() { return the(the(the(configuration_).Server()).ServerEntry()).OPCServer(); }
-
 OPCItemsPtr dlgEvaluation::items() {
     return the(tools_.ResolveOPCGroup(the(configuration_).OPCGroup())).OPCItems();
 }
@@ -98,7 +96,7 @@ void dlgEvaluation::bnItem_Click() {
     trap("bnItem_Click", [&] {
         LeafSelect browser(environment());
         browser.set_ItemID(cboItem.text());
-        if (!browser.Show(server(), the(configuration_).OPCGroup())) return;
+        if (!browser.Show(connection_of(the(configuration_)), the(configuration_).OPCGroup())) return;
         take_item(browser.ItemID());
         CheckDataType();
     });
@@ -126,7 +124,9 @@ void dlgEvaluation::CheckDataType() {
     const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item); });
     if (!failure) return;
     std::string text;
-    attempt([&] { text = resolve<OPCServer>(server())->GetErrorString(failure->number()); });
+    attempt([&] {
+        text = resolve<OPCServer>(connection_of(the(configuration_)))->GetErrorString(failure->number());
+    });
     show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
     data_type_ = data_type::unread;
 }

@@ -77,7 +77,6 @@ private:
     void take_item(const std::string& item_id);
     void follow_operator();
     void note_key();
-    ObjectPtr server();
     OPCItemsPtr items();
 
     CommonTools tools_;

@@ -19,7 +19,7 @@ dlgOPCTest::dlgOPCTest(Environment& environment)
 
 hlxOPCConfigurationPtr dlgOPCTest::configuration() { return the(the(test_).Parent()).Parent(); }
 
-ObjectPtr dlgOPCTest::server() { return the(the(the(configuration()).Server()).ServerEntry()).OPCServer(); }
+ObjectPtr dlgOPCTest::server() { return connection_of(the(configuration())); }
 
 OPCItemsPtr dlgOPCTest::items() {
     return the(tools_.ResolveOPCGroup(the(configuration()).OPCGroup())).OPCItems();

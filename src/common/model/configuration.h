@@ -133,4 +133,9 @@ public:
     virtual void set_GroupName(const std::string& value) = 0; ///< (8)
 };
 
+/// The object behind which a configuration's server is; null while it is not connected.
+inline ObjectPtr connection_of(hlxOPCConfiguration& configuration) {
+    return the(the(configuration.Server()).ServerEntry()).OPCServer();
+}
+
 } // namespace brx
