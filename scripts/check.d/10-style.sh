@@ -55,11 +55,22 @@ no_addresses() {
     [ -z "$found" ] || { say "$found" && return 1; }
 }
 
+# What the sources say to a person stands in the guide, whatever its lines and marks.
+explained_texts() {
+    local guide place text missing=''
+    guide=$(tr -d '*`' <docs/dialogs.md | tr -s ' \n' ' ')
+    while IFS=$'\t' read -r place text; do
+        [[ $guide == *"$text"* ]] || missing+="$place: error: docs/dialogs.md does not explain: $text"$'\n'
+    done < <(files 'src/*.cpp' 'src/*.h' ':!src/common/values/*' | xargs -r -d '\n' awk -f scripts/shown-texts.awk)
+    [ -z "$missing" ] || { printf '%s' "$missing" && return 1; }
+}
+
 rule "every file is formatted" formatted
 rule "no file is longer than one idea" short_files
 rule "the files speak of the system only" nothing_like "$workplace"
 rule "no file names another machine" no_addresses
 rule "the repository holds text" only_text
+rule "the guide explains every text that a person is shown" explained_texts
 rule "the scripts are sound" sound_scripts
 rule "gcc takes every header by itself" build linux brx_headers
 part_end
