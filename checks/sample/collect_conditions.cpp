@@ -84,7 +84,49 @@ TEST_F(CollectTelling, SaysHowTheNextSampleComes) {
     settings.subgroup = {1, 2, "Valve", {0, Empty{}}};
     settings.tests[0].own_trigger = true;
     settings.tests[0].condition = {3, 1.5};
-    EXPECT_EQ(plan(), "Subgroup: every hour or when Valve changes.  Piece: each new value >= 1.5.");
+    EXPECT_EQ(plan(), "Subgroup: every hour or whenever Valve changes.  Piece: each new value >= 1.5.");
+}
+
+TEST_F(CollectTelling, SaysInWordsWhatAComparisonWithNoValueComesTo) {
+    struct Meaning {
+        int operation;
+        const char* in_short;
+        const char* period;
+        const char* own;
+        bool holds_for_empty;
+        bool holds_for_others;
+    };
+    const Meaning meanings[] = {
+        {1, "If empty", "when Ready is empty", "each new value that is empty", true, false},
+        {2, "If not empty", "when Ready is not empty", "each new value that is not empty", false, true},
+        {3, "Always", "whenever Ready changes", "each new value", true, true},
+        {4, "Never", "never by Ready", "never", false, false},
+        {5, "If empty", "when Ready is empty", "each new value that is empty", true, false},
+        {6, "If not empty", "when Ready is not empty", "each new value that is not empty", false, true}};
+    for (const Meaning& meaning : meanings)
+        for (const Variant& nothing : {Variant(Empty{}), Variant(std::string())}) {
+            const Condition condition{meaning.operation, nothing};
+            settings.subgroup = when("Ready", meaning.operation, nothing);
+            settings.tests[0].own_trigger = true;
+            settings.tests[0].condition = condition;
+            EXPECT_EQ(plan(), std::string("Subgroup: ") + meaning.period + ".  Piece: " + meaning.own + ".");
+            EXPECT_EQ(trigger_in_short(condition, Locale::us_english()), meaning.in_short);
+            EXPECT_EQ(holds(condition, std::string()), meaning.holds_for_empty) << meaning.operation;
+            for (const Variant& value : {Variant(-5.0), Variant(std::string("x")), Variant(false)})
+                EXPECT_EQ(holds(condition, value), meaning.holds_for_others) << meaning.operation;
+        }
+}
+
+TEST_F(CollectTelling, SaysShortlyWhenATestsOwnTriggerFires) {
+    const auto in_short = [](int operation, Variant value) {
+        return trigger_in_short({operation, std::move(value)}, Locale::us_english());
+    };
+    EXPECT_EQ(in_short(0, 12.0), "Always");
+    EXPECT_EQ(in_short(2, 0.25), "> 0.25");
+    EXPECT_EQ(in_short(1, true), "= True");
+    EXPECT_EQ(in_short(6, std::string("idle")), "<> idle");
+    EXPECT_EQ(in_short(1, Null{}), "Never");
+    EXPECT_FALSE(holds({6, Null{}}, 5.0));
 }
 
 TEST_F(CollectTelling, SaysHowMuchThereIs) {

@@ -124,6 +124,25 @@ TEST_F(StoreCollection, OfATestThatWasRemovedIsNothing) {
     EXPECT_EQ(collection().series(1).complete_subgroups(), 3);
 }
 
+TEST_F(StoreCollection, TellsATestsOwnTriggerWhenItIsOn) {
+    const auto trigger = [&](std::int32_t test) {
+        return collection().trigger_text(test, Locale::us_english());
+    };
+    const auto test = configuration->Tests()->Item(std::int32_t{2});
+    test->set_ItemTrigger(false);
+    test->set_TriggerExpression(2);
+    test->set_TriggerValue(Empty{});
+    EXPECT_EQ(trigger(2), "");
+    test->set_ItemTrigger(true);
+    EXPECT_EQ(trigger(2), "If not empty");
+    test->set_TriggerValue(std::int16_t{7});
+    EXPECT_EQ(trigger(2), "> 7");
+    test->set_TriggerExpression(0);
+    EXPECT_EQ(trigger(2), "Always");
+    EXPECT_EQ(trigger(0), "");
+    EXPECT_EQ(trigger(3), "");
+}
+
 TEST_F(StoreCollection, HasTheDeadBandOfTheItemsRange) {
     const auto range = [&](const std::string& item) { return entry.range_of(*configuration, item); };
     EXPECT_EQ(range("Filler.Head 1.Weight"), 5.0);

@@ -83,6 +83,32 @@ TEST_F(StoreConfigurations, AWriteThatFailsChangesNothing) {
     for (const Property& each : all_properties()) EXPECT_FALSE(each.is_written(*again)) << each.name;
 }
 
+/// In the order of the configuration dialog.
+TEST_F(StoreConfigurations, KnowHowMuchADialogHasKept) {
+    const std::int16_t code = 0;
+    configuration->hold();
+    EXPECT_EQ(configuration->kept(), Kept::nothing);
+    configuration->Tests()->Item(std::int32_t{1})->set_Constant(5);
+    configuration->Descriptors()->Remove(1);
+    EXPECT_EQ(configuration->kept(), Kept::nothing);
+    configuration->set_Name("Filler head 1");
+    EXPECT_EQ(configuration->kept(), Kept::some);
+    configuration->set_SubgroupTriggerType(code);
+    configuration->set_SubgroupTriggerValue(Empty{});
+    configuration->set_PieceTriggerType(code);
+    EXPECT_EQ(error_of([&] { configuration->set_PieceTriggerValue(Missing{}); }), error::type_mismatch);
+    EXPECT_EQ(configuration->kept(), Kept::some);
+    configuration->set_PieceTriggerValue(Empty{});
+    EXPECT_EQ(configuration->kept(), Kept::all);
+    configurations.settle(1);
+    EXPECT_EQ(configuration->kept(), Kept::all);
+    configuration->hold();
+    EXPECT_EQ(configuration->kept(), Kept::nothing);
+    fill_the_disk(*host, "UPDATE ON configuration");
+    EXPECT_EQ(error_of([&] { configuration->set_Name("x"); }), database_error);
+    EXPECT_EQ(configuration->kept(), Kept::nothing);
+}
+
 TEST_F(StoreConfigurations, ATriggerValueKeepsItsType) {
     const Variant values[] = {Empty{},
                               Null{},

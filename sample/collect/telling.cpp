@@ -25,11 +25,28 @@ std::string counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-std::string operation_text(const Condition& condition, const Locale& locale) {
-    static constexpr std::array operators = {"", " = ", " > ", " >= ", " < ", " <= ", " <> "};
+/// What a condition comes to for a person. Compared with no value, a value is equal to nothing when it is
+/// empty, and otherwise more.
+enum class Sense { every_change, comparison, empty, not_empty, never };
+
+bool is_without_value(const Variant& value) {
+    const auto* const text = std::get_if<std::string>(&value);
+    return std::holds_alternative<Empty>(value) || (text && text->empty());
+}
+
+Sense sense_of(const Condition& condition) {
+    static constexpr std::array without_value = {Sense::every_change, Sense::empty, Sense::not_empty,
+                                                 Sense::every_change, Sense::never, Sense::empty,
+                                                 Sense::not_empty};
     const auto code = static_cast<std::size_t>(condition.operation);
-    if (code == 0 || code >= operators.size()) return {};
-    return operators[code] + text_of(condition.value, locale);
+    if (code >= without_value.size()) return Sense::never;
+    if (code == 0 || is_without_value(condition.value)) return without_value[code];
+    return std::holds_alternative<Null>(condition.value) ? Sense::never : Sense::comparison;
+}
+
+std::string comparison_text(const Condition& condition, const Locale& locale) {
+    static constexpr std::array operators = {"", "= ", "> ", ">= ", "< ", "<= ", "<> "};
+    return operators.at(static_cast<std::size_t>(condition.operation)) + text_of(condition.value, locale);
 }
 
 std::string clock_text(const Period& period) {
@@ -41,8 +58,18 @@ std::string clock_text(const Period& period) {
 }
 
 std::string trigger_text(const Period& period, const Locale& locale) {
-    if (period.condition.operation == 0) return "when " + period.item + " changes";
-    return "when " + period.item + operation_text(period.condition, locale);
+    switch (sense_of(period.condition)) {
+    case Sense::every_change:
+        return "whenever " + period.item + " changes";
+    case Sense::comparison:
+        return "when " + period.item + " " + comparison_text(period.condition, locale);
+    case Sense::empty:
+        return "when " + period.item + " is empty";
+    case Sense::not_empty:
+        return "when " + period.item + " is not empty";
+    default:
+        return "never by " + period.item;
+    }
 }
 
 /// `else_when` for a period with neither clock nor trigger.
@@ -54,8 +81,18 @@ std::string period_text(const Period& period, const char* else_when, const Local
 }
 
 std::string own_trigger_text(const Condition& condition, const Locale& locale) {
-    if (condition.operation == 0) return "each new value";
-    return "each new value" + operation_text(condition, locale);
+    switch (sense_of(condition)) {
+    case Sense::comparison:
+        return "each new value " + comparison_text(condition, locale);
+    case Sense::empty:
+        return "each new value that is empty";
+    case Sense::not_empty:
+        return "each new value that is not empty";
+    case Sense::never:
+        return "never";
+    default:
+        return "each new value";
+    }
 }
 
 } // namespace
@@ -80,6 +117,21 @@ std::string how_it_goes_on(const Settings& settings, const TestSettings& test, c
                                           : period_text(settings.piece, "each new value", locale);
     return "Subgroup: " + period_text(settings.subgroup, "after the one before", locale) +
            ".  Piece: " + pieces + ".";
+}
+
+std::string trigger_in_short(const Condition& condition, const Locale& locale) {
+    switch (sense_of(condition)) {
+    case Sense::every_change:
+        return "Always";
+    case Sense::comparison:
+        return comparison_text(condition, locale);
+    case Sense::empty:
+        return "If empty";
+    case Sense::not_empty:
+        return "If not empty";
+    default:
+        return "Never";
+    }
 }
 
 } // namespace brx::collect

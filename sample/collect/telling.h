@@ -13,4 +13,7 @@ std::string so_far(const Collector& collector, std::int64_t test, const Locale& 
 /// What begins subgroups and pieces of a test.
 std::string how_it_goes_on(const Settings& settings, const TestSettings& test, const Locale& locale);
 
+/// When a test's own trigger fires, in a word or two.
+std::string trigger_in_short(const Condition& condition, const Locale& locale);
+
 } // namespace brx::collect

@@ -113,4 +113,10 @@ std::string Collection::text(std::int32_t position, const Locale& locale) const 
     return (collector_ && collector_->test(id) ? state_text(id, locale) : "Not running.") + "\n" + plan;
 }
 
+std::string Collection::trigger_text(std::int32_t position, const Locale& locale) const {
+    if (id_at(position) == 0) return {};
+    const auto test = settings_of(*configuration_.tests().all()[static_cast<std::size_t>(position - 1)]);
+    return test.own_trigger ? collect::trigger_in_short(test.condition, locale) : std::string();
+}
+
 } // namespace brx::host

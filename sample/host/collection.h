@@ -32,6 +32,8 @@ public:
     const collect::Series& series(std::int32_t position) const;
     /// Two lines: how far it is, and how it goes on.
     std::string text(std::int32_t position, const Locale& locale) const;
+    /// When the test's own trigger fires; "" for a test without one.
+    std::string trigger_text(std::int32_t position, const Locale& locale) const;
 
 private:
     /// 0 for none.

@@ -25,8 +25,18 @@ hlxOPCTestsPtr Configuration::Tests() { return host_.kept(tests_); }
 
 hlxOPCDescriptorsPtr Configuration::Descriptors() { return host_.kept(descriptors_); }
 
+void Configuration::hold() {
+    kept_ = Kept::nothing;
+    collection_.hold();
+}
+
+void Configuration::store(std::initializer_list<ColumnValue> values) {
+    host_.configurations().row(id()).write(values);
+    kept_ = Kept::some;
+}
+
 template <class Value> void Configuration::write(const char* column, Value& field, const Value& value) {
-    host_.configurations().row(id()).write({{column, cell_of(value)}});
+    store({{column, cell_of(value)}});
     field = value;
 }
 
@@ -56,17 +66,18 @@ void Configuration::set_SubgroupTriggerType(std::int16_t value) {
     write("subgroup_trigger_type", stored_.subgroup.trigger_type, checked_code(value, 0, 6));
 }
 void Configuration::set_SubgroupTriggerValue(const Variant& value) {
-    host_.configurations().row(id()).write({{"subgroup_trigger_value", value_cell_of(value)},
-                                            {"subgroup_trigger_value_type", type_cell_of(value)}});
+    store({{"subgroup_trigger_value", value_cell_of(value)},
+           {"subgroup_trigger_value_type", type_cell_of(value)}});
     stored_.subgroup.trigger_value = value;
 }
 void Configuration::set_PieceTriggerType(std::int16_t value) {
     write("piece_trigger_type", stored_.piece.trigger_type, checked_code(value, 0, 6));
 }
+/// The configuration dialog's last one.
 void Configuration::set_PieceTriggerValue(const Variant& value) {
-    host_.configurations().row(id()).write(
-        {{"piece_trigger_value", value_cell_of(value)}, {"piece_trigger_value_type", type_cell_of(value)}});
+    store({{"piece_trigger_value", value_cell_of(value)}, {"piece_trigger_value_type", type_cell_of(value)}});
     stored_.piece.trigger_value = value;
+    kept_ = Kept::all;
 }
 void Configuration::set_Name(const std::string& value) { write("name", stored_.name, value); }
 void Configuration::set_Active(bool value) { write("active", stored_.active, value); }

@@ -13,6 +13,10 @@ namespace brx::host {
 class Host;
 class ServerEntry;
 
+/// How much of a configuration's settings a dialog has written since it was opened: the last one comes only
+/// after all others.
+enum class Kept { nothing, some, all };
+
 /// One collection configuration of a server. What is written is stored at once; a write that fails changes
 /// nothing.
 class Configuration final : public hlxOPCConfiguration, public std::enable_shared_from_this<Configuration> {
@@ -63,6 +67,9 @@ public:
     TestList& tests() { return *tests_; }
     DescriptorList& descriptors() { return *descriptors_; }
     Collection& collection() { return collection_; }
+    /// A dialog opens on it: nothing is collected meanwhile, and what the dialog keeps is noted afresh.
+    void hold();
+    Kept kept() const { return kept_; }
     /// Makes the group anew with the items of the tests, triggers and descriptors; none without a connected
     /// server. Never fails: what cannot be had is told in the log and by the tests' states.
     void fill_group(const ObjectPtr& server) noexcept;
@@ -70,6 +77,7 @@ public:
 
 private:
     template <class Value> void write(const char* column, Value& field, const Value& value);
+    void store(std::initializer_list<ColumnValue> values);
     std::set<std::string> items() const;
     void add_items(OPCItems& to);
 
@@ -79,6 +87,7 @@ private:
     std::shared_ptr<TestList> tests_;
     std::shared_ptr<DescriptorList> descriptors_;
     Collection collection_{*this};
+    Kept kept_ = Kept::nothing;
     OPCGroupPtr group_; ///< null while the server is not connected
 };
 

@@ -158,7 +158,7 @@ public:
         return run([&] { servers()->collect(local_time()); });
     }
     STDMETHODIMP HoldConfiguration(LONG position, LONG number) override {
-        return run([&] { collection(position, number)->hold(); });
+        return run([&] { configurations(position).at(number)->hold(); });
     }
     STDMETHODIMP get_CollectionText(LONG position, LONG number, LONG test, BSTR* result) override {
         return give(result, [&] { return collection(position, number)->text(test, system_locale()); });
@@ -170,6 +170,18 @@ public:
     }
     STDMETHODIMP get_SubgroupCount(LONG position, LONG number, LONG test, LONG* result) override {
         return give(result, [&] { return collection(position, number)->series(test).complete_subgroups(); });
+    }
+
+    STDMETHODIMP get_KeptSettings(LONG position, LONG number, SettingsKept* result) override {
+        if (!result) return E_POINTER;
+        return run([&] {
+            const Kept kept = configurations(position).at(number)->kept();
+            *result = kept == Kept::all ? AllSettings : kept == Kept::some ? SomeSettings : NoSettings;
+        });
+    }
+    STDMETHODIMP get_TriggerText(LONG position, LONG number, LONG test, BSTR* result) override {
+        return give(result,
+                    [&] { return collection(position, number)->trigger_text(test, system_locale()); });
     }
 
 private:

@@ -22,10 +22,19 @@ Else
 End If
 
 Set dialog = CreateObject("brxOpcDlgs6.ConfigurationSetup")
+host.HoldConfiguration server, number
 dialog.Show configuration
 
-' Tests and descriptors have changed with each button; the rest only when she closed the dialog with its own. The dialog
-' removes no configuration: that is the host's, and so is the OPC group, which is to hold what is needed from now on.
+' Tests and descriptors have changed with each button; the rest only when she closed the dialog with its own. It gives
+' nothing back: what was written into the configuration tells.
+Select Case host.KeptSettings(server, number)
+    Case 2 WScript.Echo "Closed, and the settings are kept."
+    Case 1 WScript.Echo "Left after an error: some of the settings are kept."
+    Case Else WScript.Echo "Left, and the settings are as they were."
+End Select
+
+' The dialog removes no configuration: that is the host's, and so is the OPC group, which is to hold what is needed from
+' now on.
 If Not host.SettleConfiguration(server, number) Then
     WScript.Echo "Removed, since it has no tests."
     WScript.Quit 1

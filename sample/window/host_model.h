@@ -45,6 +45,8 @@ public:
     /// Gives the new one's number.
     long add_configuration(long position);
     void remove_configuration(long position, long number);
+    /// What a dialog on it has kept since it was held.
+    SettingsKept kept_settings(long position, long number) const;
     /// To be called when a dialog on it has closed. False when it had no tests and is removed.
     bool settle_configuration(long position, long number);
     std::wstring configuration_name(long position, long number) const;

@@ -36,23 +36,6 @@ std::wstring saved_as(_hlxOPCTest& test) {
     return L"Constant " + text_of(constant);
 }
 
-std::wstring trigger_of(_hlxOPCTest& test) {
-    static constexpr std::array texts = {L"Always", L"= ", L"> ", L">= ", L"< ", L"<= ", L"<> "};
-    VARIANT_BOOL on = VARIANT_FALSE;
-    check(test.get_ItemTrigger(&on));
-    if (on == VARIANT_FALSE) return {};
-    short code = 0;
-    check(test.get_TriggerExpression(&code));
-    if (code < 0 || static_cast<std::size_t>(code) >= texts.size()) return {};
-    std::wstring text = texts[static_cast<std::size_t>(code)];
-    if (code == 0) return text;
-    VARIANT value{};
-    check(test.get_TriggerValue(&value));
-    text += text_of(value);
-    VariantClear(&value);
-    return text;
-}
-
 long tests_in(_hlxOPCConfiguration& configuration, Ref<_hlxOPCTests>& tests) {
     check(configuration.get_Tests(tests.out()));
     long count = 0;
@@ -124,15 +107,17 @@ std::vector<TableLine> HostModel::tests(long position, long number) const {
         const auto test = item_of(*tests.get(), i);
         Text name;
         Text item;
+        Text trigger;
         Text value;
         long state = 0;
         check(test->get_CharacteristicName(name.out()));
         check(test->get_OPCItemID(item.out()));
         check(test->get_State(&state));
+        check(host_->get_TriggerText(position, number, i, trigger.out()));
         check(host_->get_ItemValue(position, number, item.get(), value.out()));
         const bool refused = state == item_not_added;
-        lines.push_back({{name.text(), refused ? L"" : item.text(), saved_as(*test.get()),
-                          trigger_of(*test.get()), refused ? L"Item refused" : value.text()},
+        lines.push_back({{name.text(), refused ? L"" : item.text(), saved_as(*test.get()), trigger.text(),
+                          refused ? L"Item refused" : value.text()},
                          refused ? Tone::alarm : Tone::plain});
     }
     return lines;
@@ -146,6 +131,12 @@ long HostModel::add_configuration(long position) {
 
 void HostModel::remove_configuration(long position, long number) {
     check(host_->RemoveConfiguration(position, number));
+}
+
+SettingsKept HostModel::kept_settings(long position, long number) const {
+    SettingsKept kept = NoSettings;
+    check(host_->get_KeptSettings(position, number, &kept));
+    return kept;
 }
 
 bool HostModel::settle_configuration(long position, long number) {

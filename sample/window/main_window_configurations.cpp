@@ -6,6 +6,22 @@
 
 namespace sample {
 
+namespace {
+
+/// Its dialog gives nothing back; the configuration knows what was written into it.
+const wchar_t* outcome(SettingsKept kept) {
+    switch (kept) {
+    case AllSettings:
+        return L" closed, and its settings are kept.";
+    case SomeSettings:
+        return L" left after an error: some of its settings are kept.";
+    default:
+        return L" left, and its settings are as they were.";
+    }
+}
+
+} // namespace
+
 /// While a dialog on a configuration is open, nothing is collected in it; then with what was changed.
 template <class Show> void MainWindow::hold_while(long position, long number, Show&& show) {
     model_->hold_configuration(position, number);
@@ -26,8 +42,9 @@ void MainWindow::show_configuration(long position, long number) {
 /// The dialog has announced it: a configuration without tests is removed. False when it is.
 bool MainWindow::settle(long position, long number) {
     const std::wstring name = model_->configuration_name(position, number);
+    const SettingsKept kept = model_->kept_settings(position, number);
     const bool still_there = model_->settle_configuration(position, number);
-    model_->log(L"Configure: " + name + (still_there ? L" closed." : L" has no tests and is removed."));
+    model_->log(L"Configure: " + name + (still_there ? outcome(kept) : L" has no tests and is removed."));
     return still_there;
 }
 

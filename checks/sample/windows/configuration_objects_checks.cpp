@@ -84,6 +84,30 @@ TEST_F(SampleConfigurations, ANewOneIsRemovedAgainWhenItsDialogLeavesItWithoutTe
     EXPECT_EQ(configurations(), 0);
 }
 
+TEST_F(SampleConfigurations, TellHowMuchADialogHasKept) {
+    const auto kept = [&] { return get(host.get(), "KeptSettings", {first, first}); };
+    call(host.get(), "HoldConfiguration", {first, first});
+    EXPECT_EQ(kept(), Variant(std::int32_t{0}));
+    put(configuration().get(), "Name", std::string("Filler"));
+    EXPECT_EQ(kept(), Variant(std::int32_t{1}));
+    put(configuration().get(), "PieceTriggerValue", Empty{});
+    EXPECT_EQ(kept(), Variant(std::int32_t{2}));
+    call(host.get(), "HoldConfiguration", {first, first});
+    EXPECT_EQ(kept(), Variant(std::int32_t{0}));
+}
+
+TEST_F(SampleConfigurations, TellATestsTriggerInWords) {
+    const auto trigger = [&] { return get(host.get(), "TriggerText", {first, first, first}); };
+    put(test(1).get(), "ItemTrigger", false);
+    EXPECT_EQ(trigger(), Variant(std::string()));
+    put(test(1).get(), "ItemTrigger", true);
+    put(test(1).get(), "TriggerExpression", std::int16_t{1});
+    put(test(1).get(), "TriggerValue", Empty{});
+    EXPECT_EQ(trigger(), Variant(std::string("If empty")));
+    put(test(1).get(), "TriggerValue", 0.5);
+    EXPECT_EQ(trigger(), Variant(std::string("= 0.5")));
+}
+
 TEST_F(SampleConfigurations, RunWhenAScriptSaysSo) {
     constexpr std::uint16_t doubles = VT_ARRAY | VT_R8;
     put(configuration().get(), "SubgroupInterval", std::int32_t{0});

@@ -72,6 +72,20 @@ TEST(SampleProgramConfigurations, TheCloseBoxOfTheDialogChangesNothing) {
     EXPECT_EQ(SendMessageW(after.control(L"chkActive"), BM_GETCHECK, 0, 0), BST_CHECKED);
 }
 
+TEST(SampleProgramConfigurations, TheLogTellsWhetherTheDialogWasClosedOrLeft) {
+    const OpenHost host;
+    const auto ends = [&](const std::string& text) {
+        return comes_true([&] { return host.last_log_line().ends_with(text); });
+    };
+    OpenConfiguration(host, L"bnConfigure").leave();
+    EXPECT_TRUE(ends("Configure: Filler head 1 left, and its settings are as they were."))
+        << host.last_log_line();
+    const OpenConfiguration dialog(host, L"bnConfigure");
+    dialog.type_over(L"txtName", L"Filler head 2");
+    dialog.close();
+    EXPECT_TRUE(ends("Configure: Filler head 2 closed, and its settings are kept.")) << host.last_log_line();
+}
+
 TEST(SampleProgramConfigurations, OneThatIsClosedWithoutTestsIsRemovedOnceConfirmed) {
     OpenHost host;
     const OpenConfiguration dialog(host, L"bnConfigure");

@@ -7,6 +7,7 @@
 #include <array>
 #include <chrono>
 #include <thread>
+#include <vector>
 
 namespace brx::checks {
 
@@ -104,6 +105,14 @@ void OpenHost::select_row(WPARAM key, LRESULT row) const {
 
 LRESULT OpenHost::rows(const wchar_t* list) const {
     return SendMessageW(control(list), LVM_GETITEMCOUNT, 0, 0);
+}
+
+std::string OpenHost::last_log_line() const {
+    std::vector<wchar_t> text(20000);
+    SendMessageW(control(L"txtLog"), WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    std::string log = text_of(text.data(), wcslen(text.data()));
+    while (log.ends_with('\n') || log.ends_with('\r')) log.pop_back();
+    return log.substr(log.rfind('\n') + 1);
 }
 
 OpenConfiguration::OpenConfiguration(const OpenHost& host, const wchar_t* button) : host_(host) {

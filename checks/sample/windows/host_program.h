@@ -50,6 +50,8 @@ public:
     void press(const wchar_t* button) const { PostMessageW(control(button), BM_CLICK, 0, 0); }
     void select_row(WPARAM key, LRESULT row) const;
     LRESULT rows(const wchar_t* list) const;
+    /// The line of the log that was written last.
+    std::string last_log_line() const;
     int default_button() const { return LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)); }
 
 private:
