@@ -49,6 +49,10 @@ private:
     bool configuration_is_listed() const;
     /// In the host's window.
     bool chart_tells(const std::wstring& text) const;
+    /// Whether the host's log ends with this.
+    bool log_tells(const std::wstring& text) const {
+        return at(L"frmHost") && reads(L"txtLog").ends_with(text);
+    }
 
     // What she does there.
     void press(const std::wstring& button) const;

@@ -39,7 +39,11 @@ void Visit::configuring() {
     watch_status();
     guide_.step(
         "\"Close\" keeps it, and the host shows it with its test.", "configured", [&] { press(L"bnClose"); },
-        L"the configuration in the host's window", [&] { return configuration_is_listed(); });
+        L"the configuration in the host's window",
+        [&] {
+            return configuration_is_listed() &&
+                   log_tells(L"Flow computer closed, and its settings are kept.");
+        });
 }
 
 void Visit::select_flow_computer() const {
@@ -179,8 +183,12 @@ void Visit::finding_the_configuration_again() {
         "So are the descriptors.", "descriptors-again", [&] { turn_to(descriptors, L"lvwDescriptors"); },
         L"the third tab", [&] { return descriptors_are_filled_in(); });
     guide_.step(
-        "The close box changes nothing.", "configuration-kept", [&] { close(program_.front()); },
-        L"the host's window", [&] { return configuration_is_listed(); });
+        "The close box changes nothing, and the log says so.", "configuration-kept",
+        [&] { close(program_.front()); }, L"the host's window",
+        [&] {
+            return configuration_is_listed() &&
+                   log_tells(L"Flow computer left, and its settings are as they were.");
+        });
 }
 
 bool Visit::general_is_filled_in() const {
