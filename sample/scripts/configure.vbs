@@ -28,9 +28,12 @@ dialog.Show configuration
 ' Tests and descriptors have changed with each button; the rest only when she closed the dialog with its own. It gives
 ' nothing back: what was written into the configuration tells.
 Select Case host.KeptSettings(server, number)
-    Case 2 WScript.Echo "Closed, and the settings are kept."
-    Case 1 WScript.Echo "Left after an error: some of the settings are kept."
-    Case Else WScript.Echo "Left, and the settings are as they were."
+    Case 2
+        WScript.Echo "Closed, and the settings are kept."
+    Case 1
+        WScript.Echo "Left after an error: some of the settings are kept."
+    Case Else
+        WScript.Echo "Left, and the settings are as they were."
 End Select
 
 ' The dialog removes no configuration: that is the host's, and so is the OPC group, which is to hold what is needed from
