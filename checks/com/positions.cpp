@@ -31,6 +31,9 @@ const std::vector<Positions>& positions_of_dialogs() {
         {"_Error", R"(
 1 Show(long Number, BSTR Description, BSTR Source, BSTR Location, BSTR Application) #1
 )"},
+        {"_hlxError", R"(
+1 Show(long Number, BSTR Description, BSTR Source, BSTR Location, BSTR Application) #1
+)"},
     };
     return positions;
 }

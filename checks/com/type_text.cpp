@@ -14,7 +14,7 @@ namespace brx::checks {
 
 namespace {
 
-constexpr int libraries_in_this_program = 5;
+constexpr int libraries_in_this_program = 6;
 
 com_ptr<ITypeLib> library(int number) {
     com_ptr<ITypeLib> result;

@@ -28,6 +28,7 @@ const std::set<std::string>& brx::checks::known_places_of_failure() {
         "hlxOPCServers.LastError in dlgServerAdd.ConnectServer",
         "hlxMessage.Show in dlgServerAdd.ConnectServer",
         "hlxMessage.Show in dlgServerAdd.bnOK_Click",
+        "hlxMessage.Show in nobody's trap", // as it tells of an error that the host does not take
 
         "OPCServer.ServerNode in dlgServerInformation.Form_Load",
         "OPCServer.ServerName in dlgServerInformation.Form_Load",

@@ -57,6 +57,7 @@ public:
     Notes notes;
     std::function<void()> on_load = [] {};
     std::function<void()> on_click = [] {};
+    std::function<void()> on_tick = [] {};
     std::function<void(std::int32_t&)> on_key = [](std::int32_t&) {};
 
     // clang-format off
@@ -78,7 +79,7 @@ public:
                                       .Click = [this] { notes.emplace_back("button_Click"); on_click(); }}};
     Button   leave {*this, "leave",  {.place = {80, 175, 75, 23}, .caption = "&Leave", .tab = 7, .is_cancel = true,
                                       .Click = [this] { notes.emplace_back("leave_Click"); unload(); }}};
-    Timer    timer {*this, "timer",  {.interval = 1000, .Timer = note("timer_Timer")}};
+    Timer    timer {*this, "timer",  {.interval = 1000, .Timer = [this] { notes.emplace_back("timer_Timer"); on_tick(); }}};
     // clang-format on
 
     using Form::show_message;

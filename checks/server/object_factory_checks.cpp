@@ -6,8 +6,10 @@
 #include "server/script_object.h"
 
 #include <brxDatabase6.h>
+#include <brxError6.h>
 #include <brxOpcAuto6.h>
 #include <gtest/gtest.h>
+#include <hlxER01.h>
 
 namespace brx::checks {
 
@@ -55,6 +57,8 @@ TEST_F(ObjectFactoryTest, ARegisteredNameComesBeforeThePublishedIdentifier) {
 
 TEST_F(ObjectFactoryTest, EachPublishedClassOfTheHostHasItsOwnIdentifier) {
     const std::pair<const char*, const CLSID&> published[] = {
+        {"brxError6.Error", CLSID_Error},
+        {"hlxER01.Error", CLSID_hlxER01_Error},
         {class_name::hlxOPCServer, CLSID_hlxOPCServer},
         {class_name::hlxMessage, CLSID_hlxMessage},
         {class_name::hlxHelp, CLSID_hlxHelp},

@@ -2,6 +2,10 @@
 
 #include <windows.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace brx::checks {
 
 /// Watches the windows that this thread opens on the screen; one at a time.
@@ -14,6 +18,9 @@ public:
 
     /// How many windows with a title bar opened.
     int count() const;
+
+    /// The title and the text of each message box among them that was closed at once.
+    const std::vector<std::pair<std::wstring, std::wstring>>& messages() const;
 
     /// Closes each of them by its close box as soon as it becomes active.
     void close_at_once();

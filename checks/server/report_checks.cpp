@@ -1,5 +1,5 @@
 #include "com/inproc/registry.h"
-#include "com/server/com_error_reporter.h"
+#include "com/server/com_error_libraries.h"
 #include "common/version.h"
 #include "forms/turn.h"
 #include "server/debugger_output.h"
@@ -9,6 +9,7 @@
 
 #include <brxOpcDlgs6.h>
 #include <gmock/gmock.h>
+#include <hlxER01.h>
 
 namespace brx::checks {
 
@@ -51,6 +52,15 @@ protected:
     OpenedWindows windows;
     DebuggerOutput debugger;
 };
+
+using Told = std::pair<std::wstring, std::wstring>;
+const Told told_of_nothing = {L"brxOpcDlgs6",
+                              L"Error 13: Type mismatch\r\n\r\nServerAdd.ResolvehlxOPCServers"};
+
+/// For a report that the host takes.
+const auto nothing_else = [] { ADD_FAILURE() << "The host did not take the report."; };
+
+constexpr const wchar_t* another_class_text = L"{6F0B5F6E-1C8E-4B43-9C0A-2E635A5E0D11}";
 
 std::vector<std::wstring> locations(const ErrorLibrary6& errors) {
     std::vector<std::wstring> found;
@@ -122,40 +132,52 @@ TEST_F(ReportTest, ServerIndexStaysWhenNothingWasChosen) {
     EXPECT_EQ(index, 3);
 }
 
-TEST_F(ReportTest, WithoutAnErrorLibraryOneLineGoesToTheDebugger) {
+TEST_F(ReportTest, WithoutAnErrorLibraryAMessageBoxTellsAndOneLineGoesToTheDebugger) {
+    windows.close_at_once();
     show_nothing();
     EXPECT_THAT(
         debugger.lines(),
         ElementsAre(
             L"brxOpcDlgs6 " BRX_VERSION_TEXT L": error 13 in ServerAdd.ResolvehlxOPCServers: Type mismatch "
             L"(brxOpcDlgs6)\n"));
-    EXPECT_EQ(windows.count(), 0);
+    EXPECT_THAT(windows.messages(), ElementsAre(told_of_nothing));
+    EXPECT_EQ(windows.count(), 1);
 }
 
-TEST_F(ReportTest, AnErrorLibraryThatFailsIsReplacedByTheDebugger) {
+TEST_F(ReportTest, EachShowTellsAgain) {
+    windows.close_at_once();
+    show_nothing();
+    show_nothing();
+    EXPECT_EQ(windows.messages().size(), 2u);
+    EXPECT_EQ(debugger.lines().size(), 2u);
+}
+
+TEST_F(ReportTest, AnErrorLibraryThatFailsIsReplacedByMessageBoxAndDebugger) {
     ErrorLibrary6 errors;
     errors.while_shown = [] { return E_FAIL; };
+    windows.close_at_once();
     show_nothing();
     EXPECT_EQ(errors.heard.size(), 1u);
     EXPECT_EQ(debugger.lines().size(), 1u);
+    EXPECT_THAT(windows.messages(), ElementsAre(told_of_nothing));
 }
 
-TEST_F(ReportTest, AClassWithoutShowIsReplacedByTheDebugger) {
+TEST_F(ReportTest, AClassWithoutShowIsReplacedByMessageBoxAndDebugger) {
     ScriptObject shy;
     const ClassForProcess offered(another_class, [&] { return com_ptr<IDispatch>(&shy); });
     RegistryChange name(HKEY_LOCAL_MACHINE);
-    name.write({L"Software\\Classes\\brxError6.Error\\CLSID", L""},
-               L"{6F0B5F6E-1C8E-4B43-9C0A-2E635A5E0D11}");
+    name.write({L"Software\\Classes\\brxError6.Error\\CLSID", L""}, another_class_text);
+    windows.close_at_once();
     show_nothing();
     EXPECT_EQ(debugger.lines().size(), 1u);
+    EXPECT_THAT(windows.messages(), ElementsAre(told_of_nothing));
 }
 
 TEST_F(ReportTest, TheRegisteredNameComesBeforeThePublishedIdentifier) {
     ErrorLibrary6 published;
     ErrorLibrary6 named(another_class);
     RegistryChange name(HKEY_LOCAL_MACHINE);
-    name.write({L"Software\\Classes\\brxError6.Error\\CLSID", L""},
-               L"{6F0B5F6E-1C8E-4B43-9C0A-2E635A5E0D11}");
+    name.write({L"Software\\Classes\\brxError6.Error\\CLSID", L""}, another_class_text);
     show_nothing();
     EXPECT_EQ(named.heard.size(), 1u);
     EXPECT_EQ(published.heard.size(), 0u);
@@ -170,6 +192,7 @@ TEST_F(ReportTest, AnErrorWhileAReportIsShownGoesToTheDebuggerAlone) {
     show_nothing();
     EXPECT_EQ(errors.heard.size(), 1u);
     EXPECT_EQ(debugger.lines().size(), 1u);
+    EXPECT_EQ(windows.count(), 0);
 }
 
 TEST_F(ReportTest, TheNextErrorIsReportedToTheHostAgain) {
@@ -192,7 +215,7 @@ TEST_F(ReportTest, WhatTheThreadKnewOfErrorsStays) {
     const auto before = created.as<IErrorInfo>();
     SetErrorInfo(0, before.get());
     SetLastError(4711);
-    ComErrorReporter().Show(ErrorLibrary::brxError6, {5, "d", "s", "m.p", "a"});
+    ComErrorLibraries().Show(ErrorLibrary::brxError6, {5, "d", "s", "m.p", "a"}, nothing_else);
     EXPECT_EQ(GetLastError(), 4711u);
     com_ptr<IErrorInfo> after;
     GetErrorInfo(0, after.out());
@@ -200,22 +223,54 @@ TEST_F(ReportTest, WhatTheThreadKnewOfErrorsStays) {
     EXPECT_EQ(errors.heard.size(), 1u);
 }
 
+TEST_F(ReportTest, WhatTheThreadKnewOfErrorsStaysWhereSomethingElseIsDone) {
+    com_ptr<ICreateErrorInfo> created;
+    ASSERT_EQ(CreateErrorInfo(created.out()), S_OK);
+    const auto before = created.as<IErrorInfo>();
+    SetErrorInfo(0, before.get());
+    SetLastError(4711);
+    int times = 0;
+    ComErrorLibraries().Show(ErrorLibrary::hlxER01, {5, "d", "s", "m.p", "a"}, [&] {
+        ++times;
+        EXPECT_EQ(debugger.lines().size(), 1u) << "The line comes first.";
+        EXPECT_FALSE(turn::is_code_running());
+        SetErrorInfo(0, nullptr);
+        SetLastError(1);
+    });
+    EXPECT_EQ(GetLastError(), 4711u);
+    com_ptr<IErrorInfo> after;
+    GetErrorInfo(0, after.out());
+    EXPECT_EQ(after.get(), before.get());
+    EXPECT_EQ(times, 1);
+}
+
 TEST_F(ReportTest, TheOtherLibraryIsCalledByItsOwnName) {
     ErrorLibrary6 published;
     ErrorLibrary6 other(another_class);
     RegistryChange name(HKEY_LOCAL_MACHINE);
-    name.write({L"Software\\Classes\\hlxER01.Error\\CLSID", L""}, L"{6F0B5F6E-1C8E-4B43-9C0A-2E635A5E0D11}");
-    ComErrorReporter().Show(ErrorLibrary::hlxER01,
-                            {-2147467259, "what", "who", "dlgConfiguration.Form_Load", "a"});
+    name.write({L"Software\\Classes\\hlxER01.Error\\CLSID", L""}, another_class_text);
+    ComErrorLibraries().Show(ErrorLibrary::hlxER01,
+                             {-2147467259, "what", "who", "dlgConfiguration.Form_Load", "a"}, nothing_else);
     EXPECT_EQ(published.heard.size(), 0u);
     ASSERT_EQ(other.heard.size(), 1u);
     EXPECT_EQ(other.heard[0].number, -2147467259);
     EXPECT_THAT(other.heard[0].texts, ElementsAre(L"what", L"who", L"dlgConfiguration.Form_Load", L"a"));
 }
 
+TEST_F(ReportTest, BothLibrariesAreFoundByTheirPublishedIdentifiers) {
+    ErrorLibrary6 six;
+    ErrorLibrary6 other(CLSID_hlxER01_Error);
+    ComErrorLibraries().Show(ErrorLibrary::brxError6, {5, "d", "s", "dlgServerAdd.bnOK_Click", "a"},
+                             nothing_else);
+    ComErrorLibraries().Show(ErrorLibrary::hlxER01, {5, "d", "s", "dlgConfiguration.Form_Load", "a"},
+                             nothing_else);
+    EXPECT_THAT(locations(six), ElementsAre(L"dlgServerAdd.bnOK_Click"));
+    EXPECT_THAT(locations(other), ElementsAre(L"dlgConfiguration.Form_Load"));
+}
+
 TEST_F(ReportTest, ADebuggersLineIsOneLine) {
-    ComErrorReporter().Show(ErrorLibrary::hlxER01,
-                            {6, "first\r\nsecond", "M\xC3\xBCller", "dlgX.bnOK_Click", "app"});
+    ComErrorLibraries().Show(ErrorLibrary::hlxER01,
+                             {6, "first\r\nsecond", "M\xC3\xBCller", "dlgX.bnOK_Click", "app"}, [] {});
     EXPECT_THAT(debugger.lines(),
                 ElementsAre(L"app: error 6 in dlgX.bnOK_Click: first  second (M\u00FCller)\n"));
 }
@@ -227,7 +282,7 @@ TEST_F(ReportTest, CodeRunsWhileAReportIsShown) {
         code_ran = turn::is_code_running();
         return S_OK;
     };
-    ComErrorReporter().Show(ErrorLibrary::brxError6, {5, "d", "s", "m.p", "a"});
+    ComErrorLibraries().Show(ErrorLibrary::brxError6, {5, "d", "s", "m.p", "a"}, nothing_else);
     EXPECT_TRUE(code_ran);
     EXPECT_FALSE(turn::is_code_running());
 }

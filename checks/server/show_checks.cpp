@@ -91,6 +91,8 @@ TEST(UnloadingTest, TheDllGoesBeforeTheThreadThatUsedIt) {
         static DWORD WINAPI run(void*) {
             const Apartment apartment;
             const Dll dll;
+            OpenedWindows windows;
+            windows.close_at_once(); // that tells of the error
             VARIANT_BOOL result = VARIANT_TRUE;
             dll.create<_ServerAdd>(CLSID_ServerAdd)->Show(nullptr, &result);
             return result == VARIANT_FALSE && dll.can_unload() ? 0 : 1;

@@ -82,10 +82,12 @@ private:
 std::wstring describe_form(HWND window);
 
 /// A host that has nothing and remembers what it is told.
-class BareHost : public ErrorReporter, public ObjectFactory {
+class BareHost : public ErrorLibraries, public ObjectFactory {
 public:
     std::vector<ErrorReport> reports;
-    void Show(ErrorLibrary, const ErrorReport& report) noexcept override { reports.push_back(report); }
+    void Show(ErrorLibrary, const ErrorReport& report, const std::function<void()>&) noexcept override {
+        reports.push_back(report);
+    }
     ObjectPtr create(const std::string&) override { throw Error(error::cannot_create_object); }
 };
 

@@ -11,14 +11,11 @@
 #include "brxError6.h"
 #include "brxOpcAuto6.h"
 #include "brxSample.h"
+#include "hlxER01.h"
 
 namespace brx::host {
 
 namespace {
-
-/// hlxER01.Error is called by name only, so no type library describes it.
-constexpr CLSID clsid_hlxER01_error{
-    0xC8DF09B6, 0xB0E2, 0x4837, {0xB5, 0x97, 0x03, 0xAB, 0xAD, 0xD6, 0x0D, 0x18}};
 
 com_ptr<IDispatch> new_fresh_entry() { return to_dispatch(std::make_shared<FreshEntry>(site().source)); }
 
@@ -33,8 +30,8 @@ template <RecordKind kind> com_ptr<IDispatch> new_selection() { return new_selec
 const NamedClass all[] = {
     {{CLSID_Host, new_host_object}, L"brxSample.Host", L"The sample host"},
     {{CLSID_hlxOPCServer, new_fresh_entry}, L"brxOpcAuto6.hlxOPCServer", L"A fresh server entry"},
-    {{CLSID_Error, new_error_object}, L"brxError6.Error", L"Reports an unexpected error"},
-    {{clsid_hlxER01_error, new_error_object}, L"hlxER01.Error", L"Reports an unexpected error"},
+    {{CLSID_Error, new_error_object<_Error>}, L"brxError6.Error", L"Reports an unexpected error"},
+    {{CLSID_hlxER01_Error, new_error_object<_hlxError>}, L"hlxER01.Error", L"Reports an unexpected error"},
     {{CLSID_hlxTestGroup, new_group<RecordKind::characteristic>},
      L"brxDatabase6.hlxTestGroup",
      L"A group of characteristics"},

@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "brxError6.h"
+#include "hlxER01.h"
 
 namespace brx::host {
 
@@ -21,10 +22,10 @@ std::string name_of(LONG number) {
     return code.data();
 }
 
-class ErrorObject final : public Dual<_Error> {
+template <class Interface> class ErrorObject final : public Dual<Interface> {
 public:
     STDMETHODIMP Show(LONG number, BSTR description, BSTR source, BSTR location, BSTR application) override {
-        return guard(__uuidof(_Error), [&] {
+        return guard(__uuidof(Interface), [&] {
             const std::string what = text_of(description);
             site().log.add("Error " + name_of(number) + " in " + text_of(location) + ": " + what);
             const std::string text =
@@ -38,6 +39,11 @@ public:
 
 } // namespace
 
-com_ptr<IDispatch> new_error_object() { return make_com<ErrorObject>(); }
+template <class Interface> com_ptr<IDispatch> new_error_object() {
+    return make_com<ErrorObject<Interface>>();
+}
+
+template com_ptr<IDispatch> new_error_object<_Error>();
+template com_ptr<IDispatch> new_error_object<_hlxError>();
 
 } // namespace brx::host

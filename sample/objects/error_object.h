@@ -8,7 +8,8 @@
 
 namespace brx::host {
 
-/// A new object of the error libraries' class Error: shows an error to the user and writes it into the log.
-com_ptr<IDispatch> new_error_object();
+/// A new object of an error library's class Error, which has this interface: shows an error to the user and
+/// writes it into the log.
+template <class Interface> com_ptr<IDispatch> new_error_object();
 
 } // namespace brx::host

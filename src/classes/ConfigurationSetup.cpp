@@ -5,7 +5,7 @@
 namespace brx {
 
 void ConfigurationSetup::Show(const ObjectPtr& hlxOPCConfiguration) {
-    trap("Show", [&] {
+    run_show([&] {
         dlgConfiguration form(environment_);
         const hlxOPCConfigurationPtr configuration = ResolveOPCConfiguration(hlxOPCConfiguration);
         if (!configuration) return;

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "classes/dialog_class.h"
 #include "common/model/configuration.h"
-#include "common/trap.h"
-#include "forms/environment.h"
 
 namespace brx {
 
 /// Lets a person edit a collection configuration in place.
-class ConfigurationSetup : private Module {
+class ConfigurationSetup : private DialogClass {
 public:
-    explicit ConfigurationSetup(Environment& environment)
-        : Module("ConfigurationSetup", environment.errors), environment_(environment) {}
+    explicit ConfigurationSetup(Environment& environment) : DialogClass("ConfigurationSetup", environment) {}
 
     /// Returns when the dialog has closed. The configuration must belong to a server entry, which leads to
     /// the host's database.
@@ -18,8 +16,6 @@ public:
 
 private:
     hlxOPCConfigurationPtr ResolveOPCConfiguration(const ObjectPtr& object) const;
-
-    Environment& environment_;
 };
 
 } // namespace brx

@@ -6,7 +6,7 @@ namespace brx {
 
 bool LeafSelect::Show(const ObjectPtr& OPCServer, const ObjectPtr& OPCGroup) {
     bool chosen = false;
-    trap("Show", [&] {
+    run_show([&] {
         dlgItemSelect form(environment_);
         form.set_OPCServer(tools_.ResolveOPCServer(OPCServer));
         form.set_OPCGroup(tools_.ResolveOPCGroup(OPCGroup));

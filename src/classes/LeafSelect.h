@@ -1,7 +1,7 @@
 #pragma once
 
+#include "classes/dialog_class.h"
 #include "common/common_tools.h"
-#include "forms/environment.h"
 
 #include <string>
 #include <utility>
@@ -9,10 +9,10 @@
 namespace brx {
 
 /// Lets a person choose one item of a connected OPC server.
-class LeafSelect : private Module {
+class LeafSelect : private DialogClass {
 public:
     explicit LeafSelect(Environment& environment)
-        : Module("LeafSelect", environment.errors), environment_(environment), tools_(environment.errors) {}
+        : DialogClass("LeafSelect", environment), tools_(environment.errors) {}
 
     /// The item identifier: to start with, and after a confirmed `Show` the chosen one; "" at first.
     const std::string& ItemID() const { return item_id_; }
@@ -23,7 +23,6 @@ public:
     bool Show(const ObjectPtr& OPCServer, const ObjectPtr& OPCGroup);
 
 private:
-    Environment& environment_;
     CommonTools tools_;
     std::string item_id_;
 };

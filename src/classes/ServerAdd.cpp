@@ -6,7 +6,7 @@ namespace brx {
 
 bool ServerAdd::Show(const ObjectPtr& hlxOPCServers) {
     bool added = false;
-    trap("Show", [&] {
+    run_show([&] {
         dlgServerAdd form(environment_);
         const hlxOPCServersPtr servers = ResolvehlxOPCServers(hlxOPCServers);
         if (!servers) return;

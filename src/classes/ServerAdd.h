@@ -1,17 +1,16 @@
 #pragma once
 
+#include "classes/dialog_class.h"
 #include "common/model/collection.h"
-#include "forms/environment.h"
 
 #include <cstdint>
 
 namespace brx {
 
 /// Lets the user find an OPC server on a node and add it to the host's collection.
-class ServerAdd : private Module {
+class ServerAdd : private DialogClass {
 public:
-    explicit ServerAdd(Environment& environment)
-        : Module("ServerAdd", environment.errors), environment_(environment) {}
+    explicit ServerAdd(Environment& environment) : DialogClass("ServerAdd", environment) {}
 
     /// The position of the server added last, from 1.
     std::int16_t ServerIndex = 0;
@@ -21,8 +20,6 @@ public:
 
 private:
     hlxOPCServersPtr ResolvehlxOPCServers(const ObjectPtr& object) const;
-
-    Environment& environment_;
 };
 
 } // namespace brx

@@ -6,7 +6,7 @@ namespace brx {
 
 bool ServerInformation::Show(const ObjectPtr& OPCServer) {
     bool shown = false;
-    trap("Show", [&] {
+    run_show([&] {
         dlgServerInformation form(environment_);
         const OPCServerPtr server = tools_.ResolveOPCServer(OPCServer);
         if (!server) return;

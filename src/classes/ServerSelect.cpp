@@ -6,7 +6,7 @@ namespace brx {
 
 bool ServerSelect::Show(const ObjectPtr& hlxOPCServers) {
     bool chosen = false;
-    trap("Show", [&] {
+    run_show([&] {
         dlgServerSelect form(environment_);
         const hlxOPCServersPtr servers = ResolvehlxOPCServers(hlxOPCServers);
         if (!servers) return;

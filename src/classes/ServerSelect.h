@@ -1,17 +1,16 @@
 #pragma once
 
+#include "classes/dialog_class.h"
 #include "common/model/collection.h"
-#include "forms/environment.h"
 
 #include <cstdint>
 
 namespace brx {
 
 /// Lets the user choose one of the host's configured OPC servers.
-class ServerSelect : private Module {
+class ServerSelect : private DialogClass {
 public:
-    explicit ServerSelect(Environment& environment)
-        : Module("ServerSelect", environment.errors), environment_(environment) {}
+    explicit ServerSelect(Environment& environment) : DialogClass("ServerSelect", environment) {}
 
     /// The position of the server chosen last, from 1. Shows start without a choice whatever stands here.
     std::int16_t ServerIndex = 0;
@@ -21,8 +20,6 @@ public:
 
 private:
     hlxOPCServersPtr ResolvehlxOPCServers(const ObjectPtr& object) const;
-
-    Environment& environment_;
 };
 
 } // namespace brx

@@ -6,7 +6,7 @@ namespace brx {
 
 bool TestConfiguration::Show(const ObjectPtr& hlxOPCTest) {
     bool confirmed = false;
-    trap("Show", [&] {
+    run_show([&] {
         dlgOPCTest form(environment_);
         const hlxOPCTestPtr test = ResolvehlxOPCTest(hlxOPCTest);
         if (!test) return;

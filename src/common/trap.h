@@ -12,6 +12,11 @@ namespace brx {
 /// The two error libraries of the host. Each has a class `Error` whose `Show` reports.
 enum class ErrorLibrary { brxError6, hlxER01 };
 
+/// The full name of the library's class.
+constexpr const char* error_class_name(ErrorLibrary library) {
+    return library == ErrorLibrary::hlxER01 ? "hlxER01.Error" : "brxError6.Error";
+}
+
 /// What one report says.
 struct ErrorReport {
     std::int32_t number = 0;

@@ -23,6 +23,7 @@ public:
     /// The interval has passed. False, and nothing happens, while other code of the thread runs.
     bool tick() {
         if (!form().loaded() || !enabled() || turn::is_code_running()) return false;
+        const TimerTurn timer;
         form().run_event([&] { fire(design_.Timer); });
         return true;
     }

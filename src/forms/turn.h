@@ -13,6 +13,13 @@ namespace turn {
 
 bool is_code_running();
 
+/// Whether a timer started the code that runs. What a person does in a window that such code opens is her
+/// own.
+bool is_timer_running();
+
+/// Whether the loop that waits for a person is a message box's.
+bool is_message_box_open();
+
 /// The form in front of the person, or null when there is none or a message box lies over it.
 Form* front();
 
@@ -36,6 +43,18 @@ private:
     bool outer_;
 };
 
+/// For its lifetime a timer's tick is dealt with.
+class TimerTurn {
+public:
+    TimerTurn();
+    ~TimerTurn();
+    TimerTurn(const TimerTurn&) = delete;
+    TimerTurn& operator=(const TimerTurn&) = delete;
+
+private:
+    bool outer_;
+};
+
 /// For its lifetime a modal loop runs: of the form, or of a message box when it is null.
 class ModalTurn {
 public:
@@ -50,7 +69,8 @@ public:
 private:
     Form* form_;
     const ModalTurn* below_;
-    bool outer_;
+    bool code_was_running_;
+    bool timer_was_running_;
 };
 
 } // namespace brx

@@ -53,9 +53,11 @@ std::shared_ptr<FakeTest> FakeHost::has_test(std::int32_t id, const std::string&
     return test;
 }
 
-void FakeHost::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
-    reports.push_back({library, report});
+void FakeHost::Show(ErrorLibrary library, const ErrorReport& report,
+                    const std::function<void()>& otherwise) noexcept {
     all_reports.push_back({library, report});
+    if (error_classes.at(library) != ErrorClass::works) return otherwise();
+    reports.push_back({library, report});
 }
 
 ObjectPtr FakeHost::create(const std::string& name) {

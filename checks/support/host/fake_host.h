@@ -2,8 +2,8 @@
 
 #include "common/model/factory.h"
 #include "common/model/services.h"
-#include "common/trap.h"
 #include "forms/engine.h"
+#include "forms/error_reports.h"
 #include "host/fake_browser.h"
 #include "host/fake_configuration.h"
 #include "host/fake_group.h"
@@ -22,6 +22,9 @@ struct Report {
     ErrorLibrary library = ErrorLibrary::brxError6;
     ErrorReport what;
 };
+
+/// What the host has for an error library's class.
+enum class ErrorClass { works, fails, missing };
 
 /// A message service of the host's own: it notes the message and presses OK.
 class FakeMessageService : public hlxMessage {
@@ -52,7 +55,7 @@ private:
 };
 
 /// The host of the scenarios: its objects, the classes that the component creates, and where its reports go.
-class FakeHost : public ErrorReporter, public ObjectFactory {
+class FakeHost : public ErrorLibraries, public ObjectFactory {
 public:
     FakeHost();
 
@@ -80,9 +83,15 @@ public:
     std::shared_ptr<FakeMessageService> message_service; ///< null: the host has none
     std::shared_ptr<FakeHelpService> help_service;       ///< null: the host has none
 
+    std::map<ErrorLibrary, ErrorClass> error_classes = {{ErrorLibrary::brxError6, ErrorClass::works},
+                                                        {ErrorLibrary::hlxER01, ErrorClass::works}};
+    void has_no_error_library() {
+        for (auto& [library, its_class] : error_classes) its_class = ErrorClass::missing;
+    }
+
     /// The reports that no one has looked at yet.
     std::vector<Report> reports;
-    /// All that ever came.
+    /// All that ever came, also to a class that does not work.
     std::vector<Report> all_reports;
 
     /// The configuration has a test of this characteristic.
@@ -99,7 +108,8 @@ public:
     /// Which of the host's objects something still refers to, "" for none.
     std::string still_held() const;
 
-    void Show(ErrorLibrary library, const ErrorReport& report) noexcept override;
+    void Show(ErrorLibrary library, const ErrorReport& report,
+              const std::function<void()>& otherwise) noexcept override;
     ObjectPtr create(const std::string& name) override;
 
 private:

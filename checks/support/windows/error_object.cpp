@@ -63,7 +63,7 @@ constexpr UINT value_count = 5;
 
 class ErrorObject final : public Counted<IDispatch> {
 public:
-    ErrorObject(ErrorReporter& host, ErrorLibrary library) : host_(host), library_(library) {}
+    ErrorObject(ErrorLibraries& host, ErrorLibrary library) : host_(host), library_(library) {}
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override {
         *count = 0;
@@ -81,7 +81,11 @@ public:
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                         UINT*) override {
         if (member != show_member) return DISP_E_MEMBERNOTFOUND;
-        return guard(IID_IDispatch, [&] { host_.Show(library_, report_in(flags, *parameters)); });
+        return guard(IID_IDispatch, [&] {
+            bool taken = true;
+            host_.Show(library_, report_in(flags, *parameters), [&] { taken = false; });
+            if (!taken) throw Error(error::internal);
+        });
     }
 
 private:
@@ -97,7 +101,7 @@ private:
         return {V_I4(&value(0)), text(1), text(2), text(3), text(4)};
     }
 
-    ErrorReporter& host_;
+    ErrorLibraries& host_;
     ErrorLibrary library_;
     ModuleLock lock_; // counts among the host's objects
 };
@@ -108,7 +112,7 @@ com_ptr<IClassFactory> make_factory(std::function<com_ptr<IDispatch>()> make) {
     return com_ptr<IClassFactory>(std::make_unique<Factory>(std::move(make)).release());
 }
 
-com_ptr<IDispatch> make_error_object(ErrorReporter& host, ErrorLibrary library) {
+com_ptr<IDispatch> make_error_object(ErrorLibraries& host, ErrorLibrary library) {
     return com_ptr<IDispatch>(std::make_unique<ErrorObject>(host, library).release());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "com/com_ptr.h"
-#include "common/trap.h"
+#include "forms/error_reports.h"
 
 #include <windows.h>
 
@@ -15,7 +15,8 @@ namespace brx::checks {
 com_ptr<IClassFactory> make_factory(std::function<com_ptr<IDispatch>()> make);
 
 /// An object of an error library's class: it has no type library, `Show` is found by its name, and what it is
-/// shown goes to `host`. A call of any other form arrives as a report that says so.
-com_ptr<IDispatch> make_error_object(ErrorReporter& host, ErrorLibrary library);
+/// shown goes to `host`; what that does not take fails. A call of any other form arrives as a report that
+/// says so.
+com_ptr<IDispatch> make_error_object(ErrorLibraries& host, ErrorLibrary library);
 
 } // namespace brx::checks

@@ -5,12 +5,12 @@
 #include "com/failure.h"
 #include "com/guid_text.h"
 #include "win32/this_module.h"
-#include "windows/class_name.h"
 #include "windows/error_object.h"
 
 #include <brxDatabase6.h>
 #include <brxError6.h>
 #include <brxOpcAuto6.h>
+#include <hlxER01.h>
 
 #include <array>
 #include <utility>
@@ -18,11 +18,6 @@
 namespace brx::checks {
 
 namespace {
-
-/// The host's own, under which the other error library's class is found by its name.
-constexpr CLSID error_class_by_name = {
-    0x1CC7C4FE, 0x229C, 0x47DC, {0x83, 0x1A, 0xE3, 0xF6, 0x19, 0x53, 0xD4, 0x74}};
-constexpr const wchar_t* error_class_name = L"hlxER01.Error";
 
 constexpr auto database_classes = std::to_array<std::pair<const CLSID*, const char*>>({
     {&CLSID_hlxTestGroup, class_name::hlxTestGroup},
@@ -47,36 +42,37 @@ constexpr auto database_classes = std::to_array<std::pair<const CLSID*, const ch
 } // namespace
 
 HostClasses::HostClasses(FakeHost& host) : host_(host) {
-    offer(CLSID_hlxOPCServer, class_name::hlxOPCServer);
-    for (const auto& [clsid, name] : database_classes) offer(*clsid, name);
-    offer(CLSID_Error, make_factory([&host] { return make_error_object(host, ErrorLibrary::brxError6); }));
-    offer(error_class_by_name,
-          make_factory([&host] { return make_error_object(host, ErrorLibrary::hlxER01); }));
-    register_class_name(error_class_name, guid_text(error_class_by_name));
-    offer_services();
+    offer(CLSID_hlxOPCServer, factory_of(class_name::hlxOPCServer));
+    for (const auto& [clsid, name] : database_classes) offer(*clsid, factory_of(name));
+    offer_what_it_has();
 }
 
 HostClasses::~HostClasses() {
-    unregister_class_name(error_class_name);
     for (const auto& [clsid, cookie] : offered_) CoRevokeClassObject(cookie);
 }
 
-void HostClasses::offer_services() {
-    offer_service(CLSID_hlxMessage, class_name::hlxMessage, host_.message_service != nullptr);
-    offer_service(CLSID_hlxHelp, class_name::hlxHelp, host_.help_service != nullptr);
+void HostClasses::offer_what_it_has() {
+    offer_if(host_.message_service != nullptr, CLSID_hlxMessage, factory_of(class_name::hlxMessage));
+    offer_if(host_.help_service != nullptr, CLSID_hlxHelp, factory_of(class_name::hlxHelp));
+    const auto error_class = [&](ErrorLibrary library, const CLSID& clsid) {
+        offer_if(host_.error_classes.at(library) != ErrorClass::missing, clsid,
+                 make_factory([this, library] { return make_error_object(host_, library); }));
+    };
+    error_class(ErrorLibrary::brxError6, CLSID_Error);
+    error_class(ErrorLibrary::hlxER01, CLSID_hlxER01_Error);
 }
 
-void HostClasses::offer_service(const CLSID& clsid, const char* name, bool has_it) {
+void HostClasses::offer_if(bool has_it, const CLSID& clsid, const com_ptr<IClassFactory>& factory) {
     const bool offered = offered_.contains(guid_text(clsid));
     if (has_it && !offered)
-        offer(clsid, name);
+        offer(clsid, factory);
     else if (!has_it && offered)
         withdraw(clsid);
 }
 
-/// The class of the host's that has this name.
-void HostClasses::offer(const CLSID& clsid, const char* name) {
-    offer(clsid, make_factory([this, name] { return to_dispatch(host_.create(name)); }));
+/// Of the class of the host's that has this name.
+com_ptr<IClassFactory> HostClasses::factory_of(const char* name) {
+    return make_factory([this, name] { return to_dispatch(host_.create(name)); });
 }
 
 void HostClasses::offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory) {

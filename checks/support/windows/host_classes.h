@@ -19,14 +19,14 @@ public:
     HostClasses(const HostClasses&) = delete;
     HostClasses& operator=(const HostClasses&) = delete;
 
-    /// Offers the services that the host has now, and those only.
-    void offer_services();
+    /// Offers the services and error classes that the host has now, and those only.
+    void offer_what_it_has();
 
 private:
-    void offer(const CLSID& clsid, const char* name);
     void offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory);
     void withdraw(const CLSID& clsid);
-    void offer_service(const CLSID& clsid, const char* name, bool has_it);
+    void offer_if(bool has_it, const CLSID& clsid, const com_ptr<IClassFactory>& factory);
+    com_ptr<IClassFactory> factory_of(const char* name);
 
     FakeHost& host_;
     std::map<std::wstring, DWORD> offered_; ///< by the identifier's text

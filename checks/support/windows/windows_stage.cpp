@@ -30,7 +30,7 @@ WindowsStage::~WindowsStage() {
 
 void WindowsStage::start(std::function<void()> job) {
     ui_.start([this, job = std::move(job)] {
-        classes_->offer_services();
+        classes_->offer_what_it_has();
         job();
     });
 }

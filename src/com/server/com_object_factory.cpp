@@ -3,10 +3,12 @@
 #include "com/bstr.h"
 #include "com/com_object.h"
 #include "common/error.h"
+#include "common/trap.h"
 
 #include "brxDatabase6.h"
 #include "brxError6.h"
 #include "brxOpcAuto6.h"
+#include "hlxER01.h"
 
 #include <algorithm>
 #include <array>
@@ -21,7 +23,8 @@ struct PublishedClass {
 };
 
 constexpr auto published = std::to_array<PublishedClass>({
-    {"brxError6.Error", CLSID_Error},
+    {error_class_name(ErrorLibrary::brxError6), CLSID_Error},
+    {error_class_name(ErrorLibrary::hlxER01), CLSID_hlxER01_Error},
 
     {class_name::hlxOPCServer, CLSID_hlxOPCServer},
     {class_name::hlxMessage, CLSID_hlxMessage},

@@ -1,7 +1,7 @@
 #include "com/server/show.h"
 
 #include "com/com_ptr.h"
-#include "com/server/com_error_reporter.h"
+#include "com/server/com_error_libraries.h"
 #include "com/server/com_object_factory.h"
 #include "com/system_locale.h"
 #include "common/trap.h"
@@ -14,11 +14,10 @@ namespace {
 
 /// What the dialogs of one Show run in.
 struct Surroundings {
-    explicit Surroundings(ErrorReporter& errors) : environment(engine, errors, objects, system_locale()) {}
-
     Win32Engine engine;
+    ComErrorLibraries libraries;
     ComObjectFactory objects;
-    Environment environment;
+    Environment environment{engine, libraries, objects, Locale()};
 };
 
 /// The trap around what a public class needs before its own begins.
@@ -36,10 +35,10 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     const com_ptr<IUnknown> alive(&object);
     // Until a dialog is open, windows of other dialogs on this thread are not to be worked with.
     const CodeTurn code;
-    ComErrorReporter errors;
+    Surroundings here;
     bool outcome = false;
-    ShowProcedure(class_name, errors).run([&] {
-        Surroundings here(errors);
+    ShowProcedure(class_name, here.environment.errors).run([&] {
+        here.environment.locale = system_locale();
         outcome = dialog(here.environment);
     });
     if (result) *result = outcome ? VARIANT_TRUE : VARIANT_FALSE;

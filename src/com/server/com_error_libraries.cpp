@@ -1,4 +1,4 @@
-#include "com/server/com_error_reporter.h"
+#include "com/server/com_error_libraries.h"
 
 #include "com/bstr.h"
 #include "com/com_ptr.h"
@@ -62,8 +62,7 @@ void report_to_host(ErrorLibrary library, const ErrorReport& report) {
     const ReportingNow now;
     // It may wait for the user in a box of its own: no timer of a dialog runs into it.
     const CodeTurn code;
-    const char* class_name = library == ErrorLibrary::hlxER01 ? "hlxER01.Error" : "brxError6.Error";
-    show(*create_host_object(class_name).get(), report);
+    show(*create_host_object(error_class_name(library)).get(), report);
 }
 
 void write_for_debugger(const ErrorReport& report) {
@@ -77,10 +76,13 @@ void write_for_debugger(const ErrorReport& report) {
 
 } // namespace
 
-void ComErrorReporter::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
+void ComErrorLibraries::Show(ErrorLibrary library, const ErrorReport& report,
+                             const std::function<void()>& otherwise) noexcept {
     const ThreadErrorsKept kept;
-    if (!reporting && attempt([&] { report_to_host(library, report); })) return;
+    const bool inside_a_report = reporting;
+    if (!inside_a_report && attempt([&] { report_to_host(library, report); })) return;
     attempt([&] { write_for_debugger(report); });
+    if (!inside_a_report) otherwise();
 }
 
 } // namespace brx

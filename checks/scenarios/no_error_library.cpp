@@ -1,0 +1,278 @@
+#include "adding.h"
+#include "configuring.h"
+
+// A host that does not take reports: the person is told.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+Message told(std::int32_t number, const std::string& description, const std::string& place) {
+    return {.text = "Error " + std::to_string(number) + ": " + description + "\r\n\r\n" + place,
+            .style = message::critical,
+            .title = "brxOpcDlgs6"};
+}
+
+/// Of the host's call that failed last.
+Message told_of_failure(const Play& its, const std::string& place) {
+    const std::vector<HostCall>& calls = its.host.calls.made();
+    std::size_t n = calls.size();
+    while (n > 0 && !calls[n - 1].failed) --n;
+    const std::string member = n == 0 ? "no call" : calls[n - 1].member;
+    return told(CallLog::failure_number, CallLog::failure_text(static_cast<int>(n), member), place);
+}
+
+const Message wrong_servers = told(error::type_mismatch, "Type mismatch", "ServerAdd.ResolvehlxOPCServers");
+const Message no_groups = told(error::object_not_set, "Object variable or With block variable not set",
+                               "dlgConfiguration.Timer1_Timer");
+const Message no_trigger_item =
+    told(error::subscript_out_of_range, "Subscript out of range", "dlgConfiguration.bnClose_Click");
+
+/// Chooses the server and presses OK, with a host that cannot add it.
+void fails_to_add(Play& its) {
+    its.host.calls.fail_on("hlxOPCServers.Add");
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.person.presses("bnOK");
+}
+
+/// A configuration that cannot be committed.
+void a_trigger_without_its_item(Play& its) {
+    a_filled_configuration(its);
+    its.host.configuration->fields.subgroup_trigger_item = "Gone";
+}
+
+} // namespace
+
+SCENARIO(WithoutAnErrorLibrary, AFailingOkIsToldAndTheDialogStays) {
+    its.host.has_no_error_library();
+    Adding dialog(its);
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    its.person.is_at("dlgServerAdd");
+    EXPECT_TRUE(its.host.servers->entries().empty());
+    its.host.calls.fail_on("");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, AWrongArgumentIsToldAlthoughNoDialogOpens) {
+    its.host.has_no_error_library();
+    Showing add(*its.stage, "ServerAdd");
+    add.show(nullptr);
+    its.person.answers(wrong_servers);
+    its.person.is_at("");
+    EXPECT_FALSE(add.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, WhatFailsAsADialogLoadsIsToldBeforeItOpens) {
+    its.host.has_no_error_library();
+    its.host.can_create_entries = false;
+    Showing select(*its.stage, "ServerSelect");
+    select.show(its.host.servers);
+    its.person.presses("bnServer");
+    its.person.answers(
+        told(error::cannot_create_object, "ActiveX component can't create object", "dlgServerAdd.Form_Load"));
+    its.person.is_at("dlgServerAdd");
+    its.person.presses("bnCancel");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(select.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, TheSameErrorIsToldOnceInAShowingAndAgainInTheNext) {
+    its.host.has_no_error_library();
+    Adding dialog(its);
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    its.person.presses("bnOK");
+    its.person.is_at("dlgServerAdd");
+    dialog.cancels();
+
+    dialog.add.show(its.host.servers);
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    dialog.cancels();
+}
+
+SCENARIO(WithoutAnErrorLibrary, AnotherPlaceIsToldAndSoIsAnotherErrorInTheSamePlace) {
+    its.host.has_no_error_library();
+    Adding dialog(its);
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    its.host.calls.fail_on("OPCServer.GetOPCServers()");
+    its.person.presses("cmdRefreshList");
+    its.person.answers(told_of_failure(its, "dlgServerAdd.cmdRefreshList_Click"));
+    its.host.calls.fail_on("");
+    its.host.enumerator->registered[""] = Empty{};
+    its.person.presses("cmdRefreshList");
+    its.person.answers(told(error::type_mismatch, "Type mismatch", "dlgServerAdd.cmdRefreshList_Click"));
+    its.person.presses("cmdRefreshList");
+    its.person.is_at("dlgServerAdd");
+    dialog.cancels();
+}
+
+SCENARIO(WithoutAnErrorLibrary, ADialogThatAnotherOpensBelongsToTheSameShowing) {
+    its.host.has_no_error_library();
+    Showing select(*its.stage, "ServerSelect");
+    select.show(its.host.servers);
+    its.person.presses("bnServer");
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgServerSelect");
+    its.person.presses("bnServer");
+    fails_to_add(its);
+    its.person.is_at("dlgServerAdd");
+    its.person.presses("bnCancel");
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(select.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, TheDialogBelowShowsWhatWasDoneBeforeTheFailure) {
+    its.host.has_no_error_library();
+    Adding dialog(its);
+    EXPECT_FALSE(its.person.lines_of("lstOPCServers").empty());
+    its.host.calls.fail_on("OPCServer.GetOPCServers()");
+    its.person.presses("cmdRefreshList");
+    EXPECT_EQ(its.person.screen().front(), "message");
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines());
+    its.person.answers(told_of_failure(its, "dlgServerAdd.cmdRefreshList_Click"));
+    dialog.cancels();
+}
+
+SCENARIO(WithoutAnErrorLibrary, OfItsTimersADialogTellsOnceWhateverTheyRunInto) {
+    its.host.has_no_error_library();
+    its.host.connection->groups = nullptr;
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    its.person.waits_for_ticks(1);
+    its.host.calls.fail_on("OPCServer.Bandwidth");
+    its.person.waits_for_ticks(2);
+    its.person.is_at("dlgConfiguration");
+    its.person.presses("bnClose");
+    its.person.answers(no_trigger_item);
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, ATimerTellsWhatAButtonHasNotTold) {
+    its.host.has_no_error_library();
+    its.host.connection->groups = nullptr;
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.presses("bnClose");
+    its.person.answers(no_trigger_item);
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    its.person.presses("bnClose");
+    its.person.waits_for_ticks(1);
+    its.person.is_at("dlgConfiguration");
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, TimersGoOnUnderTheMessageAndPutNoneOverIt) {
+    its.host.has_no_error_library();
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.presses("bnClose");
+    const int before = its.host.calls.count("OPCServer.Bandwidth");
+    its.host.connection->groups = nullptr;
+    its.person.waits_for_ticks(2);
+    EXPECT_EQ(its.host.calls.count("OPCServer.Bandwidth"), before + 2);
+    its.person.answers(no_trigger_item);
+    its.person.is_at("dlgConfiguration");
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, ATimerPutsNothingOverAQuestion) {
+    its.host.has_no_error_library();
+    its.host.connection->groups = nullptr;
+    Configuring dialog(its);
+    its.person.presses("bnClose");
+    its.person.waits_for_ticks(2);
+    its.person.answers({.text = "Without a Test Characteristic this Configuration will be removed.  Are you "
+                                "sure you want to continue?",
+                        .style = message::question + message::ok_cancel,
+                        .title = "No Test Exists"},
+                       message::cancel);
+    its.person.is_at("dlgConfiguration");
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, ATimersErrorIsToldOverTheDialogInFront) {
+    its.host.has_no_error_library();
+    its.host.connection->groups = nullptr;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.is_at("dlgDescriptorType");
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    its.person.is_at("dlgDescriptorType");
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, OneOfTheTwoLibrariesTakesOnlyItsOwnReports) {
+    its.host.error_classes[ErrorLibrary::hlxER01] = ErrorClass::missing;
+    its.host.connection->groups = nullptr;
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.waits_for_ticks(1);
+    its.expect_report(error::object_not_set, "dlgConfiguration.Timer1_Timer");
+    its.person.presses("bnClose");
+    its.person.answers(no_trigger_item);
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, TheOtherOneDoesSoToo) {
+    its.host.error_classes[ErrorLibrary::brxError6] = ErrorClass::missing;
+    its.host.connection->groups = nullptr;
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.presses("bnClose");
+    its.expect_report(error::subscript_out_of_range, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, AnErrorClassThatFailsIsNoBetterThanNone) {
+    its.host.error_classes[ErrorLibrary::brxError6] = ErrorClass::fails;
+    Adding dialog(its);
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    dialog.cancels();
+}
+
+SCENARIO(WithoutAnErrorLibrary, TheHostsMessageServiceTells) {
+    its.host.has_no_error_library();
+    its.host.message_service = std::make_shared<FakeMessageService>(its.host.calls);
+    Showing add(*its.stage, "ServerAdd");
+    add.show(nullptr);
+    its.person.is_at("");
+    EXPECT_EQ(its.host.message_service->shown, std::vector<Message>{wrong_servers});
+    EXPECT_FALSE(add.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, WhereTheMessageServiceFailsTooTheSystemsBoxTells) {
+    its.host.has_no_error_library();
+    its.host.message_service = std::make_shared<FakeMessageService>(its.host.calls);
+    its.host.servers->has_connected("Plant.Simulation.1");
+    its.host.calls.fail_on("hlxMessage.Show");
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.person.presses("bnOK"); // it is there already, as the service fails to tell
+    const int asked = its.host.calls.count("hlxMessage.Show");
+    EXPECT_EQ(asked, 2) << "Once for the dialog's message, once for its failure.";
+    const std::string first =
+        CallLog::failure_text(static_cast<int>(its.host.calls.made().size()) - 1, "hlxMessage.Show");
+    its.person.answers(told(CallLog::failure_number, first, "dlgServerAdd.bnOK_Click"));
+    its.person.is_at("dlgServerAdd");
+    dialog.cancels();
+}

@@ -1,0 +1,34 @@
+#include "forms/error_reports.h"
+
+#include "forms/form.h"
+#include "forms/showing.h"
+#include "forms/turn.h"
+
+#include <algorithm>
+
+namespace brx {
+
+Message error_message(const ErrorReport& report) {
+    std::string text = "Error " + std::to_string(report.number);
+    if (!report.description.empty()) text += ": " + report.description;
+    text += "\r\n\r\n" + report.location;
+    std::replace(text.begin(), text.end(), '\0', ' '); // a message box would end there
+    return {.text = std::move(text), .style = message::critical, .title = component_name};
+}
+
+void ErrorReports::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
+    attempt([&] { libraries_.Show(library, report, [&] { attempt([&] { tell(report); }); }); });
+}
+
+void ErrorReports::tell(const ErrorReport& report) {
+    Showing here; // of its own for an error that comes outside of any
+    here.tell_once(report, [&] {
+        if (Form* form = turn::top_form()) form->settle();
+        const ModalTurn waiting(nullptr);
+        const Message message = error_message(report);
+        // The host's message service may be what fails.
+        if (!attempt([&] { services_.show_message(message); })) engine_.message_box(message);
+    });
+}
+
+} // namespace brx
