@@ -1,40 +1,17 @@
-#include "configuring.h"
+#include "calls.h"
+#include "triggering.h"
 
 #include <utility>
 
-// The dialog of one trigger, which the configuration dialog opens.
+// The dialog of one trigger, which the configuration dialog opens: its fields and the item browser.
 
 using namespace brx;
 using namespace brx::checks;
 
-namespace {
-
-/// The trigger dialog of the subgroups.
-class Triggering {
-public:
-    explicit Triggering(Play& its) : its_(its), dialog_(its) {
-        dialog_.turns_to_sampling();
-        its.person.presses("cmdSubgroupTrigger");
-        its.person.is_at("dlgEvaluation");
-    }
-    /// Leaves the trigger and the configuration as they were.
-    void cancels() {
-        its_.person.presses("bnCancel");
-        its_.person.is_at("dlgConfiguration");
-        dialog_.leaves();
-    }
-    Configuring& configuration() { return dialog_; }
-
-private:
-    Play& its_;
-    Configuring dialog_;
-};
-
-} // namespace
-
 SCENARIO(TriggerDialog, EveryFieldHasItsLabelAndItsLetter) {
     a_filled_configuration(its);
     Triggering trigger(its);
+    its.person.is_at("dlgEvaluation");
     EXPECT_EQ(its.person.title(), "Set Trigger");
     EXPECT_EQ(its.person.reads("Label1"), "&A. OPC Item:");
     EXPECT_EQ(its.person.reads("Label2"), "&B. Expression");
@@ -84,14 +61,87 @@ SCENARIO(TriggerDialog, ADisconnectedServerCannotBeBrowsedAndIsReportedOnce) {
     trigger.cancels();
 }
 
-SCENARIO(TriggerDialog, WithoutAServerATypeThatCannotBeReadIsToldOnceAndWithoutAText) {
+SCENARIO(TriggerDialog, ABrowsedItemTakesTheseCallsAndNoOthers) {
     a_filled_configuration(its);
-    an_unconnected_server(its, "Plant.Simulation.1");
-    Triggering trigger(its);
-    its.host.group->items->forget_all();
+    its.host.help_service = std::make_shared<FakeHelpService>(its.host.calls);
+    its.host.group->items->answers["Version"] = 0;
+    Configuring dialog(its);
+    dialog.turns_to_sampling();
+    CallsMade calls(its);
+    calls.since_then();
+    its.person.presses("cmdSubgroupTrigger");
+    EXPECT_EQ(calls.since_then(),
+              Lines({"hlxHelp.HelpFile", "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems",
+                     "OPCItems.Count", "OPCItems.Item", "OPCItem.ItemID", "OPCItems.Item", "OPCItem.ItemID",
+                     "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems", "OPCItems.Item",
+                     "OPCItem.CanonicalDataType"}));
+    its.person.presses("bnItem");
+    Lines until_the_browser = calls.since_then();
+    until_the_browser.resize(4);
+    EXPECT_EQ(until_the_browser, Lines({"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry",
+                                        "hlxOPCServer.OPCServer", "hlxOPCConfiguration.OPCGroup"}));
+    its.person.enters("txtFullPath", "Version");
+    calls.since_then();
     its.person.presses("bnOK");
-    its.person.answers({.text = "", .style = message::exclamation, .title = "Error Getting Data Type"});
+    EXPECT_EQ(calls.since_then(),
+              Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks
+                     "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item", "OPCItem.ItemID",
+                     "OPCItems.Item", "OPCItem.ItemID", "OPCItems.AddItems", "hlxOPCConfiguration.OPCGroup",
+                     "OPCGroup.OPCItems", "OPCItems.Item", "OPCItem.CanonicalDataType"}));
+    its.person.presses("bnOK");
+    EXPECT_EQ(calls.since_then(), Lines({"hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems", "OPCItems.Item",
+                                         "OPCItem.CanonicalDataType"}));
     its.person.is_at("dlgConfiguration");
-    EXPECT_EQ(its.person.reads("txtSGEval"), "Line1.Speed = 5");
-    trigger.configuration().leaves();
+    dialog.leaves();
+}
+
+SCENARIO(TriggerDialog, ABrowsedItemThatTheGroupHasIsSelected) {
+    a_filled_configuration(its);
+    its.host.group->items->answers["Line1.Force"] = 0;
+    Triggering trigger(its);
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Force");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Force");
+    EXPECT_EQ(its.person.lines_of("cboItem"), Lines({"<None>", "Line1.Speed", "Line1.Force"}));
+    EXPECT_TRUE(its.host.group->items->added.empty());
+    trigger.cancels();
+}
+
+SCENARIO(TriggerDialog, ABrowsedItemThatCannotBeAddedChangesNothingSilently) {
+    a_filled_configuration(its);
+    its.host.group->items->claimed_errors = LongArray{{0}};
+    Triggering trigger(its);
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Odd");
+    its.person.presses("bnOK");
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
+    EXPECT_EQ(its.person.lines_of("cboItem"), Lines({"<None>", "Line1.Speed", "Line1.Force"}));
+    EXPECT_EQ(its.host.calls.count("OPCServer.GetErrorString"), 0);
+    trigger.cancels();
+}
+
+SCENARIO(TriggerDialog, ACancelledBrowserChangesNothing) {
+    a_filled_configuration(its);
+    Triggering trigger(its);
+    its.person.presses("bnItem");
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
+    EXPECT_EQ(its.person.lines_of("cboItem"), Lines({"<None>", "Line1.Speed", "Line1.Force"}));
+    trigger.cancels();
+}
+
+SCENARIO(TriggerDialog, AGroupThatIsGoneCannotBeBrowsedAndIsReportedOnce) {
+    a_filled_configuration(its);
+    Triggering trigger(its);
+    its.host.configuration->group = nullptr;
+    its.person.presses("bnItem");
+    its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCGroup");
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
+    its.host.configuration->group = its.host.group;
+    trigger.cancels();
 }

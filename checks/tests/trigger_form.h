@@ -11,15 +11,6 @@
 
 namespace brx::checks {
 
-inline const Message invalid_value = {.text = "Invalid value for this Item.  Value must be ",
-                                      .style = message::information,
-                                      .title = "Invalid Value"};
-
-/// What is told of an item whose type the server does not tell.
-inline const Message no_data_type = {.text = "The item is not known to the server.",
-                                     .style = message::exclamation,
-                                     .title = "Error Getting Data Type"};
-
 /// The trigger dialog on its own, without the configuration dialog that opens it.
 struct TriggerForm : testing::Test {
     TriggerForm() {

@@ -3,6 +3,7 @@
 #include "classes/LeafSelect.h"
 #include "common/group_items.h"
 #include "common/values/convert.h"
+#include "forms/focus.h"
 #include "forms/setup_form.h"
 
 namespace brx {
@@ -13,8 +14,8 @@ dlgEvaluation::dlgEvaluation(Environment& environment)
 
 void dlgEvaluation::set_TriggerExpression(std::int32_t expression) { expression_ = to_int16(expression); }
 
-OPCItemsPtr dlgEvaluation::items() {
-    return the(tools_.ResolveOPCGroup(the(configuration_).OPCGroup())).OPCItems();
+OPCItemsPtr dlgEvaluation::items_of(const ObjectPtr& group) {
+    return the(tools_.ResolveOPCGroup(group)).OPCItems();
 }
 
 void dlgEvaluation::Form_Load() {
@@ -33,7 +34,7 @@ void dlgEvaluation::Form_Unload() { configuration_ = nullptr; }
 void dlgEvaluation::BuildDlg() {
     trap("BuildDlg", [&] {
         cboItem.add_line(no_item);
-        for_each_item(the(items()), [&](OPCItem& item) {
+        for_each_item(the(items_of(the(configuration_).OPCGroup())), [&](OPCItem& item) {
             cboItem.add_line(item.ItemID());
             return true;
         });
@@ -94,21 +95,22 @@ void dlgEvaluation::txtItem_Click() {
 
 void dlgEvaluation::bnItem_Click() {
     trap("bnItem_Click", [&] {
+        hlxOPCConfiguration& configuration = the(configuration_);
+        const ObjectPtr server = connection_of(configuration);
+        const ObjectPtr group = configuration.OPCGroup();
         LeafSelect browser(environment());
         browser.set_ItemID(cboItem.text());
-        if (!browser.Show(connection_of(the(configuration_)), the(configuration_).OPCGroup())) return;
-        take_item(browser.ItemID());
-        CheckDataType();
+        if (!browser.Show(server, group)) return;
+        take_item(the(items_of(group)), browser.ItemID());
+        CheckDataType(server);
     });
 }
 
 /// Selects the item, which is added to the group if it is not there yet.
-void dlgEvaluation::take_item(const std::string& item_id) {
-    const OPCItemsPtr group_items = items();
-    if (!holds_item(the(group_items), item_id)) {
+void dlgEvaluation::take_item(OPCItems& items, const std::string& item_id) {
+    if (!holds_item(items, item_id)) {
         added_new_item_ = false;
-        const AddedItems added =
-            the(group_items).AddItems({{item_id}}, LongArray{{0}}, std::nullopt, std::nullopt);
+        const AddedItems added = items.AddItems({{item_id}}, LongArray{{0}}, std::nullopt, std::nullopt);
         if (added.Errors.at(1) != 0) return;
         added_new_item_ = true;
     }
@@ -118,14 +120,18 @@ void dlgEvaluation::take_item(const std::string& item_id) {
     cboItem.select(cboItem.count() - 1);
 }
 
-void dlgEvaluation::CheckDataType() {
+/// Why a type cannot be read is the text of the server that the caller has reached, or of the one that the
+/// configuration leads to now.
+void dlgEvaluation::CheckDataType(const ObjectPtr& reached_server) {
     const std::string item = cboItem.text();
     if (item.empty() || is_no_item(item)) return;
-    const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item); });
+    const auto failure = failure_of(
+        [&] { data_type_ = canonical_data_type(the(items_of(the(configuration_).OPCGroup())), item); });
     if (!failure) return;
     std::string text;
     attempt([&] {
-        text = resolve<OPCServer>(connection_of(the(configuration_)))->GetErrorString(failure->number());
+        const ObjectPtr server = reached_server ? reached_server : connection_of(the(configuration_));
+        text = resolve<OPCServer>(server)->GetErrorString(failure->number());
     });
     show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
     data_type_ = data_type::unread;
@@ -142,8 +148,10 @@ bool dlgEvaluation::GetCalculation() {
             return;
         }
         // Where the lists could not be filled, or with a code that they do not have, nothing is selected.
-        if (cboItem.selected() < 0 || cboExpression.selected() < 0) return;
-        if (cboExpression.selected() != trigger_operator::always && txtValue.text().empty()) return;
+        if (cboItem.selected() < 0) return cboItem.set_focus();
+        if (cboExpression.selected() < 0) return cboExpression.set_focus();
+        if (cboExpression.selected() != trigger_operator::always && txtValue.text().empty())
+            return hlxFocus::select_text(txtValue);
         expression_ = static_cast<std::int16_t>(cboExpression.selected());
         CheckDataType();
         usable = SetExpressions(data_type_);
@@ -180,7 +188,11 @@ bool dlgEvaluation::SetExpressions(std::int32_t type) {
     show_message({.text = "Invalid value for this Item.  Value must be ",
                   .style = message::information,
                   .title = "Invalid Value"});
-    attempt([&] { txtValue.set_focus(); });
+    // A Boolean item's operator that went back to "Always" has closed the value and is what to look at.
+    if (txtValue.can_focus())
+        hlxFocus::select_text(txtValue);
+    else
+        cboExpression.set_focus();
     return false;
 }
 

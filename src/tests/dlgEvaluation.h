@@ -70,14 +70,14 @@ private:
 
     void BuildDlg();
     void EnableValueField(bool enable);
-    void CheckDataType();
+    void CheckDataType(const ObjectPtr& reached_server = nullptr);
     bool GetCalculation();
     bool SetExpressions(std::int32_t type);
 
-    void take_item(const std::string& item_id);
+    void take_item(OPCItems& items, const std::string& item_id);
     void follow_operator();
     void note_key();
-    OPCItemsPtr items();
+    OPCItemsPtr items_of(const ObjectPtr& group);
 
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
