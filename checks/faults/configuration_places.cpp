@@ -141,7 +141,6 @@ std::vector<std::string> brx::checks::configuration_places() {
         "hlxOPCTests.Item in dlgConfiguration.lvwTest_DblClick",
         "hlxOPCTests.Parent in dlgConfiguration.lvwTest_DblClick",
         "OPCGroup.OPCItems in dlgDescriptorProperties.AddOPCItem",
-        "OPCGroup.Parent in dlgDescriptorProperties.AddOPCItem",
         "OPCItem.ItemID in dlgDescriptorProperties.AddOPCItem",
         "OPCItems.AddItems in dlgDescriptorProperties.AddOPCItem",
         "OPCItems.Count in dlgDescriptorProperties.AddOPCItem",

@@ -1,3 +1,4 @@
+#include "calls.h"
 #include "describing.h"
 
 // Which value one descriptor takes: a text, or an item of the server.
@@ -189,8 +190,29 @@ SCENARIO(DescriptorProperties, ARefusalIsToldThoughTheConnectionWentMeanwhile) {
     Describing dialog(its, {.type = 7, .item = "old", .group = ""});
     browses_a_refused_item(its, FakeOPCItems::unknown_item);
     an_unconnected_server(its, "Matrix");
+    CallsMade calls(its);
+    calls.since_then();
     its.person.presses("bnOK");
     is_told_of_the_refusal(its);
+    EXPECT_EQ(calls.since_then(), Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks first
+                                         "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.AddItems",
+                                         "OPCServer.GetErrorString"}));
+    dialog.cancels();
+}
+
+SCENARIO(DescriptorProperties, ARefusalThatTheServerHasNoTextForIsToldAndThenReported) {
+    Describing dialog(its, {.type = 7, .item = "old", .group = ""});
+    browses_a_refused_item(its, FakeOPCItems::unknown_item);
+    its.host.calls.fail_on("OPCServer.GetErrorString");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(its.host.reports.empty());
+    its.person.answers({.text = "UNABLE TO ADD ITEM!\r\n\r\n\r\n\r\nItem: Line1.Speed",
+                        .style = message::critical,
+                        .title = component_name});
+    its.expect_report(CallLog::failure_number, "dlgDescriptorProperties.AddOPCItem");
+    its.host.calls.fail_on("");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.reads("txtItem"), "old");
     dialog.cancels();
 }
 

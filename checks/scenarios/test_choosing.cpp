@@ -1,6 +1,6 @@
 #include "testing.h"
 
-// Choosing the characteristic and the item of a test.
+// A new test, and choosing its characteristic.
 
 using namespace brx;
 using namespace brx::checks;
@@ -49,32 +49,6 @@ SCENARIO(TestDialog, ANewTestGetsItsCharacteristicAndItsItem) {
     EXPECT_EQ(data.savings, (std::vector<FakeTestData::Saving>{{7, 0, 1, true}}));
 }
 
-SCENARIO(TestDialog, WritesInOneOrder) {
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_characteristic(7, "Length");
-    testing.picks_item("Line1.Speed");
-    its.person.ticks("chkItemTrigger");
-    its.person.presses("bnOK");
-    EXPECT_TRUE(testing.result());
-    std::vector<std::string> writes = testing.writes();
-    std::erase_if(writes, [](const std::string& member) { return member.starts_with("hlxRecord."); });
-    EXPECT_EQ(writes, std::vector<std::string>(
-                          {"hlxOPCTest.ItemTrigger=", "hlxOPCTest.TriggerValue=", "hlxOPCTest.ClientHandle=",
-                           "hlxOPCTest.TriggerExpression=", "hlxOPCTest.OPCItemID=", "hlxOPCTest.State=",
-                           "hlxTestData.ID=", "hlxTestData.Flag=", "hlxTestData.Mode=", "hlxTestData.Save",
-                           "hlxOPCTest.Constant=", "hlxOPCTest.SaveAs="}));
-}
-
-SCENARIO(TestDialog, WithoutATriggerNoTriggerValueIsWritten) {
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_characteristic(7, "Length");
-    testing.picks_item("Line1.Speed");
-    its.person.presses("bnOK");
-    EXPECT_TRUE(testing.result());
-    EXPECT_EQ(its.host.calls.count("hlxOPCTest.TriggerValue="), 0);
-    EXPECT_EQ(its.host.calls.count("OPCItem.CanonicalDataType"), 0);
-}
-
 SCENARIO(TestDialog, ThePickerShowsThePresentCharacteristicAndMayBeCancelled) {
     Testing testing(its, its.host.has_test(0, ""));
     testing.picks_characteristic(7, "Length");
@@ -111,128 +85,10 @@ SCENARIO(TestDialog, TheEditedTestsOwnCharacteristicIsRefusedToo) {
     its.person.presses("bnCancel");
 }
 
-SCENARIO(TestDialog, AnItemThatTheGroupHasIsNotAddedAgain) {
-    its.host.group->items->has("Line1.Speed");
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    EXPECT_EQ(its.person.reads("txtItem"), "Line1.Speed");
-    EXPECT_TRUE(its.host.group->items->added.empty());
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
-    EXPECT_TRUE(its.host.group->items->removed.empty());
-}
-
-SCENARIO(TestDialog, ItemsInOtherLetterCaseAreOthers) {
-    its.host.group->items->has("line1.speed");
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>({"line1.speed", "Line1.Speed"}));
-    its.person.presses("bnCancel");
-}
-
-SCENARIO(TestDialog, CancelTakesTheItemBackThatItAdded) {
-    its.host.group->items->has("Line2.Count");
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
-    EXPECT_EQ(its.host.group->items->removed, std::vector{LongArray{{102}}});
-    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line2.Count"});
-}
-
-SCENARIO(TestDialog, OnlyTheLastItemAddedIsTakenBack) {
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    testing.picks_item("Line1.Force");
-    its.person.presses("bnCancel");
-    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line1.Speed"});
-    EXPECT_FALSE(testing.result());
-}
-
-SCENARIO(TestDialog, AnItemThatCannotBeAddedIsToldAndForgotten) {
-    its.host.has_test(8, "Width");
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_characteristic(7, "Length");
-    testing.picks_item_that_is_refused("Line1.Speed");
-    EXPECT_EQ(its.person.reads("txtItem"), "");
-    EXPECT_FALSE(its.person.can_press("bnOK"));
-    EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
-    EXPECT_TRUE(its.host.group->items->removed.empty());
-}
-
-SCENARIO(TestDialog, AfterARefusedItemNothingIsTakenBack) {
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    testing.picks_item_that_is_refused("Line1.Force");
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
-    EXPECT_TRUE(its.host.group->items->removed.empty());
-    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line1.Speed"});
-}
-
-SCENARIO(TestDialog, AnItemThatTheGroupHasLeavesTheAddedOneToBeTakenBack) {
-    its.host.group->items->has("Line1.Force");
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
-    testing.picks_item("Line1.Force");
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
-    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>{"Line1.Force"});
-}
-
 SCENARIO(TestDialog, AnItemAloneIsNotEnough) {
     Testing testing(its, its.host.has_test(0, ""));
     testing.picks_item("Line1.Speed");
     EXPECT_FALSE(its.person.can_press("bnOK"));
     EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);
     its.person.presses("bnCancel");
-}
-
-SCENARIO(TestDialog, ADisconnectedServerIsToldAndThenNoMissingGroup) {
-    Testing testing(its, its.host.has_test(0, ""));
-    testing.loses_the_server();
-    for (const bool with_group : {true, false}) {
-        if (!with_group) its.host.configuration->group = nullptr;
-        its.person.presses("bnItem");
-        its.person.answers({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: PC9\r\n"
-                                    "Server Name: Sim",
-                            .style = message::exclamation,
-                            .title = "Server Error"});
-        its.person.is_at("dlgOPCTest");
-    }
-    its.person.presses("bnCancel");
-}
-
-SCENARIO(TestDialog, AMissingGroupIsTold) {
-    its.host.configuration->group = nullptr;
-    const Testing testing(its, its.host.has_test(0, ""));
-    its.person.presses("bnItem");
-    its.person.answers(
-        {.text = "The OPCGroup is Invalid.", .style = message::exclamation, .title = "Server Error"});
-    its.person.presses("bnCancel");
-}
-
-SCENARIO(TestDialog, TheBrowserStartsAtThePresentItemAndMayBeCancelled) {
-    const Testing testing(its, a_bound_test(its, 5));
-    its.host.browser->root.leaves = {"Version"};
-    its.person.presses("bnItem");
-    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
-    its.person.presses("bnCancel");
-    its.person.is_at("dlgOPCTest");
-    EXPECT_EQ(its.person.reads("txtItem"), "Line1.Speed");
-    its.person.presses("bnCancel");
-}
-
-SCENARIO(TestDialog, AnItemThatTheHostFailsToAddIsForgotten) {
-    Testing testing(its, a_bound_test(its, 2));
-    its.host.calls.fail_on("OPCItems.AddItems");
-    testing.picks_item("Line1.Force");
-    its.expect_report(CallLog::failure_number, "dlgOPCTest.bnItem_Click");
-    its.host.calls.fail_on("");
-    EXPECT_EQ(its.person.reads("txtItem"), "");
-    EXPECT_FALSE(its.person.can_press("bnOK"));
-    its.person.presses("bnCancel");
-    EXPECT_FALSE(testing.result());
 }

@@ -9,14 +9,15 @@ using namespace brx::checks;
 
 namespace {
 
-/// OK can be pressed, tells what is missing, and the dialog stays.
-void cannot_confirm(Play& its, Testing& testing) {
+/// OK can be pressed, tells that something is missing, and the dialog stays with the focus in its box.
+void cannot_confirm(Play& its, Testing& testing, const char* box) {
     EXPECT_TRUE(its.person.can_press("bnOK"));
     its.person.presses("bnOK");
     its.person.answers({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
                         .style = message::information,
                         .title = component_name});
     its.person.is_at("dlgOPCTest");
+    EXPECT_TRUE(its.person.has_focus(box));
     its.person.presses("bnCancel");
     EXPECT_FALSE(testing.result());
 }
@@ -62,7 +63,7 @@ SCENARIO(TestDialog, InStateTwoTheItemIsNotShown) {
     Testing testing(its, test);
     EXPECT_EQ(its.person.reads("txtItem"), "");
     EXPECT_EQ(its.person.reads("txtTest"), "Length");
-    cannot_confirm(its, testing);
+    cannot_confirm(its, testing, "txtItem");
 }
 
 SCENARIO(TestDialog, CancellingThePickerClosesOKWhileTheItemIsMissing) {
@@ -84,7 +85,7 @@ SCENARIO(TestDialog, AnItemWithoutACharacteristicIsAnInvalidSelection) {
     test->fields.characteristic = test->data->name = "";
     Testing testing(its, test);
     EXPECT_EQ(its.person.reads("txtTest"), "");
-    cannot_confirm(its, testing);
+    cannot_confirm(its, testing, "txtTest");
 }
 
 SCENARIO(TestDialog, AnItemThatOnlyTheDialogIsGivenMakesAnExistingTestToo) {

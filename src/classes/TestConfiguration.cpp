@@ -12,8 +12,9 @@ bool TestConfiguration::Show(const ObjectPtr& hlxOPCTest) {
         if (!test) return;
         form.set_test(test);
         form.set_database(tools_.database_of(the(test->Parent()).Parent()));
-        form.set_TestOPCItemID(test->State() == test_state::item_not_shown ? std::string()
-                                                                           : test->ItemText());
+        const std::int32_t state = test->State();
+        form.set_TestState(state);
+        form.set_TestOPCItemID(state == test_state::item_not_shown ? std::string() : test->ItemText());
         form.show_modal();
         confirmed = form.OKPressed();
     });

@@ -3,6 +3,7 @@
 #include "common/model/opc_automation.h"
 
 #include <cstdint>
+#include <exception>
 #include <string>
 
 namespace brx {
@@ -31,9 +32,19 @@ inline std::int16_t canonical_data_type(OPCItems& items, const std::string& item
     return the(items.Item(item_id)).CanonicalDataType();
 }
 
-/// What a person is told when the server refuses an item.
-inline std::string refusal_text(const std::string& error_string, const std::string& item_id) {
-    return "UNABLE TO ADD ITEM!\r\n\r\n" + error_string + "\r\n\r\nItem: " + item_id;
+/// Tells that this server refuses an item, in its own words for the error. Where it fails to give them, the
+/// refusal is told without, and its failure goes on from here.
+template <class Tell>
+void tell_refusal(const ObjectPtr& server, std::int32_t error, const std::string& item_id, Tell&& tell) {
+    std::string why;
+    std::exception_ptr failure;
+    try {
+        why = resolve<OPCServer>(server)->GetErrorString(error);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    tell("UNABLE TO ADD ITEM!\r\n\r\n" + why + "\r\n\r\nItem: " + item_id);
+    if (failure) std::rethrow_exception(failure);
 }
 
 } // namespace brx

@@ -3,6 +3,8 @@
 #include "common/trap.h"
 
 #include <functional>
+#include <optional>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -18,14 +20,20 @@ public:
         for (auto each = undo_.rbegin(); each != undo_.rend(); ++each) attempt(*each);
     }
 
+    /// Writes the value over the former one. Where that is not known, the new one stays whatever happens.
+    template <class Object, class Value>
+    void replace(Object& object, void (Object::*set)(Value),
+                 const std::optional<std::remove_cvref_t<Value>>& former,
+                 const std::remove_cvref_t<Value>& value) {
+        if (former) undo_.push_back([&object, set, former = *former] { (object.*set)(former); });
+        (object.*set)(value);
+    }
     /// Reads the former value and writes the new one.
     template <class Object, class Get, class Set, class Value>
     void write(Object& object, Get get, Set set, const Value& value) {
         undo_.push_back([&object, set, former = (object.*get)()] { (object.*set)(former); });
         (object.*set)(value);
     }
-    /// Runs after everything that is written from now on has been written back.
-    void after_undo(std::function<void()> step) { undo_.push_back(std::move(step)); }
     void keep() { undo_.clear(); }
 
 private:

@@ -91,14 +91,15 @@ void dlgDescriptorProperties::SelectOPCItem(std::string& item_id, bool& ok) {
         if (!browser.Show(server, group)) return;
         const std::string chosen = browser.ItemID();
         bool added = false;
-        AddOPCItem(group, chosen, added);
+        AddOPCItem(server, group, chosen, added);
         if (!added) return;
         item_id = chosen;
         ok = true;
     });
 }
 
-void dlgDescriptorProperties::AddOPCItem(const OPCGroupPtr& group, const std::string& item_id, bool& ok) {
+void dlgDescriptorProperties::AddOPCItem(const ObjectPtr& server, const OPCGroupPtr& group,
+                                         const std::string& item_id, bool& ok) {
     trap("AddOPCItem", [&] {
         ok = false;
         const OPCItemsPtr items = the(group).OPCItems();
@@ -107,9 +108,9 @@ void dlgDescriptorProperties::AddOPCItem(const OPCGroupPtr& group, const std::st
                 items->AddItems({{item_id}}, LongArray{{0}}, ShortArray{{0}}, std::nullopt);
             const std::int32_t error = added.Errors.at(1);
             if (error != 0) {
-                // The group leads to its server even when the configuration has lost its connection.
-                const std::string why = the(group->Parent()).GetErrorString(error);
-                show_message({.text = refusal_text(why, item_id), .style = message::critical});
+                tell_refusal(server, error, item_id, [&](const std::string& text) {
+                    show_message({.text = text, .style = message::critical});
+                });
                 return;
             }
         }

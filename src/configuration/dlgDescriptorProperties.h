@@ -62,7 +62,7 @@ private:
 
     void ParceItem(const std::string& text, std::string& result);
     void SelectOPCItem(std::string& item_id, bool& ok);
-    void AddOPCItem(const OPCGroupPtr& group, const std::string& item_id, bool& ok);
+    void AddOPCItem(const ObjectPtr& server, const OPCGroupPtr& group, const std::string& item_id, bool& ok);
 
     void SelectPart();
     void SelectProcess();

@@ -21,8 +21,8 @@ hlxOPCConfigurationPtr dlgOPCTest::configuration() { return the(the(test_).Paren
 
 ObjectPtr dlgOPCTest::server() { return connection_of(the(configuration())); }
 
-OPCItemsPtr dlgOPCTest::items() {
-    return the(tools_.ResolveOPCGroup(the(configuration()).OPCGroup())).OPCItems();
+OPCItemsPtr dlgOPCTest::items_of(const ObjectPtr& group) {
+    return the(tools_.ResolveOPCGroup(group)).OPCItems();
 }
 
 void dlgOPCTest::Form_Load() {
@@ -30,6 +30,7 @@ void dlgOPCTest::Form_Load() {
         ok_pressed_ = false;
         edit_mode_ = test_chosen_ = added_new_item_ = false;
         all_read_ = true;
+        former_ = {};
         server_handles_ = LongArray{{0}};
         fill_operators(cboExpression);
         cboExpression.select(trigger_operator::always);
@@ -43,7 +44,11 @@ void dlgOPCTest::Form_Load() {
         ShowEvalType(0);
         const std::string bound = the(test_).OPCItemID();
         edit_mode_ = !item_id_.empty() || !bound.empty();
-        if (edit_mode_) EditSet();
+        if (edit_mode_) {
+            former_.item_id = bound;
+            former_.state = state_;
+            EditSet();
+        }
         SetupForm(*this, 194);
     });
 }
@@ -64,20 +69,27 @@ void dlgOPCTest::EditSet() {
             if (!unfit) unfit = failure;
         };
         all_read_ = false;
-        client_handle_ = test.ClientHandle();
+        former_.client_handle = client_handle_ = test.ClientHandle();
         test_name_ = test.CharacteristicName();
         txtTest.set_text(test_name_);
         txtItem.set_text(item_id_);
-        chkItemTrigger.set_value(test.ItemTrigger() ? 1 : 0);
-        txtConstant.set_text(to_text(test.Constant(), environment().locale));
+        const bool trigger = test.ItemTrigger();
+        former_.item_trigger = trigger;
+        chkItemTrigger.set_value(trigger ? 1 : 0);
+        const double constant = test.Constant();
+        former_.constant = constant;
+        txtConstant.set_text(to_text(constant, environment().locale));
         const std::int16_t save_as = test.SaveAs();
+        former_.save_as = save_as;
         fit([&] { cboSaveAs.select(save_as); });
         if (chkItemTrigger.value() == 1) {
             GetItemDataType();
             ShowEvalType(chkItemTrigger.value());
             const std::int16_t expression = test.TriggerExpression();
+            former_.trigger_expression = expression;
             fit([&] { cboExpression.select(expression); });
             value_ = test.TriggerValue();
+            former_.trigger_value = value_;
             fit([&] { txtValue.set_text(to_text(value_, environment().locale)); });
         }
         all_read_ = true;
@@ -152,11 +164,13 @@ void dlgOPCTest::bnItem_Click() {
     trap("bnItem_Click", [&] {
         const hlxOPCConfigurationPtr around = configuration();
         const hlxOPCServerPtr entry = the(the(around).Server()).ServerEntry();
-        const ObjectPtr server_object = the(entry).OPCServer();
+        const ObjectPtr server = the(entry).OPCServer();
         const ObjectPtr group = around->OPCGroup();
-        if (!server_object) {
-            show_message({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: " +
-                                  entry->Node() + "\r\nServer Name: " + entry->ServerName(),
+        if (!server) {
+            const std::string node = entry->Node();
+            const std::string name = entry->ServerName();
+            show_message({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: " + node +
+                                  "\r\nServer Name: " + name,
                           .style = message::exclamation,
                           .title = "Server Error"});
             return;
@@ -168,28 +182,29 @@ void dlgOPCTest::bnItem_Click() {
         }
         LeafSelect browser(environment());
         browser.set_ItemID(txtItem.text());
-        if (!browser.Show(server_object, group)) return;
-        const OPCItemsPtr group_items = items();
+        if (!browser.Show(server, group)) return;
+        const OPCItemsPtr group_items = items_of(group);
         const bool already_there = holds_item(the(group_items), browser.ItemID());
         item_id_ = browser.ItemID();
         txtItem.set_text(item_id_);
-        if (!already_there) take_item(*group_items, item_id_);
+        if (!already_there) take_item(*group_items, server);
         allow_confirming();
     });
 }
 
 /// Adds the item to the group. One that cannot be added is not kept as the test's.
-void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
+void dlgOPCTest::take_item(OPCItems& items, const ObjectPtr& server) {
     const auto forget_item = [&] {
         txtItem.set_text("");
         item_id_.clear();
         allow_confirming();
     };
     try {
+        const StringArray ids{{item_id_}};
         const ShortArray types{{0}};
         const StringArray paths{{""}};
-        items.Validate({{item_id}}, types, paths);
-        const AddedItems added = items.AddItems({{item_id}}, LongArray{{test_id_}}, types, paths);
+        items.Validate(ids, types, paths);
+        const AddedItems added = items.AddItems(ids, LongArray{{test_id_}}, types, paths);
         const std::int32_t error = added.Errors.at(1);
         if (error == 0) {
             server_handles_ = LongArray{{added.ServerHandles.at(1)}};
@@ -197,10 +212,11 @@ void dlgOPCTest::take_item(OPCItems& items, const std::string& item_id) {
             added_new_item_ = true;
             return;
         }
-        show_message({.text = refusal_text(resolve<OPCServer>(server())->GetErrorString(error), item_id),
-                      .style = message::critical});
         server_handles_ = LongArray{{0}};
         added_new_item_ = false;
+        tell_refusal(server, error, item_id_, [&](const std::string& text) {
+            show_message({.text = text, .style = message::critical});
+        });
     } catch (...) {
         forget_item();
         throw;
@@ -225,10 +241,13 @@ void dlgOPCTest::bnCancel_Click() {
 }
 
 /// A handle goes back to the server once: after a failure nobody knows whether it is still good, and a stale
-/// one can bring the server down.
+/// one can bring the server down. An item whose group cannot be reached waits for the next time.
 void dlgOPCTest::drop_added_item() {
-    const LongArray handles = std::exchange(server_handles_, LongArray{{0}});
-    if (std::exchange(added_new_item_, false) && handles.at(1) != 0) the(items()).Remove(handles);
+    if (!added_new_item_ || server_handles_.at(1) == 0) return;
+    const OPCItemsPtr group_items = items_of(the(configuration()).OPCGroup());
+    OPCItems& reached = the(group_items);
+    added_new_item_ = false;
+    reached.Remove(std::exchange(server_handles_, LongArray{{0}}));
 }
 
 } // namespace brx

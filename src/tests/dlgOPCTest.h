@@ -10,6 +10,7 @@
 #include "tests/operators.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace brx {
@@ -22,6 +23,8 @@ public:
     /// The test to edit.
     const hlxOPCTestPtr& test() const { return test_; }
     void set_test(const hlxOPCTestPtr& test) { test_ = test; }
+    /// The state that the test is in, to go back to.
+    void set_TestState(std::int32_t state) { state_ = state; }
     /// Where the host keeps its characteristics.
     void set_database(const hlxDatabasePtr& database) { database_ = database; }
 
@@ -103,15 +106,30 @@ private:
     bool is_duplicate(std::int32_t id);
     void allow_confirming();
     void follow_operator();
-    void take_item(OPCItems& items, const std::string& item_id);
+    void take_item(OPCItems& items, const ObjectPtr& server);
     void drop_added_item();
+    double entered_constant();
     void write_test(double constant);
+    void write_characteristic(hlxTestData& data);
     hlxOPCConfigurationPtr configuration();
     ObjectPtr server();
-    OPCItemsPtr items();
+    OPCItemsPtr items_of(const ObjectPtr& group);
+
+    /// What a test that exists held when it was read. None of it is known of a new one.
+    struct Former {
+        std::optional<bool> item_trigger;
+        std::optional<Variant> trigger_value;
+        std::optional<std::int32_t> client_handle;
+        std::optional<std::int16_t> trigger_expression;
+        std::optional<std::string> item_id;
+        std::optional<std::int32_t> state;
+        std::optional<double> constant;
+        std::optional<std::int16_t> save_as;
+    };
 
     CommonTools tools_;
     hlxOPCTestPtr test_;
+    std::optional<std::int32_t> state_;
     hlxDatabasePtr database_;
     bool ok_pressed_ = false;
     std::int32_t test_id_ = 0;
@@ -125,6 +143,7 @@ private:
     std::int32_t client_handle_ = 0;
     bool edit_mode_ = false;
     bool all_read_ = false; ///< the host told everything that OK writes again
+    Former former_;
     bool test_chosen_ = false;
     bool added_new_item_ = false;
     std::int32_t data_type_ = 0;

@@ -1,6 +1,7 @@
 #include "common/group_items.h"
 #include "common/values/convert.h"
 #include "common/write_back.h"
+#include "forms/focus.h"
 #include "tests/dlgOPCTest.h"
 
 // How the test dialog checks what was entered and writes it into the test.
@@ -51,7 +52,7 @@ void dlgOPCTest::bnOK_Click() {
         if (item_id_.empty() || test_name_.empty()) {
             show_message({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
                           .style = message::information});
-            return;
+            return hlxFocus::select_text(test_name_.empty() ? txtTest : txtItem);
         }
         item_trigger_ = chkItemTrigger.value() == 1;
         if (item_trigger_) GetItemDataType();
@@ -62,7 +63,8 @@ void dlgOPCTest::bnOK_Click() {
 }
 
 void dlgOPCTest::GetItemDataType() {
-    const auto failure = failure_of([&] { data_type_ = canonical_data_type(the(items()), item_id_); });
+    const auto failure = failure_of(
+        [&] { data_type_ = canonical_data_type(the(items_of(the(configuration()).OPCGroup())), item_id_); });
     if (!failure) return;
     std::string text;
     attempt([&] { text = resolve<OPCServer>(server())->GetErrorString(failure->number()); });
@@ -129,54 +131,57 @@ bool dlgOPCTest::TestChoices() {
             show_message({.text = "A Value must be entered to continue!",
                           .style = message::information,
                           .title = "Value Error"});
-            return;
+            return hlxFocus::select_text(txtValue);
         } else {
             StoreTriggerExpression();
         }
         if (txtConstant.back_color() == color::red) {
             show_message({.text = "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value.",
                           .style = message::critical});
-            return;
+            return hlxFocus::select_text(txtConstant);
         }
         // Before anything is written: a text that is no number must not leave half of the test changed.
-        const std::string constant = txtConstant.text();
-        write_test(constant.empty() ? 0.0 : to_double(constant, environment().locale));
+        write_test(entered_constant());
         written = true;
     });
     return written;
 }
 
-/// Everything, or nothing when the host fails half-way.
+/// The person is led to a constant that is no number.
+double dlgOPCTest::entered_constant() {
+    const std::string& text = txtConstant.text();
+    try {
+        return text.empty() ? 0.0 : to_double(text, environment().locale);
+    } catch (...) {
+        hlxFocus::select_text(txtConstant);
+        throw;
+    }
+}
+
+/// When the host fails half-way, a test that existed gets back what it held when the dialog read it; a new
+/// one is its owner's to remove. The trigger's operator and value are read of a test with a trigger only: one
+/// without has no use for what was written there. The record's characteristic is never read.
 void dlgOPCTest::write_test(double constant) {
     hlxOPCTest& test = the(test_);
-    const hlxTestDataPtr data = test_chosen_ ? ResolveTestDat(test.TestData()) : nullptr;
-    if (test_chosen_ && !data) throw Error(error::object_not_set);
-    const auto save = [&] {
-        data->set_Flag(0);
-        data->set_Mode(1);
-        data->Save(database_);
-    };
     WriteBack writes;
-    writes.write(test, &hlxOPCTest::ItemTrigger, &hlxOPCTest::set_ItemTrigger, item_trigger_);
-    if (item_trigger_) writes.write(test, &hlxOPCTest::TriggerValue, &hlxOPCTest::set_TriggerValue, value_);
-    writes.write(test, &hlxOPCTest::ClientHandle, &hlxOPCTest::set_ClientHandle, client_handle_);
-    writes.write(test, &hlxOPCTest::TriggerExpression, &hlxOPCTest::set_TriggerExpression, expression_);
-    writes.write(test, &hlxOPCTest::OPCItemID, &hlxOPCTest::set_OPCItemID, item_id_);
-    writes.write(test, &hlxOPCTest::State, &hlxOPCTest::set_State, test_state::edited);
-    bool saved = false;
-    if (data) {
-        // A record without an identifier was never saved before.
-        writes.after_undo([&, former = data->ID()] {
-            if (saved && former != 0) save();
-        });
-        writes.write(*data, &hlxTestData::ID, &hlxTestData::set_ID, test_id_);
-        saved = true;
-        save();
-    }
-    writes.write(test, &hlxOPCTest::Constant, &hlxOPCTest::set_Constant, constant);
-    writes.write(test, &hlxOPCTest::SaveAs, &hlxOPCTest::set_SaveAs,
-                 static_cast<std::int16_t>(cboSaveAs.selected()));
+    writes.replace(test, &hlxOPCTest::set_ItemTrigger, former_.item_trigger, item_trigger_);
+    if (item_trigger_) writes.replace(test, &hlxOPCTest::set_TriggerValue, former_.trigger_value, value_);
+    writes.replace(test, &hlxOPCTest::set_ClientHandle, former_.client_handle, client_handle_);
+    writes.replace(test, &hlxOPCTest::set_TriggerExpression, former_.trigger_expression, expression_);
+    writes.replace(test, &hlxOPCTest::set_OPCItemID, former_.item_id, item_id_);
+    writes.replace(test, &hlxOPCTest::set_State, former_.state, test_state::edited);
+    if (test_chosen_) write_characteristic(the(ResolveTestDat(test.TestData())));
+    writes.replace(test, &hlxOPCTest::set_Constant, former_.constant, constant);
+    writes.replace(test, &hlxOPCTest::set_SaveAs, former_.save_as,
+                   static_cast<std::int16_t>(cboSaveAs.selected()));
     writes.keep();
+}
+
+void dlgOPCTest::write_characteristic(hlxTestData& data) {
+    data.set_ID(test_id_);
+    data.set_Flag(0);
+    data.set_Mode(1);
+    data.Save(database_);
 }
 
 } // namespace brx

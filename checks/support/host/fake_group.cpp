@@ -64,6 +64,7 @@ AddedItems FakeOPCItems::AddItems(const StringArray& item_ids, const LongArray& 
         result.Errors.elements.push_back(error_of(id));
         result.ServerHandles.elements.push_back(error_of(id) == 0 ? has(id) : 0);
     }
+    if (claimed_handles) result.ServerHandles = *claimed_handles;
     return result;
 }
 

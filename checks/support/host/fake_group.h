@@ -65,6 +65,8 @@ public:
     std::map<std::string, std::int16_t> data_types;
     /// What Validate answers instead: an array of whatever shape.
     std::optional<LongArray> claimed_errors;
+    /// The handles that AddItems gives instead.
+    std::optional<LongArray> claimed_handles;
     std::vector<Validation> validations;
     /// What was handed to AddItems and Remove.
     std::vector<StringArray> added;
