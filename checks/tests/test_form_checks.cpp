@@ -80,6 +80,8 @@ TEST_F(TestForm, ARedBackgroundRefusesTheConstant) {
                                   .style = message::critical};
         EXPECT_EQ(messages, std::vector{expected});
         EXPECT_TRUE(form.loaded());
+        EXPECT_EQ(form.focused(), &constant());
+        EXPECT_TRUE(constant().all_selected());
     });
     EXPECT_FALSE(form.OKPressed());
     EXPECT_EQ(host.calls.count("hlxOPCTest.State="), 0);
@@ -142,6 +144,46 @@ TEST_F(TestForm, CancelRemovesTheAddedItemAndEmptiesEveryProperty) {
     EXPECT_EQ(form.TestGroupID(), 0);
     EXPECT_EQ(form.TestGroupName(), "");
     EXPECT_EQ(form.TestOPCItemID(), "");
+}
+
+TEST_F(TestForm, EachShowingStartsAfresh) {
+    host.picker->picks = std::make_shared<FakeTestData>(host.calls, 8, 2, "Width");
+    while_open([&] {
+        press("bnItem");
+        press("bnTest");
+        press("bnOK");
+    });
+    EXPECT_TRUE(form.OKPressed());
+    EXPECT_EQ(test->data->savings.size(), 1U);
+    form.set_test(test);
+    while_open([&] {
+        EXPECT_FALSE(form.OKPressed());
+        EXPECT_TRUE(form.user_close());
+    });
+    EXPECT_FALSE(form.OKPressed());
+    form.set_test(test);
+    while_open([&] { press("bnOK"); });
+    EXPECT_TRUE(form.OKPressed());
+    EXPECT_EQ(test->data->savings.size(), 1U);
+    form.set_test(test);
+    while_open([&] { press("bnCancel"); });
+    EXPECT_TRUE(host.group->items->removed.empty());
+}
+
+TEST_F(TestForm, WhatOneTestHeldIsNotWrittenIntoTheNext) {
+    while_open([&] { EXPECT_TRUE(form.user_close()); });
+    const auto next = host.has_test(0, "");
+    form.set_test(next);
+    form.set_TestOPCItemID("");
+    host.picker->picks = std::make_shared<FakeTestData>(host.calls, 8, 2, "Width");
+    while_open([&] {
+        press("bnTest");
+        press("bnItem");
+        host.calls.fail_on("hlxOPCTest.SaveAs=");
+        press("bnOK");
+    });
+    ASSERT_EQ(host.reports.size(), 1U);
+    EXPECT_EQ(next->fields.item_id, "Line1.Force");
 }
 
 TEST_F(TestForm, HasItsHelpTopicAndItsFont) {
