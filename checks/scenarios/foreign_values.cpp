@@ -1,3 +1,4 @@
+#include "adding.h"
 #include "testing.h"
 
 #include "com/failure.h"
@@ -5,7 +6,7 @@
 
 #include <oleauto.h>
 
-// Trigger values of kinds that hosts have and the dialogs do not know.
+// Values of kinds that hosts have and the dialogs do not know.
 
 using namespace brx;
 using namespace brx::checks;
@@ -43,4 +44,24 @@ SCENARIO(TestDialog, A64BitIntegerHasItsText) {
     V_VT(&number) = VT_I8;
     V_I8(&number) = -5'000'000'000;
     shows_and_stores_the_text(its, number, "-5000000000");
+}
+
+SCENARIO(AddingAServer, ServersToldInVariantsAreListed) {
+    OwnedSafeArray found;
+    *found.out() = SafeArrayCreateVector(VT_VARIANT, 1, 2);
+    LONG position = 0;
+    for (const char* name : {"Sim", "Sim.2"}) {
+        const OwnedVariant text{Variant(std::string(name))};
+        ++position;
+        check(SafeArrayPutElement(found.get(), &position, const_cast<VARIANT*>(&text.get())));
+    }
+    const OwnedVariant answer(std::move(found));
+    for (const char* node : {"", "PC7"}) its.host.enumerator->registered[node] = value_of(answer.get());
+    Adding dialog(its);
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), (Lines{"Sim", "Sim.2"}));
+    dialog.lists_node("PC7");
+    its.person.picks("lstOPCServers", "Sim.2");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(its.host.servers->additions(), (std::vector<Addition>{{"Sim.2", "PC7", true}}));
 }

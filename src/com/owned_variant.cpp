@@ -148,4 +148,22 @@ Variant value_of(const VARIANT& variant) {
     return opaque(variant);
 }
 
+std::optional<StringArray> texts_in(const VARIANT& variant) {
+    const OwnedVariant own = OwnedVariant::copy(variant);
+    SAFEARRAY* const array = V_ISARRAY(&own.get()) ? V_ARRAY(&own.get()) : nullptr;
+    if (!is_vector_of(array, VT_VARIANT)) return std::nullopt;
+    StringArray texts;
+    texts.lower_bound = array->rgsabound[0].lLbound;
+    for (ULONG n = 0; n < array->rgsabound[0].cElements; ++n) {
+        LONG index = texts.lower_bound + static_cast<LONG>(n);
+        OwnedVariant element;
+        check(SafeArrayGetElement(array, &index, element.out()));
+        const Variant value = value_of(element.get());
+        const auto* const text = std::get_if<std::string>(&value);
+        if (!text) return std::nullopt;
+        texts.elements.push_back(*text);
+    }
+    return texts;
+}
+
 } // namespace brx

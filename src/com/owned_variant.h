@@ -7,6 +7,8 @@
 
 #include <oleauto.h>
 
+#include <optional>
+
 namespace brx {
 
 /// Owns an automation variant.
@@ -34,5 +36,9 @@ private:
 /// The value of an automation variant, whatever its kind, references followed. A kind that Variant does not
 /// know becomes Opaque, which turns into the same automation variant again.
 Variant value_of(const VARIANT& variant);
+
+/// The texts of an array of variants that hold nothing else, as scripts make them; none for any other
+/// variant.
+std::optional<StringArray> texts_in(const VARIANT& variant);
 
 } // namespace brx

@@ -29,7 +29,11 @@ public:
     std::int32_t Bandwidth() override { return get<std::int32_t>(&Interface::get_Bandwidth); }
     OPCGroupsPtr OPCGroups() override { return get<OPCGroupsPtr>(&Interface::get_OPCGroups); }
     Variant GetOPCServers(const std::optional<std::string>& node) override {
-        return get<Variant>(&Interface::GetOPCServers, node ? Variant(*node) : Variant(Missing{}));
+        const OwnedVariant asked(node ? Variant(*node) : Variant(Missing{}));
+        OwnedVariant found;
+        require(original()->GetOPCServers(asked.get(), found.out()));
+        if (std::optional<StringArray> texts = texts_in(found.get())) return *std::move(texts);
+        return value_of(found.get());
     }
     OPCBrowserPtr CreateBrowser() override { return get<OPCBrowserPtr>(&Interface::CreateBrowser); }
     std::string GetErrorString(std::int32_t error_code) override {

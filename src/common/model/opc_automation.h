@@ -48,8 +48,8 @@ public:
     /// Percent; -1 when the server does not know.
     virtual std::int32_t Bandwidth() = 0;
     virtual OPCGroupsPtr OPCGroups() = 0;
-    /// The program identifiers registered on `node`, normally as a StringArray from 1; the local computer
-    /// when the argument is omitted. Whatever else a server answers is handed on as it is.
+    /// The program identifiers registered on `node`, normally as a StringArray from 1, also where they came
+    /// in variants; the local computer without the argument. Any other answer is handed on as it is.
     virtual Variant GetOPCServers(const std::optional<std::string>& node) = 0;
     /// A new browser; fails on a server that cannot browse.
     virtual OPCBrowserPtr CreateBrowser() = 0;
