@@ -143,7 +143,22 @@ SCENARIO(AddingAServer, TheWaitingLineAndTheHourglassShowWhileANodeIsAsked) {
     EXPECT_TRUE(hourglass);
     EXPECT_FALSE(its.stage->screen().hourglass());
     EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines{"Sim"});
+    its.person.presses("cmdRefreshList");
+    EXPECT_EQ(meanwhile, (Lines{"Connecting to OPC Server: PC7...  PLEASE WAIT..."}));
     its.host.enumerator->while_enumerating = [] {};
+    dialog.cancels();
+}
+
+SCENARIO(AddingAServer, AServerThatIsGoneAfterARefreshCannotBeConfirmed) {
+    its.host.servers_on("PC7", {"Sim"});
+    Adding dialog(its);
+    dialog.lists_node("PC7");
+    its.person.picks("lstOPCServers", "Sim");
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    its.host.servers_on("PC7", {});
+    its.person.presses("cmdRefreshList");
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), nothing_found);
+    EXPECT_FALSE(its.person.can_press("bnOK"));
     dialog.cancels();
 }
 

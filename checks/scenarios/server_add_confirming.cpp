@@ -48,6 +48,87 @@ SCENARIO(AddingAServer, AnEntryWithoutAConnectionIsNoDuplicate) {
     EXPECT_EQ(dialog.add.ServerIndex(), 2);
 }
 
+SCENARIO(AddingAServer, AnEntryThatCannotTellItsNameIsReportedAndPassedOver) {
+    its.host.servers->has_connected("Matrix");
+    its.host.servers->has_connected("Plant.Simulation.1");
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Plant.Simulation.1");
+    its.host.calls.fail_at(4); // the name, after the count, the first entry and its connection
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgServerAdd.NotInColl");
+    its.person.answers(already_there);
+    its.host.calls.fail_on("OPCServer.ServerName");
+    its.person.presses("bnOK");
+    for (int entry = 0; entry < 2; ++entry)
+        its.expect_report(CallLog::failure_number, "dlgServerAdd.NotInColl");
+    EXPECT_TRUE(dialog.add.result()) << "Nobody knows that it is there already.";
+    EXPECT_EQ(dialog.add.ServerIndex(), 3);
+}
+
+SCENARIO(AddingAServer, EntriesThatAreNoServersAreReportedAndPassedOver) {
+    its.host.servers->has_connected("Matrix")->connection = std::make_shared<FakeOPCGroup>(its.host.calls);
+    its.host.servers->claims_count(2);
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    its.expect_report(error::type_mismatch, "dlgServerAdd.NotInColl");
+    its.expect_report(error::subscript_out_of_range, "dlgServerAdd.NotInColl");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(its.host.servers->additions(), (std::vector<Addition>{{"Line.Server.2", "", true}}));
+}
+
+SCENARIO(AddingAServer, TheIndexIsTheCountRightAfterTheServerWasAdded) {
+    its.host.servers->has("Matrix");
+    its.host.servers->after_adding = [&] { its.host.servers->has("Somebody.Elses"); };
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 3);
+    Lines calls = its.host.calls.members();
+    calls.erase(calls.begin(), calls.end() - 2);
+    EXPECT_EQ(calls, (Lines{"hlxOPCServers.Add", "hlxOPCServers.Count"}));
+}
+
+SCENARIO(AddingAServer, AServerThatCannotBeCountedIsAddedAllTheSame) {
+    its.host.servers->has("Matrix");
+    its.host.servers->after_adding = [&] { its.host.calls.fail_on("hlxOPCServers.Count"); };
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgServerAdd.ConnectServer");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 2);
+}
+
+SCENARIO(AddingAServer, APositionThatNoIndexHoldsIsReportedAndTheServerIsThere) {
+    its.host.servers->after_adding = [&] { its.host.servers->claims_count(32768); };
+    Showing add(*its.stage, "ServerAdd");
+    add.set_ServerIndex(5);
+    add.show(its.host.servers);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    its.expect_report(error::overflow, "dlgServerAdd.ConnectServer");
+    its.person.is_at("dlgServerAdd");
+    EXPECT_EQ(its.host.servers->additions().size(), 1U);
+    its.host.servers->claims_count(-1);
+    its.person.presses("bnOK");
+    its.person.answers(already_there);
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(add.result());
+    EXPECT_EQ(add.ServerIndex(), 5);
+    EXPECT_EQ(its.host.servers->additions().size(), 1U);
+}
+
+SCENARIO(AddingAServer, TheLargestIndexIsHandedBack) {
+    its.host.servers->after_adding = [&] { its.host.servers->claims_count(32767); };
+    Adding dialog(its);
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(dialog.add.result());
+    EXPECT_EQ(dialog.add.ServerIndex(), 32767);
+}
+
 SCENARIO(AddingAServer, AFailedConnectionIsToldAndTheDialogStays) {
     its.host.servers->refuses("Class not registered");
     its.host.servers_on("PC7", {"Sim"});

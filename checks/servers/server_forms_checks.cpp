@@ -96,11 +96,37 @@ TEST_F(ServerForms, AnEarlierOkDoesNotOutliveItsShowing) {
     EXPECT_FALSE(add.OKPressed());
 }
 
+TEST_F(ServerForms, AddTakesWhatItsCallerSays) {
+    dlgServerAdd add(environment);
+    add.set_OKPressed(true);
+    add.set_ServerName("Sim");
+    add.set_Node("PC7");
+    EXPECT_TRUE(add.OKPressed());
+    EXPECT_EQ(add.ServerName(), "Sim");
+    EXPECT_EQ(add.Node(), "PC7");
+    EXPECT_EQ(add.added_server_index(), 0);
+}
+
+TEST_F(ServerForms, ANodeOfAnEarlierShowingIsNewAgain) {
+    host.servers_on("PC7", {"Sim"});
+    dlgServerAdd add(environment);
+    for (int showing = 0; showing < 2; ++showing) {
+        add.set_servers(host.servers);
+        engine.while_open = [&](Form& form) {
+            EXPECT_EQ(find<ListBox>(form, "lstOPCServers")->count(), 2);
+            find<TextBox>(form, "txtNode")->user_text("PC7");
+            EXPECT_EQ(find<ListBox>(form, "lstOPCServers")->count(), 0);
+        };
+        add.show_modal();
+    }
+}
+
 TEST_F(ServerForms, AddLeavesTheFocusWhereItWasWhenOkSucceeds) {
     dlgServerAdd add(environment);
     add.set_servers(host.servers);
     engine.while_open = [&](Form& form) {
         auto* list = find<ListBox>(form, "lstOPCServers");
+        host.servers->after_adding = [&] { find<Button>(form, "bnCancel")->set_focus(); };
         list->user_focus();
         list->user_select(0);
         list->user_double_click();

@@ -113,23 +113,25 @@ void dlgServerAdd::lstOPCServers_DblClick() {
     trap("lstOPCServers_DblClick", [&] { bnOK_Click(); });
 }
 
+/// An entry that cannot tell what it is connected to is reported, and is no reason to add nothing at all.
 std::optional<bool> dlgServerAdd::NotInColl(const hlxOPCServersPtr& servers) {
     std::optional<bool> is_new;
     trap("NotInColl", [&] {
         const std::string node = trim(txtNode.text());
-        const std::int32_t count = the(servers).Count();
-        for (std::int32_t i = 1; i <= count; ++i) {
-            const ObjectPtr connected = the(the(servers).Item(i)).OPCServer();
-            if (!connected) continue;
-            const OPCServerPtr server = resolve<OPCServer>(connected);
-            if (!equal_ignoring_case(server->ServerName(), server_name_)) continue;
-            if (!equal_ignoring_case(server->ServerNode(), node)) continue;
-            is_new = false;
-            return;
-        }
+        count_before_ = the(servers).Count();
         is_new = true;
+        for (std::int32_t i = 1; i <= count_before_ && *is_new; ++i)
+            trap("NotInColl", [&] { is_new = !is_chosen(the(the(servers).Item(i)), node); });
     });
     return is_new;
+}
+
+bool dlgServerAdd::is_chosen(hlxOPCServer& entry, const std::string& node) const {
+    const ObjectPtr connected = entry.OPCServer();
+    if (!connected) return false;
+    const OPCServerPtr server = resolve<OPCServer>(connected);
+    if (!equal_ignoring_case(server->ServerName(), server_name_)) return false;
+    return equal_ignoring_case(server->ServerNode(), node);
 }
 
 void dlgServerAdd::bnOK_Click() {
@@ -155,8 +157,6 @@ void dlgServerAdd::bnOK_Click() {
 bool dlgServerAdd::ConnectServer() {
     bool connected = false;
     trap("ConnectServer", [&] {
-        // Read before adding: a position that cannot be had must not leave an entry behind that nobody chose.
-        const std::int16_t next = to_int16(the(servers_).Count() + 1);
         const std::string node = txtNode.text();
         const hlxOPCServerPtr added = the(servers_).Add(server_name_, node, true);
         if (!added) {
@@ -168,7 +168,10 @@ bool dlgServerAdd::ConnectServer() {
             return;
         }
         entry_ = added;
-        added_server_index_ = next;
+        // The server is there and connected. Where the host cannot count it, it is behind those before it.
+        std::int32_t position = count_before_ + 1;
+        trap("ConnectServer", [&] { position = the(servers_).Count(); });
+        added_server_index_ = to_int16(position);
         connected = true;
     });
     return connected;

@@ -69,6 +69,7 @@ private:
 
     /// Whether no entry of the collection is the chosen server; none when that could not be found out.
     std::optional<bool> NotInColl(const hlxOPCServersPtr& servers);
+    bool is_chosen(hlxOPCServer& entry, const std::string& node) const;
     bool ConnectServer();
 
     Variant FindServers(const std::string& node);
@@ -80,6 +81,7 @@ private:
     bool ok_pressed_ = false;
     std::string server_name_;
     std::string node_;
+    std::int32_t count_before_ = 0; ///< of the entries that were looked through for the chosen server
     std::int16_t added_server_index_ = 0;
 };
 

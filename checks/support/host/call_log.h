@@ -28,7 +28,8 @@ public:
     /// Notes the call; throws when it is the one to fail.
     void note(const std::string& member) {
         made_.push_back({member, current_location_text()});
-        made_.back().failed = static_cast<int>(made_.size()) == fail_at_ || member == failing_member_;
+        const bool is_to_fail = member == failing_member_ && ++asked_of_it_ > spared_;
+        made_.back().failed = static_cast<int>(made_.size()) == fail_at_ || is_to_fail;
         if (made_.back().failed)
             throw Error(failure_number, failure_text(static_cast<int>(made_.size()), member), failure_source);
     }
@@ -36,8 +37,12 @@ public:
     /// The n-th call from now on (from 1) fails; 0 for none.
     void fail_at(int n) { fail_at_ = n == 0 ? 0 : static_cast<int>(made_.size()) + n; }
 
-    /// Every call of this member fails from now on; "" for none.
-    void fail_on(const std::string& member) { failing_member_ = member; }
+    /// Every call of this member fails from now on but the first `spared`; "" for none.
+    void fail_on(const std::string& member, int spared = 0) {
+        failing_member_ = member;
+        spared_ = spared;
+        asked_of_it_ = 0;
+    }
 
     const std::vector<HostCall>& made() const { return made_; }
     std::vector<std::string> members() const {
@@ -57,6 +62,8 @@ private:
     std::vector<HostCall> made_;
     int fail_at_ = 0;
     std::string failing_member_;
+    int spared_ = 0;
+    int asked_of_it_ = 0;
 };
 
 } // namespace brx::checks

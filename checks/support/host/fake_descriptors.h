@@ -52,9 +52,10 @@ public:
     explicit FakeDescriptors(CallLog& calls) : calls_(calls) {}
 
     std::vector<std::shared_ptr<FakeDescriptor>> entries;
-    bool keeps_all = false;     ///< Remove fails
-    bool adds_in_front = false; ///< Add makes the new one the first
-    bool trims_names = false;   ///< leading and trailing blanks are not kept
+    bool keeps_all = false;       ///< Remove fails
+    bool drops_and_fails = false; ///< Remove fails, and has removed it all the same
+    bool adds_in_front = false;   ///< Add makes the new one the first
+    bool trims_names = false;     ///< leading and trailing blanks are not kept
 
     void has(const DescriptorFields& fields) {
         entries.push_back(std::make_shared<FakeDescriptor>(calls_, *this, fields));
@@ -90,6 +91,7 @@ public:
         if (position < 1 || static_cast<std::size_t>(position) > entries.size())
             throw Error(error::subscript_out_of_range);
         entries.erase(entries.begin() + position - 1);
+        if (drops_and_fails) throw Error(error::invalid_procedure_call);
     }
 
 private:

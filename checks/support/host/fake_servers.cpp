@@ -30,6 +30,7 @@ hlxOPCServerPtr FakeServers::Add(const std::string& server_name, const std::stri
     ++added_;
     const auto entry = has_connected(server_name, node);
     --configured_;
+    after_adding();
     return entry;
 }
 

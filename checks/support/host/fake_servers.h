@@ -65,6 +65,9 @@ public:
     /// Configures a server with a connection to `connection_name` (the server's own name by default).
     std::shared_ptr<FakeServer> has_connected(const std::string& server_name, const std::string& node = "");
 
+    /// Runs at the end of each successful Add.
+    std::function<void()> after_adding = [] {};
+
     /// Add fails with this text from now on; "" makes it succeed again.
     void refuses(const std::string& last_error) { last_error_ = last_error; }
     /// Pretends to hold so many entries.

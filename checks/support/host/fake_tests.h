@@ -81,7 +81,8 @@ public:
     explicit FakeTests(CallLog& calls) : calls_(calls) {}
 
     std::vector<std::shared_ptr<FakeTest>> entries;
-    bool keeps_all = false; ///< Remove fails
+    bool keeps_all = false;       ///< Remove fails
+    bool drops_and_fails = false; ///< Remove fails, and has removed it all the same
     std::weak_ptr<hlxOPCConfiguration> parent;
 
     /// The characteristics that the database has, by their ids.
@@ -114,6 +115,7 @@ public:
         if (position < 1 || static_cast<std::size_t>(position) > entries.size())
             throw Error(error::subscript_out_of_range);
         entries.erase(entries.begin() + position - 1);
+        if (drops_and_fails) throw Error(error::invalid_procedure_call);
     }
     hlxOPCConfigurationPtr Parent() override {
         calls_.note("hlxOPCTests.Parent");
