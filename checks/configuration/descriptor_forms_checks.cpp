@@ -1,5 +1,4 @@
 #include "configuration/dlgDescriptorProperties.h"
-#include "configuration/dlgDescriptorType.h"
 #include "forms/one_form.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +9,7 @@
 using namespace brx;
 using namespace brx::checks;
 
-// What the two small dialogs of the descriptors are labelled with.
+// What the properties of a descriptor are labelled with.
 
 namespace {
 
@@ -35,12 +34,6 @@ struct DescriptorForms : testing::Test {
 };
 
 } // namespace
-
-TEST_F(DescriptorForms, TheDialogOfKindsHasItsCaptions) {
-    const dlgDescriptorType form(environment);
-    EXPECT_EQ(form.caption(), "Descriptor Type");
-    EXPECT_EQ(captions_of(form), (Captions{{"bnCancel", "&Cancel"}, {"bnOK", "OK"}}));
-}
 
 TEST_F(DescriptorForms, ThePropertiesHaveTheirCaptions) {
     const dlgDescriptorProperties form(environment);

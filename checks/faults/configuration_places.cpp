@@ -67,6 +67,8 @@ std::vector<std::string> brx::checks::configuration_places() {
         "hlxOPCDescriptor.ItemName= in dlgConfiguration.bnAddDesc_Click",
         "hlxOPCDescriptor.Type in dlgConfiguration.bnAddDesc_Click",
         "hlxOPCDescriptors.Add in dlgConfiguration.bnAddDesc_Click",
+        "hlxOPCDescriptors.NewEnum in dlgConfiguration.bnAddDesc_Click",
+        "hlxOPCDescriptors.Next in dlgConfiguration.bnAddDesc_Click",
         "hlxOPCDescriptors.Remove in dlgConfiguration.bnAddDesc_Click",
         "hlxOPCServer.Parent in dlgConfiguration.bnAddDesc_Click",
         "hlxOPCServerHolder.ServerEntry in dlgConfiguration.bnAddDesc_Click",

@@ -183,6 +183,54 @@ SCENARIO(ConfigurationDialog, WhatCouldNotBeLoadedCannotBeEditedAndIsNotCommitte
     EXPECT_EQ(dialog.writes(), Lines());
 }
 
+SCENARIO(ConfigurationDialog, ADialogThatCouldNotLoadItsFieldsShowsEveryTab) {
+    a_filled_configuration(its);
+    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
+    its.host.calls.fail_on("hlxOPCConfiguration.UpdateRate");
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.reads("txtName"), "Line 1");
+    for (const char* field :
+         {"txtName", "txtUpdateRate", "txtDeadband", "chkActive", "txtSubgroupSize", "dtSyncDate",
+          "dtSyncTime", "txtSGInterval", "cboSGTimeUnit", "cmdSubgroupTrigger", "txtPieceTimeInterval",
+          "cboPieceTimeUnit", "cmdPieceTrigger"})
+        EXPECT_FALSE(its.person.sees(field).enabled) << field;
+    EXPECT_TRUE(its.person.sees("txtServer").enabled);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), Lines{"Length | Line1.Speed | Matrix | PC7"});
+    its.person.picks("lvwTest", "Length | Line1.Speed | Matrix | PC7");
+    its.person.presses("bnRemove");
+    EXPECT_TRUE(its.host.configuration->tests->entries.empty());
+    dialog.turns_to_descriptors();
+    its.person.double_clicks("lvwDescriptors", "Part | Castings | Wheel");
+    its.person.enters("txtItem", "Axle");
+    its.person.presses("bnOK");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines{"Part | Castings | Axle"});
+    its.person.waits_for_ticks(1);
+    EXPECT_EQ(its.person.lines_of("lvwServerInfo").size(), 12U);
+    dialog.closes(); // and asks nothing, since nothing will be committed
+    EXPECT_EQ(dialog.writes(), (Lines{"hlxOPCDescriptor.ItemName=", "hlxOPCDescriptor.GroupName="}));
+}
+
+SCENARIO(ConfigurationDialog, ADeadHostIsReportedOnce) {
+    a_filled_configuration(its);
+    its.host.configuration->server->entry = nullptr;
+    Configuring dialog(its);
+    its.expect_report(error::object_not_set, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), Lines{"Length | Line1.Speed |  | "});
+    dialog.closes();
+    EXPECT_EQ(dialog.writes(), Lines());
+}
+
+SCENARIO(ConfigurationDialog, AnUnreadableDescriptorHidesNoTest) {
+    a_filled_configuration(its);
+    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
+    its.host.calls.fail_on("hlxOPCDescriptor.Type");
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), Lines{"Length | Line1.Speed | Matrix | PC7"});
+    dialog.leaves();
+}
+
 SCENARIO(ConfigurationDialog, AnUnreadableDescriptorKeepsNobodyFromTheFields) {
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});

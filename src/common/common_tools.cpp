@@ -4,6 +4,16 @@
 
 namespace brx {
 
+namespace {
+
+/// An owner on the way to another object. Error 91 for Nothing, error 13 for an object of another kind.
+template <class Interface> std::shared_ptr<Interface> owner(const ObjectPtr& object) {
+    static_cast<void>(the(object));
+    return resolve<Interface>(object);
+}
+
+} // namespace
+
 hlxDatabasePtr CommonTools::ResolveDatabase(const ObjectPtr& object) const {
     hlxDatabasePtr resolved;
     trap("ResolveDatabase", [&] { resolved = resolve<hlxDatabase>(object); });
@@ -24,8 +34,8 @@ OPCGroupPtr CommonTools::ResolveOPCGroup(const ObjectPtr& object) const {
 
 hlxDatabasePtr CommonTools::database_of(const hlxOPCConfigurationPtr& configuration) const {
     const hlxOPCServerPtr entry = the(the(configuration).Server()).ServerEntry();
-    const auto servers = resolve<hlxOPCServers>(the(entry).Parent());
-    const auto application = resolve<hlxApplication>(servers->Parent());
+    const auto servers = owner<hlxOPCServers>(the(entry).Parent());
+    const auto application = owner<hlxApplication>(servers->Parent());
     return ResolveDatabase(application->Database());
 }
 

@@ -22,7 +22,7 @@ public:
     OPCGroupPtr ResolveOPCGroup(const ObjectPtr& object) const;
 
     /// The database of the host that the configuration belongs to: by way of its server entry, the servers
-    /// and the application. Nothing when that is no database.
+    /// and the application. Error 91 where one of them is missing, Nothing when it ends at no database.
     hlxDatabasePtr database_of(const hlxOPCConfigurationPtr& configuration) const;
 };
 

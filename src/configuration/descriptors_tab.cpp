@@ -3,54 +3,33 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 namespace brx {
 
 namespace {
 
-struct DescriptorRow {
-    std::int32_t type = 0;
-    std::string group;
-    std::string item;
-};
-
-DescriptorRow read_row(hlxOPCDescriptor& descriptor) {
-    DescriptorRow row;
-    row.type = descriptor.Type();
-    row.group = descriptor.GroupName();
-    row.item = descriptor.ItemName();
-    return row;
-}
-
-void show(const DescriptorRow& descriptor, ListRow& row) {
-    row.set_text(DescriptorTypeName(descriptor.type));
-    row.set_text(1, descriptor.group);
-    row.set_text(2, descriptor.item);
-    row.set_tag(descriptor.type);
+/// As far as the descriptor can be read, its row tells of it.
+template <class Row> void fill(Row& row, hlxOPCDescriptor& descriptor) {
+    const std::int32_t type = descriptor.Type();
+    row.set_text(DescriptorTypeName(type));
+    row.set_text(1, descriptor.GroupName());
+    row.set_text(2, descriptor.ItemName());
+    row.set_tag(type);
 }
 
 } // namespace
 
+/// Rows and descriptors have the same positions.
 void dlgConfiguration::ConfigureDescriptors() {
-    lvwDescriptors.add_column("Type", twips(1500));
-    lvwDescriptors.add_column("Group", twips(2300));
-    lvwDescriptors.add_column("Item", twips(1500));
-    list_descriptors();
-}
-
-/// Rows and descriptors have the same positions. All descriptors are read before the list changes: when one
-/// cannot be read, the list stays as it is.
-void dlgConfiguration::list_descriptors() {
-    std::vector<DescriptorRow> rows;
-    const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
-    while (const hlxOPCDescriptorPtr descriptor = descriptors->Next()) rows.push_back(read_row(*descriptor));
-    lvwDescriptors.clear();
-    for (const DescriptorRow& row : rows) show(row, lvwDescriptors.add("", ""));
+    descriptors_.list([&](ListedObjects::Drafts& rows) {
+        const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
+        while (const hlxOPCDescriptorPtr descriptor = descriptors->Next())
+            fill(rows.emplace_back(), *descriptor);
+    });
 }
 
 void dlgConfiguration::UpdateDescriptorItem(ListRow& row, hlxOPCDescriptor& descriptor) {
-    show(read_row(descriptor), row);
+    fill(row, descriptor);
 }
 
 void dlgConfiguration::lvwDescriptors_DblClick() {
@@ -66,7 +45,8 @@ void dlgConfiguration::bnAddDesc_Click() {
         type_dialog_->set_Descriptors(descriptors);
         type_dialog_->show_modal();
         if (!type_dialog_->OKPressed()) return;
-        const hlxOPCDescriptorPtr descriptor = the(descriptors).Add(type_dialog_->DescriptorType());
+        const std::int32_t type = type_dialog_->DescriptorType();
+        const hlxOPCDescriptorPtr descriptor = the(descriptors).Add(type);
         bool confirmed = false;
         try {
             confirmed = EditDescriptorType(the(descriptor));
@@ -76,29 +56,43 @@ void dlgConfiguration::bnAddDesc_Click() {
             throw;
         }
         if (!confirmed) return take_back(*descriptors, *descriptor);
-        UpdateDescriptorItem(lvwDescriptors.add("", ""), *descriptor);
+        // A row behind others than the host's own would not have the descriptor's position.
+        if (!descriptors_.is_whole()) {
+            ConfigureDescriptors();
+            return descriptors_.select(lvwDescriptors.count());
+        }
+        ListRow& row = lvwDescriptors.add("", DescriptorTypeName(type));
+        descriptors_.select(lvwDescriptors.count());
+        show_names(row);
+        UpdateDescriptorItem(row, *descriptor);
     });
 }
 
-/// When the host does not let it go, the list shows it: rows and descriptors must go on matching.
 void dlgConfiguration::take_back(hlxOPCDescriptors& descriptors, hlxOPCDescriptor& descriptor) {
-    try {
-        descriptors.Remove(descriptor.Index());
-    } catch (...) {
-        attempt([&] { list_descriptors(); });
-        throw;
-    }
+    const auto remove = [&] {
+        const std::int32_t position = descriptor.Index();
+        descriptors.Remove(position);
+    };
+    descriptors_.take_away(remove, [&] { ConfigureDescriptors(); });
 }
 
 void dlgConfiguration::bnEditDesc_Click() {
     trap(ErrorLibrary::brxError6, "bnEditDesc_Click", [&] {
-        const int position = lvwDescriptors.selected();
+        const int position = descriptors_.chosen();
         if (position == 0) return;
         const hlxOPCDescriptorPtr descriptor =
             the(the(configuration_).Descriptors()).Item(std::int32_t{position});
-        if (EditDescriptorType(the(descriptor)))
-            UpdateDescriptorItem(lvwDescriptors.row(position), *descriptor);
+        if (!EditDescriptorType(the(descriptor))) return;
+        ListRow& row = lvwDescriptors.row(position);
+        show_names(row);
+        UpdateDescriptorItem(row, *descriptor);
     });
+}
+
+/// The names that were confirmed, in case that the host cannot tell what it made of them.
+void dlgConfiguration::show_names(ListRow& row) {
+    row.set_text(1, properties_dialog_->DescriptorGroupName());
+    row.set_text(2, properties_dialog_->DescriptorItemName());
 }
 
 /// True when the person confirmed; the descriptor has its new names then.
@@ -107,24 +101,27 @@ bool dlgConfiguration::EditDescriptorType(hlxOPCDescriptor& descriptor) {
     properties_dialog_->set_Database(tools_.database_of(configuration_));
     properties_dialog_->set_Configuration(configuration_);
     properties_dialog_->set_DescriptorType(descriptor.Type());
-    properties_dialog_->set_DescriptorItemName(descriptor.ItemName());
-    properties_dialog_->set_DescriptorGroupName(descriptor.GroupName());
+    const std::string item_before = descriptor.ItemName();
+    properties_dialog_->set_DescriptorItemName(item_before);
+    const std::string group_before = descriptor.GroupName();
+    properties_dialog_->set_DescriptorGroupName(group_before);
     properties_dialog_->show_modal();
     if (!properties_dialog_->OKPressed()) return false;
     WriteBack names;
-    names.write(descriptor, &hlxOPCDescriptor::ItemName, &hlxOPCDescriptor::set_ItemName,
-                properties_dialog_->DescriptorItemName());
-    names.write(descriptor, &hlxOPCDescriptor::GroupName, &hlxOPCDescriptor::set_GroupName,
-                properties_dialog_->DescriptorGroupName());
+    names.replace(descriptor, &hlxOPCDescriptor::set_ItemName, item_before,
+                  properties_dialog_->DescriptorItemName());
+    names.replace(descriptor, &hlxOPCDescriptor::set_GroupName, group_before,
+                  properties_dialog_->DescriptorGroupName());
     names.keep();
     return true;
 }
 
 void dlgConfiguration::bnRemoveDesc_Click() {
     trap(ErrorLibrary::brxError6, "bnRemoveDesc_Click", [&] {
-        const int position = lvwDescriptors.selected();
+        const int position = descriptors_.chosen();
         if (position == 0) return;
-        the(the(configuration_).Descriptors()).Remove(position);
+        const hlxOPCDescriptorsPtr descriptors = the(configuration_).Descriptors();
+        descriptors_.take_away([&] { the(descriptors).Remove(position); }, [&] { ConfigureDescriptors(); });
         lvwDescriptors.remove(position);
         const int next = std::min(position, lvwDescriptors.count());
         if (next > 0) lvwDescriptors.select(next);

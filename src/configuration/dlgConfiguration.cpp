@@ -4,6 +4,7 @@
 #include "forms/focus.h"
 #include "tests/operators.h"
 
+#include <initializer_list>
 #include <tuple>
 #include <utility>
 
@@ -18,26 +19,41 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
       tools_(environment.errors) {}
 
 void dlgConfiguration::Form_Load() {
-    fields_loaded_ = tests_listed_ = false;
+    fields_loaded_ = false;
+    tests_.start_afresh();
+    descriptors_.start_afresh();
     groups_.clear();
     server_values_ = {};
     piece_trigger_ = subgroup_trigger_ = {};
     trap("Form_Load", [&] {
+        set_up_columns();
         load_general();
         load_sampling();
         fields_loaded_ = true;
-        lvwTest.add_column("Characteristic", twips(1500));
-        lvwTest.add_column("OPC Item", twips(2300));
-        lvwTest.add_column("OPC Server", twips(1500));
-        lvwTest.add_column("Node", twips(1500));
-        lvwServerInfo.add_column("Property", twips(2300));
-        lvwServerInfo.add_column("Value", twips(4850));
         ConfigureDescriptors();
         frmTab0.set_visible(true); // in front, since no other one shows
         AddToList();
     });
+    // What failed has been reported. Every tab shows what can be had all the same.
+    if (!descriptors_.was_listed()) attempt([&] { ConfigureDescriptors(); });
+    if (!tests_.was_listed()) attempt([&] { AddToList(); });
     // Nobody should type what will not be committed.
-    for (Panel* panel : {&frmTab0, &frmTab1}) panel->set_enabled(fields_loaded_);
+    for (Control* field : std::initializer_list<Control*>{&txtName, &txtUpdateRate, &txtDeadband, &chkActive,
+                                                          &txtSubgroupSize, &frmTab1})
+        field->set_enabled(fields_loaded_);
+}
+
+/// Before anything that can fail: without its columns a list shows nothing.
+void dlgConfiguration::set_up_columns() {
+    lvwTest.add_column("Characteristic", twips(1500));
+    lvwTest.add_column("OPC Item", twips(2300));
+    lvwTest.add_column("OPC Server", twips(1500));
+    lvwTest.add_column("Node", twips(1500));
+    lvwDescriptors.add_column("Type", twips(1500));
+    lvwDescriptors.add_column("Group", twips(2300));
+    lvwDescriptors.add_column("Item", twips(1500));
+    lvwServerInfo.add_column("Property", twips(2300));
+    lvwServerInfo.add_column("Value", twips(4850));
 }
 
 void dlgConfiguration::Form_Unload() { configuration_ = nullptr; }

@@ -3,6 +3,7 @@
 #include "common/common_tools.h"
 #include "configuration/dlgDescriptorProperties.h"
 #include "configuration/dlgDescriptorType.h"
+#include "configuration/listed_objects.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
 #include "forms/date_picker.h"
@@ -129,6 +130,7 @@ private:
 
     // The form as a whole.
     void Form_Load() override;
+    void set_up_columns();
     void Form_Unload() override;
     void TabStrip1_Click();
     void bnClose_Click();
@@ -180,12 +182,12 @@ private:
 
     // Descriptors
     void ConfigureDescriptors();
-    void list_descriptors();
     void UpdateDescriptorItem(ListRow& row, hlxOPCDescriptor& descriptor);
     void lvwDescriptors_DblClick();
     void bnAddDesc_Click();
     void bnEditDesc_Click();
     bool EditDescriptorType(hlxOPCDescriptor& descriptor);
+    void show_names(ListRow& row);
     void bnRemoveDesc_Click();
     void take_back(hlxOPCDescriptors& descriptors, hlxOPCDescriptor& descriptor);
 
@@ -204,7 +206,8 @@ private:
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
     bool fields_loaded_ = false; ///< what is committed is the configuration's own
-    bool tests_listed_ = false;  ///< the list shows the configuration's tests
+    ListedObjects tests_{lvwTest, cmdEdit, bnRemove};
+    ListedObjects descriptors_{lvwDescriptors, bnEditDesc, bnRemoveDesc};
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
     std::array<std::optional<Variant>, 12> server_values_; ///< as the status shows them

@@ -1,0 +1,208 @@
+#include "listing.h"
+
+// Descriptors that cannot be read or written, and descriptors that the host does not let go of: the rows of
+// the list and the host's descriptors agree all the same.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+using Fields = std::vector<DescriptorFields>;
+
+void expect_descriptors_out_of_reach(Play& its) {
+    expect_out_of_reach(its, "lvwDescriptors", "bnEditDesc", "bnRemoveDesc");
+}
+
+/// The row leads to the descriptor of this kind.
+void expect_to_lead_to(Play& its, const std::string& row, const std::string& kind) {
+    its.person.picks("lvwDescriptors", row);
+    its.person.presses("bnEditDesc");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - " + kind);
+    its.person.presses("bnCancel");
+}
+
+} // namespace
+
+SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->keeps_all = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.picks("List1", "Job");
+    its.person.presses("bnOK");
+    its.person.presses("bnCancel");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 4U);
+    EXPECT_EQ(its.person.line_of("lvwDescriptors", 3), "Job |  | ");
+    EXPECT_EQ(its.host.calls.count("hlxOPCDescriptors.Remove"), 1);
+    its.person.picks("lvwDescriptors", three_rows[0]);
+    its.person.presses("bnRemoveDesc");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 4U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
+    three_descriptors(its);
+    const Fields before = its.host.configuration->descriptors->fields();
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.double_clicks("lvwDescriptors", three_rows[0]);
+    its.host.configuration->descriptors->entries[0]->fields.item = "Not what the dialog got";
+    its.person.enters("txtItem", "Axle");
+    its.person.enters("txtGroup", "Forgings");
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName=");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnEditDesc_Click");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(), before);
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ADescriptorThatTheHostDropsAsItFailsLeavesTheListToo) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->drops_and_fails = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[1]);
+    its.person.presses("bnRemoveDesc");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], three_rows[2]}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, -1) << "Nobody chose the next one.";
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ADescriptorThatTheHostKeepsStaysSelected) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->keeps_all = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.picks("lvwDescriptors", three_rows[1]);
+    its.person.presses("bnRemoveDesc");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 1);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, DescriptorsUpToTheOneThatCannotBeReadAreListed) {
+    three_descriptors(its);
+    its.host.calls.fail_on("hlxOPCDescriptor.ItemName", 1);
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.host.calls.fail_on("");
+    dialog.turns_to_descriptors();
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], "Serial Number |  | "}));
+    expect_to_lead_to(its, "Serial Number |  | ", "Serial Number");
+    its.person.picks("lvwDescriptors", three_rows[0]);
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(),
+              (Fields{{7, "(%Line1.Serial)", ""}, {5, "Red", "Colours"}}));
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), Lines{"Serial Number |  | "});
+    expect_to_lead_to(its, "Serial Number |  | ", "Serial Number");
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ADescriptorOfNoTellableKindHasAnEmptyRow) {
+    three_descriptors(its);
+    its.host.calls.fail_on("hlxOPCDescriptor.Type", 1);
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.host.calls.fail_on("");
+    dialog.turns_to_descriptors();
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], " |  | "}));
+    its.person.picks("lvwDescriptors", " |  | ");
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(),
+              (Fields{{0, "Wheel", "Castings"}, {5, "Red", "Colours"}}));
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ANewDescriptorMakesAListInPartWhole) {
+    three_descriptors(its);
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName", 1);
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.host.calls.fail_on("");
+    dialog.turns_to_descriptors();
+    adds_descriptor(its, "Job");
+    Lines rows = three_rows;
+    rows.emplace_back("Job | Group | New");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), rows);
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 3);
+    expect_to_lead_to(its, rows[3], "Job");
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    EXPECT_EQ(its.host.configuration->descriptors->fields().size(), 3U);
+    EXPECT_EQ(its.host.configuration->descriptors->fields()[2].type, 5);
+    adds_descriptor(its, "Job"); // to the whole list
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), rows);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, RowsThatCannotBeReadAgainStayOutOfReachUntilTheyCan) {
+    three_descriptors(its);
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName", 2);
+    Configuring dialog(its);
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    dialog.turns_to_descriptors();
+    const Lines before = {three_rows[0], three_rows[1], "User Defined (Subgroup) |  | "};
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), before);
+    its.host.calls.fail_on("");
+    prepares_descriptor(its, "Job");
+    its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), before);
+    EXPECT_EQ(its.host.configuration->descriptors->fields().size(), 4U);
+    expect_descriptors_out_of_reach(its);
+    its.host.calls.fail_on("");
+    expect_descriptors_out_of_reach(its);
+    adds_descriptor(its, "User Defined (Piece)");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"),
+              (Lines{three_rows[0], three_rows[1], three_rows[2], "Job | Group | New",
+                     "User Defined (Piece) | Group | New"}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 4);
+    EXPECT_TRUE(its.person.can_press("bnEditDesc"));
+    expect_to_lead_to(its, "Job | Group | New", "Job");
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.host.configuration->descriptors->fields().size(), 4U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, ANewDescriptorThatCannotBeReadBackShowsWhatWasConfirmed) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    prepares_descriptor(its, "Job");
+    its.host.calls.fail_on("hlxOPCDescriptor.Type");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.person.line_of("lvwDescriptors", 3), "Job | Group | New");
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 3);
+    its.host.calls.fail_on("");
+    expect_to_lead_to(its, "Job | Group | New", "Job");
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.host.configuration->descriptors->fields().size(), 3U);
+    dialog.leaves();
+}
+
+SCENARIO(DescriptorsTab, AnEditThatCannotBeReadBackShowsWhatWasConfirmed) {
+    three_descriptors(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.double_clicks("lvwDescriptors", three_rows[0]);
+    its.person.enters("txtItem", "Axle");
+    its.person.enters("txtGroup", "Forgings");
+    its.host.calls.fail_on("hlxOPCDescriptor.GroupName");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnEditDesc_Click");
+    EXPECT_EQ(its.host.configuration->descriptors->fields()[0], (DescriptorFields{0, "Axle", "Forgings"}));
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"),
+              (Lines{"Part | Forgings | Axle", three_rows[1], three_rows[2]}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 0);
+    EXPECT_TRUE(its.person.can_press("bnRemoveDesc"));
+    dialog.leaves();
+}

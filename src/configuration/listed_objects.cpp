@@ -1,0 +1,63 @@
+#include "configuration/listed_objects.h"
+
+#include "common/trap.h"
+
+namespace brx {
+
+RowDraft::Cell& RowDraft::cell(int column) {
+    const auto index = static_cast<std::size_t>(column);
+    if (cells_.size() <= index) cells_.resize(index + 1);
+    return cells_[index];
+}
+
+void RowDraft::add_to(ListView& list) const {
+    ListRow& row = list.add("", "");
+    int column = 0;
+    for (const Cell& each : cells_) {
+        row.set_text(column, each.text);
+        row.set_look(column++, each.look);
+    }
+    row.set_tag(tag_);
+}
+
+void ListedObjects::list(const std::function<void(Drafts&)>& read) {
+    Drafts rows;
+    try {
+        read(rows);
+    } catch (...) {
+        if (was_listed()) {
+            become(Listed::uncertain);
+        } else {
+            show(rows);
+            become(Listed::in_part);
+        }
+        throw;
+    }
+    show(rows);
+    become(Listed::whole);
+}
+
+void ListedObjects::take_away(const std::function<void()>& remove, const std::function<void()>& list_again) {
+    try {
+        remove();
+    } catch (...) {
+        attempt(list_again);
+        throw;
+    }
+}
+
+/// While there are as many rows as before, the selected one stays selected.
+void ListedObjects::show(const Drafts& rows) {
+    const int count = list_.count();
+    const int selected = list_.selected();
+    list_.clear();
+    for (const RowDraft& row : rows) row.add_to(list_);
+    if (list_.count() == count) list_.select(selected);
+}
+
+void ListedObjects::become(Listed listed) {
+    listed_ = listed;
+    for (Button* button : {&edit_, &remove_}) button->set_enabled(listed != Listed::uncertain);
+}
+
+} // namespace brx
