@@ -7,9 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include <array>
-#include <utility>
-
 // Every member of the OPC automation objects that the dialogs use, there and back.
 
 namespace brx::checks {
@@ -103,44 +100,6 @@ TEST_F(OpcAdapterTest, PassOnWhateverAServerEnumerates) {
         server->answers["GetOPCServers"] = found;
         EXPECT_EQ(describe(through(server)->GetOPCServers(std::nullopt)), describe(found));
     }
-}
-
-/// An array of variants, as scripts make them.
-OwnedSafeArray array_of_variants(const std::vector<Variant>& values, LONG lower_bound) {
-    OwnedSafeArray array;
-    *array.out() = SafeArrayCreateVector(VT_VARIANT, lower_bound, static_cast<ULONG>(values.size()));
-    for (const Variant& value : values) {
-        const OwnedVariant element(value);
-        check(SafeArrayPutElement(array.get(), &lower_bound, const_cast<VARIANT*>(&element.get())));
-        ++lower_bound;
-    }
-    return array;
-}
-
-TEST_F(OpcAdapterTest, TakeTextsInVariantsForAnEnumeration) {
-    const auto server = make<OPCServer>();
-    const auto enumerated = [&](const std::vector<Variant>& values, LONG lower_bound) {
-        const OwnedVariant answer(array_of_variants(values, lower_bound));
-        server->answers["GetOPCServers"] = value_of(answer.get());
-        EXPECT_FALSE(std::holds_alternative<StringArray>(server->answers["GetOPCServers"]));
-        return through(server)->GetOPCServers("PC7");
-    };
-    const Variant sim = std::string("Sim.1");
-    EXPECT_EQ(describe(enumerated({sim, unusual_text}, 1)),
-              describe(Variant(StringArray{{"Sim.1", unusual_text}, 1})));
-    EXPECT_EQ(describe(enumerated({sim}, 0)), describe(Variant(StringArray{{"Sim.1"}, 0})));
-    EXPECT_EQ(describe(enumerated({}, 0)), describe(Variant(StringArray{{}, 0})));
-    for (const Variant& other : {Variant(two), Variant(Empty{}), Variant(StringArray{{"Sim.1"}, 1})})
-        EXPECT_TRUE(std::holds_alternative<Opaque>(enumerated({sim, other}, 1))) << describe(other);
-}
-
-TEST_F(OpcAdapterTest, TakeOnlyArraysOfOneDimensionForAnEnumeration) {
-    std::array<SAFEARRAYBOUND, 2> bounds{{{1, 1}, {1, 1}}};
-    OwnedSafeArray square;
-    *square.out() = SafeArrayCreate(VT_VARIANT, 2, bounds.data());
-    const auto server = make<OPCServer>();
-    server->answers["GetOPCServers"] = value_of(OwnedVariant(std::move(square)).get());
-    EXPECT_TRUE(std::holds_alternative<Opaque>(through(server)->GetOPCServers("PC7")));
 }
 
 TEST_F(OpcAdapterTest, TakeAnEmptyNodeForAnOmittedOneAndRefuseOtherTypes) {
