@@ -183,6 +183,25 @@ TEST_F(ItemForm, AServerThatTurnsFlatListsEveryLeafWhenABranchIsExpanded) {
     });
 }
 
+TEST_F(ItemForm, AServerThatTurnsFlatKeepsItsLeavesListedWhereASignWasPressed) {
+    while_open([&] {
+        host.browser->organization = 2;
+        EXPECT_TRUE(tree().user_toggle(tree().node("Line1")));
+        EXPECT_EQ(find<ListBox>("lstItem").text(0), "Line1.Speed");
+        EXPECT_FALSE(tree().visible());
+    });
+}
+
+TEST_F(ItemForm, APressOnASignWhileNoBranchIsSelectedIsNoError) {
+    while_open([&] {
+        EXPECT_TRUE(tree().user_expand(tree().node("Line1")));
+        tree().select(nullptr);
+        EXPECT_TRUE(tree().user_toggle(tree().node("Line1")));
+        EXPECT_FALSE(tree().node("Line1").expanded());
+    });
+    EXPECT_TRUE(host.reports.empty());
+}
+
 TEST_F(ItemForm, ManyLeavesAreReadWithOneCallEach) {
     std::vector<std::string>& leaves = host.browser->root.branches[1].leaves;
     for (int i = 0; i < 20'000; ++i) leaves.push_back("Tag" + std::to_string(i));

@@ -104,6 +104,30 @@ TEST_F(Controls, AListFiresClickWhenAnotherLineIsSelectedByCodeOrAPerson) {
     });
 }
 
+TEST_F(Controls, APressOfTheMouseOnTheSelectedLineIsAClickInAListBoxOnly) {
+    while_open([&] {
+        for (ListControl* list : std::initializer_list<ListControl*>{&form.list, &form.combo}) {
+            list->add_line("one");
+            list->add_line("two");
+        }
+        EXPECT_FALSE(form.list.user_press(2));
+        EXPECT_EQ(form.notes, Notes{});
+        EXPECT_TRUE(form.list.user_press(0));
+        EXPECT_TRUE(form.list.user_press(0));
+        EXPECT_FALSE(form.list.user_press(-1)) << "The room below the lines is none.";
+        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click"}));
+        EXPECT_TRUE(form.list.user_select(0)) << "The keyboard comes to no other line.";
+        form.list.select(0);
+        EXPECT_EQ(form.notes.size(), 2U);
+        EXPECT_TRUE(form.combo.user_press(1));
+        EXPECT_TRUE(form.combo.user_press(1));
+        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click", "combo_Click"}));
+        form.list.set_enabled(false);
+        EXPECT_FALSE(form.list.user_press(0));
+        EXPECT_EQ(form.notes.size(), 3U);
+    });
+}
+
 TEST_F(Controls, ClearingAListSelectsNothingWithoutClick) {
     while_open([&] {
         form.combo.add_line("one", 7);

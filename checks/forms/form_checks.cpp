@@ -1,5 +1,4 @@
 #include "forms/busy_cursor.h"
-#include "forms/focus.h"
 #include "forms/setup_form.h"
 #include "one_form.h"
 
@@ -95,61 +94,6 @@ TEST_F(Forms, SettingFieldsBeforeItIsShownDoesNotLoadIt) {
     EXPECT_FALSE(form.loaded());
     EXPECT_TRUE(form.notes.empty());
     EXPECT_FALSE(form.button.user_click()) << "Nobody can press a button of a form that is not open.";
-}
-
-TEST_F(Forms, TheFirstControlInTabOrderThatTakesInputHasTheFocusFirst) {
-    while_open([&] { EXPECT_EQ(form.focused(), &form.box); });
-    form.on_load = [&] { form.box.set_enabled(false); };
-    while_open([&] { EXPECT_EQ(form.focused(), &form.list); });
-}
-
-TEST_F(Forms, TheFocusCanBeGivenWhileTheFormLoads) {
-    form.on_load = [&] { form.check.set_focus(); };
-    while_open([&] { EXPECT_EQ(form.focused(), &form.check); });
-}
-
-TEST_F(Forms, TheFocusCannotGoWhereInputIsNotTaken) {
-    while_open([&] {
-        form.check.set_enabled(false);
-        try {
-            form.check.set_focus();
-            ADD_FAILURE() << "No error.";
-        } catch (const Error& error) {
-            EXPECT_EQ(error.number(), error::invalid_procedure_call);
-        }
-        EXPECT_FALSE(form.check.user_focus());
-        EXPECT_FALSE(form.label.user_focus());
-        EXPECT_EQ(form.focused(), &form.box);
-    });
-}
-
-TEST_F(Forms, FocusMovesFireLostAndGotFocus) {
-    while_open([&] {
-        EXPECT_TRUE(form.list.user_focus());
-        EXPECT_TRUE(form.box.user_focus());
-        EXPECT_TRUE(form.box.user_focus());
-        EXPECT_EQ(form.notes, (Notes{"box_LostFocus", "box_GotFocus"}));
-    });
-}
-
-TEST_F(Forms, TheFocusMovesOnFromAControlThatIsDisabled) {
-    while_open([&] {
-        form.on_click = [&] { form.button.set_enabled(false); };
-        form.button.user_focus();
-        form.button.user_click();
-        EXPECT_EQ(form.focused(), &form.leave);
-    });
-}
-
-TEST_F(Forms, TheFocusServiceSelectsTheWholeText) {
-    while_open([&] {
-        form.list.user_focus();
-        hlxFocus::select_text(form.box);
-        EXPECT_EQ(form.focused(), &form.box);
-        EXPECT_TRUE(form.box.all_selected());
-        form.box.user_text("x");
-        EXPECT_FALSE(form.box.all_selected());
-    });
 }
 
 TEST_F(Forms, ClosingTheWindowRunsNoButton) {
@@ -269,6 +213,35 @@ TEST_F(Forms, F1OpensTheHelpFileAtTheFormsTopic) {
     while_open([&] {
         EXPECT_TRUE(form.user_help());
         EXPECT_EQ(engine.events.back(), "help C:\\Plant\\collection.chm 193");
+    });
+}
+
+TEST_F(Forms, F1AsksForTheHelpFileWhereNoDialogHasAndOpensItsContents) {
+    while_open([&] {
+        EXPECT_EQ(host.calls.count("hlxHelp.HelpFile"), 0);
+        EXPECT_TRUE(form.user_help());
+        EXPECT_EQ(engine.events.back(), "help C:\\Plant\\collection.chm 0");
+        EXPECT_EQ(host.calls.count("hlxHelp.HelpFile"), 1);
+    });
+}
+
+TEST_F(Forms, AHelpFileThatIsNotThereIsTold) {
+    engine.has_help_files = false;
+    Message told;
+    engine.while_asking = [&](const Message& message) {
+        told = message;
+        return message::ok;
+    };
+    while_open([&] { EXPECT_TRUE(form.user_help()); });
+    EXPECT_EQ(told, (Message{"The help file C:\\Plant\\collection.chm cannot be found.", message::exclamation,
+                             ""}));
+}
+
+TEST_F(Forms, F1DoesNothingWhereTheHostsHelpHasNoPath) {
+    host.help_service->path = "";
+    while_open([&] {
+        form.user_help();
+        EXPECT_EQ(engine.events.back(), "open OneForm");
     });
 }
 

@@ -258,3 +258,20 @@ TEST_F(ListViews, EachShowingStartsWithoutRowsAndColumns) {
         list.add("a", "There is none of this key");
     });
 }
+
+TEST_F(ListViews, EnterIsTheirsOnlyWhereItOpensASelectedRow) {
+    while_open([&] {
+        add_three();
+        EXPECT_FALSE(list.takes_enter());
+        list.select(2);
+        EXPECT_TRUE(list.takes_enter());
+        EXPECT_TRUE(list.user_double_click());
+        EXPECT_EQ(form.notes, (Notes{"list twice 2"}));
+        list.select(0);
+        EXPECT_FALSE(list.takes_enter());
+        EXPECT_TRUE(form.plain.columns().empty());
+        form.plain.add("", "Row");
+        form.plain.select(1);
+        EXPECT_FALSE(form.plain.takes_enter()) << "Nothing opens there.";
+    });
+}

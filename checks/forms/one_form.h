@@ -36,8 +36,10 @@ public:
     void repaint(Form& form) override { events.push_back("repaint " + form.name()); }
     void hourglass(Form&, bool on) override { events.emplace_back(on ? "hourglass on" : "hourglass off"); }
     std::int32_t message_box(const Message& message) override { return while_asking(message); }
-    void show_help(const std::string& help_file, std::int32_t topic) override {
-        events.push_back("help " + help_file + " " + std::to_string(topic));
+    bool has_help_files = true;
+    bool show_help(const std::string& help_file, std::int32_t topic) override {
+        if (has_help_files) events.push_back("help " + help_file + " " + std::to_string(topic));
+        return has_help_files;
     }
 };
 
@@ -58,6 +60,8 @@ public:
     std::function<void()> on_load = [] {};
     std::function<void()> on_click = [] {};
     std::function<void()> on_tick = [] {};
+    std::function<void()> on_got_focus = [] {};
+    std::function<void()> on_list = [] {};
     std::function<void(std::int32_t&)> on_key = [](std::int32_t&) {};
 
     // clang-format off
@@ -68,8 +72,9 @@ public:
                                       .KeyDown = [this](std::int32_t) { notes.emplace_back("box_KeyDown"); },
                                       .KeyPress = [this](std::int32_t& key) { notes.emplace_back("box_KeyPress"); on_key(key); },
                                       .KeyUp = [this](std::int32_t) { notes.emplace_back("box_KeyUp"); },
-                                      .GotFocus = note("box_GotFocus"), .LostFocus = note("box_LostFocus")}};
-    ListBox  list  {*this, "list",   {.place = {0, 110, 90, 60}, .tab = 3, .Click = note("list_Click"),
+                                      .GotFocus = [this] { notes.emplace_back("box_GotFocus"); on_got_focus(); }, .LostFocus = note("box_LostFocus")}};
+    ListBox  list  {*this, "list",   {.place = {0, 110, 90, 60}, .tab = 3,
+                                      .Click = [this] { notes.emplace_back("list_Click"); on_list(); },
                                       .DblClick = note("list_DblClick")}};
     ComboBox combo {*this, "combo",  {.place = {100, 110, 90, 23}, .tab = 4, .Click = note("combo_Click"),
                                       .Change = note("combo_Change")}};

@@ -35,6 +35,7 @@ public:
                                          .Change = [this] { notes.push_back("day " + day.text()); on_change(); }}};
     DatePicker time  {second, "time",   {.place = {0, 30, 90, 23}, .part = DatePart::time, .tab = 9,
                                          .Change = [this] { notes.push_back("time " + time.text()); }}};
+    ListView   plain {second, "plain",  {.place = {0, 60, 90, 40}, .tab = 11}};
     Button     give  {second, "give",   {.place = {110, 0, 75, 23}, .caption = "&Give", .tab = 10}};
     // clang-format on
 

@@ -15,13 +15,14 @@ public:
 
     Notes notes;
     std::function<void(TreeNode&)> on_expand = [](TreeNode&) {};
+    std::function<void()> on_click = [] {};
 
     // clang-format off
     Frame    frame {*this, "frame",  {.place = {0, 0, 200, 100}}};
     TreeView tree  {frame, "tree",   {.place = {0, 0, 100, 100},
                                       .Expand = [this](TreeNode& node) { notes.push_back("Expand " + node.text()); on_expand(node); },
                                       .NodeClick = [this](TreeNode& node) { notes.push_back("NodeClick " + node.text()); },
-                                      .Click = [this] { notes.emplace_back("Click"); }}};
+                                      .Click = [this] { notes.emplace_back("Click"); on_click(); }}};
     // clang-format on
 };
 

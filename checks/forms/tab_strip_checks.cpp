@@ -53,11 +53,14 @@ TEST_F(TabStrips, APersonTurnsThemRoundTheEnds) {
 TEST_F(TabStrips, TheFocusLeavesWhatATabTookAway) {
     while_open([&] {
         EXPECT_EQ(focused(), "box");
+        form.box.user_press(); // the caret is in the text
         tabs.user_turn(false);
         EXPECT_EQ(focused(), "box") << "It still shows.";
+        EXPECT_FALSE(form.box.all_selected());
         form.day.user_focus();
         tabs.user_turn(true);
         EXPECT_EQ(focused(), "box") << "The first control of what shows.";
+        EXPECT_TRUE(form.box.all_selected());
         form.go.user_focus();
         form.box.set_enabled(false);
         tabs.user_turn(false);

@@ -213,3 +213,46 @@ TEST_F(Trees, OtherLinesAndSignsAreShownWithoutAnEvent) {
         EXPECT_EQ(form.notes, Notes{});
     });
 }
+
+TEST_F(Trees, APressOnASignOpensOrClosesAndThenClicks) {
+    while_open([&] {
+        add_food();
+        form.on_expand = [&](TreeNode& node) { tree.select(&node); };
+        EXPECT_TRUE(tree.user_toggle(tree.node("fruit")));
+        EXPECT_EQ(form.notes, (Notes{"Expand Fruit", "Click"}));
+        EXPECT_TRUE(tree.node("fruit").expanded());
+        tree.select(&tree.node("apple"));
+        form.on_click = [&] { EXPECT_EQ(selected(), "Fruit") << "The selection has moved up already."; };
+        EXPECT_TRUE(tree.user_toggle(tree.node("fruit")));
+        EXPECT_EQ(form.notes, (Notes{"Expand Fruit", "Click", "Click"}));
+        EXPECT_FALSE(tree.node("fruit").expanded());
+    });
+}
+
+TEST_F(Trees, ASignThatIsNotThereCannotBePressed) {
+    while_open([&] {
+        add_food();
+        EXPECT_FALSE(tree.user_toggle(tree.node("spice"))) << "It has nothing below it.";
+        EXPECT_FALSE(tree.user_toggle(tree.node("pear"))) << "It is out of sight.";
+        tree.set_enabled(false);
+        EXPECT_FALSE(tree.user_toggle(tree.node("fruit")));
+        EXPECT_EQ(form.notes, Notes{});
+    });
+}
+
+TEST_F(Trees, APressOnASignClicksNothingWhereItsHandlerTookTheTreeAway) {
+    while_open([&] {
+        add_food();
+        for (const auto& take_away : std::vector<std::function<void()>>{
+                 [&] { tree.set_visible(false); }, [&] { form.frame.set_enabled(false); },
+                 [&] { form.unload(); }}) {
+            form.on_expand = [&](TreeNode&) { take_away(); };
+            EXPECT_TRUE(tree.user_toggle(tree.node("fruit")));
+            EXPECT_EQ(form.notes, (Notes{"Expand Fruit"}));
+            form.notes.clear();
+            tree.set_visible(true);
+            form.frame.set_enabled(true);
+            tree.user_collapse(tree.node("fruit"));
+        }
+    });
+}

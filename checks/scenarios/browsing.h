@@ -1,5 +1,6 @@
 #pragma once
 
+#include "help_file.h"
 #include "scenario.h"
 
 #include <algorithm>

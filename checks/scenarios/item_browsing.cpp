@@ -55,21 +55,25 @@ SCENARIO(ItemBrowser, TheRootBranchesShowInTheServersOrderEachWithASign) {
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ExpandingABranchReadsItsSubBranchesAndSelectsIt) {
+SCENARIO(ItemBrowser, ExpandingABranchReadsItsSubBranchesSelectsItAndListsItsLeaves) {
     a_plant(its);
     Browsing browsing(its);
     browsing.calls();
     its.person.expands("TrView", "Line1");
     EXPECT_EQ(its.person.lines_of("TrView"), Lines({"-Line1", "  +Oven", "  +Press", "+Line2"}));
     EXPECT_EQ(its.person.sees("TrView").selected, 0);
-    const Calls expected = {"OPCBrowser.Organization", "OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)",
-                            "OPCBrowser.ShowBranches", "OPCBrowser.Count",      "OPCBrowser.Item(1)",
-                            "OPCBrowser.Item(2)"};
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
+    const Calls expected = {
+        "OPCBrowser.Organization",     "OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)",
+        "OPCBrowser.ShowBranches",     "OPCBrowser.Count",      "OPCBrowser.Item(1)",
+        "OPCBrowser.Item(2)",          "OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)",
+        "OPCBrowser.ShowLeafs(False)", "OPCBrowser.Count",      "OPCBrowser.Item(1)",
+        "OPCBrowser.Item(2)"};
     EXPECT_EQ(browsing.calls(), expected);
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ExpandingABranchAgainAsksTheServerNothing) {
+SCENARIO(ItemBrowser, ExpandingABranchAgainReadsItsLeavesAndNotItsSubBranches) {
     a_plant(its);
     Browsing browsing(its);
     its.person.expands("TrView", "Line1");
@@ -79,11 +83,13 @@ SCENARIO(ItemBrowser, ExpandingABranchAgainAsksTheServerNothing) {
     its.host.browser->root.branches[0].has("A new one");
     its.person.expands("TrView", "Line1");
     EXPECT_EQ(its.person.lines_of("TrView"), Lines({"-Line1", "  +Oven", "  +Press", "+Line2"}));
-    EXPECT_EQ(browsing.calls(), Calls());
+    const Calls calls = browsing.calls();
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "OPCBrowser.ShowBranches"), 0);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "OPCBrowser.ShowLeafs(False)"), 2);
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ExpandingABranchAgainSelectsItAndKeepsTheItems) {
+SCENARIO(ItemBrowser, ExpandingABranchAgainSelectsItAndListsItsLeaves) {
     a_plant(its);
     const Browsing browsing(its);
     its.person.expands("TrView", "Line1");
@@ -91,17 +97,17 @@ SCENARIO(ItemBrowser, ExpandingABranchAgainSelectsItAndKeepsTheItems) {
     its.person.clicks_node("TrView", "Line2");
     its.person.expands("TrView", "Line1");
     EXPECT_EQ(its.person.sees("TrView").selected, 0);
-    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Count"}));
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ExpandingABranchForTheFirstTimeEmptiesTheItemsAndTheEntry) {
+SCENARIO(ItemBrowser, ExpandingABranchEmptiesTheEntry) {
     a_plant(its);
     const Browsing browsing(its);
     its.person.clicks_node("TrView", "Line2");
     its.person.picks("lstItem", "Count");
     its.person.expands("TrView", "Line1");
-    EXPECT_EQ(its.person.lines_of("lstItem"), Lines());
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
     EXPECT_EQ(its.person.reads("txtFullPath"), "");
     EXPECT_FALSE(its.person.can_press("bnOK"));
     its.person.presses("bnCancel");
@@ -113,6 +119,7 @@ SCENARIO(ItemBrowser, ABranchWithoutSubBranchesLosesItsSignWhenExpanded) {
     its.person.expands("TrView", "Line2");
     EXPECT_EQ(its.person.lines_of("TrView"), Lines({"+Line1", " Line2"}));
     EXPECT_EQ(its.person.sees("TrView").selected, 1);
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Count"}));
     its.person.presses("bnCancel");
 }
 
@@ -188,10 +195,15 @@ SCENARIO(ItemBrowser, ADoubleClickOpensABranch) {
     const Browsing browsing(its);
     its.person.double_clicks("TrView", "+Line1");
     EXPECT_EQ(its.person.lines_of("TrView"), Lines({"-Line1", "  +Oven", "  +Press", "+Line2"}));
+    EXPECT_EQ(its.person.sees("TrView").selected, 0);
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
+    its.person.double_clicks("TrView", "-Line1");
+    EXPECT_EQ(its.person.lines_of("TrView"), Lines({"+Line1", "+Line2"}));
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ClosingABranchMovesTheSelectionUpToIt) {
+SCENARIO(ItemBrowser, ClosingABranchMovesTheSelectionUpToItAndListsItsLeaves) {
     a_plant(its);
     Browsing browsing(its);
     its.person.expands("TrView", "Line1");
@@ -199,8 +211,44 @@ SCENARIO(ItemBrowser, ClosingABranchMovesTheSelectionUpToIt) {
     browsing.calls();
     its.person.collapses("TrView", "Line1");
     EXPECT_EQ(its.person.sees("TrView").text, "Line1");
-    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Temperature", "Door"}));
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Running", "Speed"}));
+    EXPECT_EQ(browsing.calls().nth(1), "OPCBrowser.MoveTo(Line1)");
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(ItemBrowser, ClosingABranchListsTheLeavesOfTheOneThatIsSelectedElsewhere) {
+    a_plant(its);
+    const Browsing browsing(its);
+    its.person.expands("TrView", "Line1");
+    its.person.clicks_node("TrView", "Line2");
+    its.host.browser->root.branches[1].leaves = {"Count", "Rejects"};
+    its.person.collapses("TrView", "Line1");
+    EXPECT_EQ(its.person.sees("TrView").text, "Line2");
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines({"Count", "Rejects"}));
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(ItemBrowser, TheKeysOpenABranchAndListNothing) {
+    a_plant(its);
+    Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.person.hits(Key::plus);
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines());
+    browsing.calls();
+    its.person.hits(Key::minus);
+    its.person.hits(Key::plus);
     EXPECT_EQ(browsing.calls(), Calls());
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(ItemBrowser, StartsInItsTreeAndTheServersNameIsReachedByTab) {
+    a_plant(its);
+    const Browsing browsing(its);
+    EXPECT_TRUE(its.person.has_focus("TrView"));
+    its.person.hits(Key::back_tab);
+    EXPECT_TRUE(its.person.has_focus("txtServer"));
+    its.person.hits(Key::tab);
+    EXPECT_TRUE(its.person.has_focus("TrView"));
     its.person.presses("bnCancel");
 }
 
@@ -237,11 +285,9 @@ SCENARIO(ItemBrowser, TheHourglassShowsWhileItLoadsAndRefreshes) {
 
 SCENARIO(ItemBrowser, HelpOpensAtItsTopic) {
     a_plant(its);
+    const HelpFile file(its);
     const Browsing browsing(its);
     its.person.hits(Key::f1);
-    const std::string help = its.person.screen().help();
-    if (!help.empty()) {
-        EXPECT_EQ(help, "C:\\Plant\\collection.chm at 197");
-    }
+    file.expect_shown_at(197);
     its.person.presses("bnCancel");
 }

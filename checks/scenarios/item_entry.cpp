@@ -31,10 +31,10 @@ SCENARIO(ItemEntry, TypingEnablesOKAndEmptyingDisablesIt) {
 
 SCENARIO(ItemEntry, AKeyPressLooksAtTheTextBeforeTheKeyTakesEffect) {
     a_plant(its);
-    its.host.browser->failing = {"GetItemID"};
+    its.host.browser->root.branches[0].leaves = {""};
     const Browsing browsing(its);
     its.person.clicks_node("TrView", "Line1");
-    its.person.picks("lstItem", "Speed");
+    its.person.picks("lstItem", "");
     EXPECT_TRUE(its.person.can_press("bnOK"));
     its.person.goes_to("txtFullPath");
     its.person.hits(Key::backspace); // changes nothing in the empty box
@@ -68,8 +68,24 @@ SCENARIO(ItemEntry, AnUnknownItemIsToldInTheServersWordsAndTheDialogStays) {
     EXPECT_EQ(its.host.connection->error_codes, std::vector{FakeOPCItems::unknown_item});
     EXPECT_EQ(browsing.calls(), Calls({"OPCGroup.OPCItems", "OPCItems.Validate", "OPCGroup.Parent",
                                        "OPCServer.GetErrorString"}));
-    its.person.enters("txtFullPath", "Line1.Speed");
+    EXPECT_TRUE(its.person.has_focus("txtFullPath"));
+    its.person.types("Line1.Speed"); // in its place
     its.person.presses("bnOK");
+    EXPECT_TRUE(browsing.result());
+    EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
+}
+
+SCENARIO(ItemEntry, ALeafThatTheServerRefusesCanBeCorrectedByTypingAtOnce) {
+    a_plant(its);
+    Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.host.group->items->answers.erase("Line1.Running");
+    its.person.double_clicks("lstItem", "Running");
+    its.person.answers(unknown_item);
+    EXPECT_TRUE(its.person.has_focus("txtFullPath"));
+    its.person.types("Line1.Speed");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
+    its.person.hits(Key::enter);
     EXPECT_TRUE(browsing.result());
     EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
 }
@@ -99,10 +115,10 @@ SCENARIO(ItemEntry, AnyCodeButZeroIsARefusal) {
 
 SCENARIO(ItemEntry, OKWithoutAnItemAsksForOne) {
     a_plant(its);
-    its.host.browser->failing = {"GetItemID"};
+    its.host.browser->root.branches[0].leaves = {""};
     Browsing browsing(its);
     its.person.clicks_node("TrView", "Line1");
-    its.person.picks("lstItem", "Speed");
+    its.person.picks("lstItem", "");
     its.person.presses("bnOK");
     its.person.answers(no_item);
     its.person.is_at("dlgItemSelect");
@@ -115,10 +131,10 @@ SCENARIO(ItemEntry, OKWithoutAnItemAsksForOne) {
 SCENARIO(ItemEntry, TheHostsOwnMessageServiceShowsTheMessages) {
     a_plant(its);
     its.host.message_service = std::make_shared<FakeMessageService>(its.host.calls);
-    its.host.browser->failing = {"GetItemID"};
+    its.host.browser->root.branches[0].leaves = {""};
     Browsing browsing(its);
     its.person.clicks_node("TrView", "Line1");
-    its.person.picks("lstItem", "Speed");
+    its.person.picks("lstItem", "");
     its.person.presses("bnOK");
     its.person.enters("txtFullPath", "Nothing");
     its.person.presses("bnOK");
@@ -176,6 +192,47 @@ SCENARIO(ItemEntry, AStartingItemShowsAndCanBeConfirmed) {
     its.person.presses("bnOK");
     EXPECT_TRUE(browsing.result());
     EXPECT_EQ(browsing.ItemID(), "Line2.Count");
+}
+
+SCENARIO(ItemEntry, AStartingItemIsReplacedByTypingAtOnce) {
+    a_plant(its);
+    Browsing browsing(its, "Line2.Count");
+    EXPECT_TRUE(its.person.has_focus("txtFullPath"));
+    its.person.types("Line1.Speed");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
+    its.person.hits(Key::enter);
+    EXPECT_TRUE(browsing.result());
+    EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
+}
+
+SCENARIO(ItemEntry, TheKeyboardSelectsTheWholeEntryAndTheMousePlacesTheCaret) {
+    a_plant(its);
+    const Browsing browsing(its, "Line2.Count");
+    const auto typing_gives = [&](const char* text, const char* result) {
+        its.person.types(text);
+        EXPECT_EQ(its.person.reads("txtFullPath"), result);
+    };
+    its.person.goes_to("txtFullPath");
+    typing_gives("er", "Line2.Counter");
+    its.person.clicks_node("TrView", "Line2");
+    its.person.picks("lstItem", "Count");
+    its.person.uses_accelerator('c'); // as "Cancel" has it too
+    typing_gives("w", "w");
+    its.person.uses_accelerator('c');
+    EXPECT_TRUE(its.person.has_focus("bnCancel"));
+    its.person.uses_accelerator('c');
+    typing_gives("x", "x");
+    its.person.hits(Key::tab);
+    its.person.hits(Key::back_tab);
+    typing_gives("y", "y");
+    its.person.hits(Key::back_tab);
+    EXPECT_TRUE(its.person.has_focus("lstItem"));
+    its.person.hits(Key::tab);
+    typing_gives("z", "z");
+    its.person.goes_to("lstItem");
+    its.person.goes_to("txtFullPath");
+    typing_gives("oo", "zoo");
+    its.person.presses("bnCancel");
 }
 
 SCENARIO(ItemEntry, AStartingItemShowsOnAFlatServerToo) {

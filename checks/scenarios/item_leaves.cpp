@@ -99,14 +99,30 @@ SCENARIO(ItemBrowser, ALeafWithoutAnIdentifierLeavesTheFormerOneInTheEntry) {
     EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
 }
 
-SCENARIO(ItemBrowser, ALeafWithoutAnIdentifierAndNoFormerOneLeavesTheEntryEmpty) {
+SCENARIO(ItemBrowser, ALeafWithoutAnIdentifierAndNoFormerOneLeavesTheEntryEmptyAndOKDisabled) {
     a_plant(its);
     const Browsing browsing(its);
     its.host.browser->failing = {"GetItemID"};
     its.person.clicks_node("TrView", "Line1");
     its.person.picks("lstItem", "Speed");
     EXPECT_EQ(its.person.reads("txtFullPath"), "");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(ItemBrowser, OKIsDisabledAgainWhenABranchEmptiesAnEntryThatIsEmptyAlready) {
+    a_plant(its);
+    its.host.browser->root.branches[0].leaves = {""};
+    const Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "");
     EXPECT_TRUE(its.person.can_press("bnOK"));
+    its.person.clicks_node("TrView", "Line2");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "");
+    its.person.presses("cmdRefresh");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
     its.person.presses("bnCancel");
 }
 
@@ -124,7 +140,7 @@ SCENARIO(ItemBrowser, TheServerIsNotAskedForTheIdentifierOfALeafWithoutAName) {
     its.person.presses("bnCancel");
 }
 
-SCENARIO(ItemBrowser, ASelectedLeafIsNotAskedForAgain) {
+SCENARIO(ItemBrowser, AClickOnTheSelectedLeafFillsTheEntryAgain) {
     a_plant(its);
     Browsing browsing(its);
     its.person.clicks_node("TrView", "Line1");
@@ -132,7 +148,36 @@ SCENARIO(ItemBrowser, ASelectedLeafIsNotAskedForAgain) {
     its.person.enters("txtFullPath", "Line2.Count");
     browsing.calls();
     its.person.picks("lstItem", "Speed");
-    EXPECT_EQ(its.person.reads("txtFullPath"), "Line2.Count");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
+    EXPECT_EQ(browsing.calls(), Calls{"OPCBrowser.GetItemID(Speed)"});
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(ItemBrowser, ADoubleClickOnTheSelectedLeafTakesItAndNotWhatWasTyped) {
+    a_plant(its);
+    Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "Speed");
+    its.person.enters("txtFullPath", "Line2.Count");
+    browsing.calls();
+    its.person.double_clicks("lstItem", "Speed");
+    EXPECT_TRUE(browsing.result());
+    EXPECT_EQ(browsing.ItemID(), "Line1.Speed");
+    EXPECT_EQ(browsing.calls(),
+              Calls({"OPCBrowser.GetItemID(Speed)", "OPCGroup.OPCItems", "OPCItems.Validate"}));
+}
+
+SCENARIO(ItemBrowser, TheKeysDoNotAskForTheSelectedLeafAgain) {
+    a_plant(its);
+    Browsing browsing(its);
+    its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "Running");
+    browsing.calls();
+    its.person.hits(Key::up);
+    EXPECT_EQ(browsing.calls(), Calls());
+    its.person.hits(Key::down);
+    EXPECT_EQ(browsing.calls(), Calls{"OPCBrowser.GetItemID(Speed)"});
+    its.person.hits(Key::down);
     EXPECT_EQ(browsing.calls(), Calls());
     its.person.presses("bnCancel");
 }

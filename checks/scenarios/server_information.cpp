@@ -101,6 +101,17 @@ SCENARIO(ServerInformation, ReturnsTrueHoweverItWasClosed) {
     EXPECT_TRUE(information.result());
 }
 
+SCENARIO(ServerInformation, StartsOnOKAndItsFieldsAreReachedByTab) {
+    const auto server = a_server(its);
+    Showing information(*its.stage, "ServerInformation");
+    information.show(server);
+    EXPECT_TRUE(its.person.has_focus("bnOK"));
+    its.person.hits(Key::tab);
+    EXPECT_TRUE(its.person.has_focus("Start"));
+    its.person.presses("bnOK");
+    EXPECT_TRUE(information.result());
+}
+
 SCENARIO(ServerInformation, NobodyCanTypeIntoTheFields) {
     const auto server = a_server(its);
     Showing information(*its.stage, "ServerInformation");

@@ -247,8 +247,9 @@ void OnWindows::while_showing(const std::function<void()>& job, const Person& pe
     other.join();
 }
 
-void OnWindows::note_help(HWND, const std::wstring& file, DWORD topic) {
+bool OnWindows::note_help(HWND, const std::wstring& file, DWORD topic) {
     help_opened.push_back(from_wide(file) + " at " + std::to_string(topic));
+    return true;
 }
 
 } // namespace brx::checks

@@ -123,11 +123,11 @@ protected:
     BareHost host;
     std::vector<std::string> help_opened; ///< "file at topic"
     Win32Engine engine{
-        [this](HWND over, const std::wstring& file, DWORD topic) { note_help(over, file, topic); }};
+        [this](HWND over, const std::wstring& file, DWORD topic) { return note_help(over, file, topic); }};
     Environment environment{engine, host, host, Locale::us_english()};
 
 private:
-    void note_help(HWND over, const std::wstring& file, DWORD topic);
+    bool note_help(HWND over, const std::wstring& file, DWORD topic);
 };
 
 } // namespace brx::checks

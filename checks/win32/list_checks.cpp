@@ -143,7 +143,7 @@ TEST_F(ListTest, ALineInsertedAboveMovesTheSelectionAlong) {
     EXPECT_EQ(form.events, "");
 }
 
-TEST_F(ListTest, AClickOnALineSelectsItOnce) {
+TEST_F(ListTest, AClickOnTheSelectedLineIsToldAndAKeyThatStaysThereIsNot) {
     Lists form(environment);
     form.on_load = [&] { add_three(form.Box); };
     show(form, [&](Hands& hands) {
@@ -153,8 +153,10 @@ TEST_F(ListTest, AClickOnALineSelectsItOnce) {
         hands.click(box, 5, height + height / 2);
         hands.click(box, 5, height + height / 2);
         hands.key(VK_DOWN);
+        hands.key(VK_DOWN);
+        hands.click(box, 5, 90); // below the last one
     });
-    EXPECT_EQ(form.events, "Click1 Click2 ");
+    EXPECT_EQ(form.events, "Click1 Click1 Click2 ");
 }
 
 TEST_F(ListTest, ADoubleClickCountsOnALineAndNotBelowTheLast) {
@@ -165,9 +167,11 @@ TEST_F(ListTest, ADoubleClickCountsOnALineAndNotBelowTheLast) {
         const HWND box = hands.control("Lists", "Box");
         hands.double_click(box, 5, 5);
         hands.run([&] { EXPECT_EQ(form.events, "Click0 DblClick "); });
+        hands.double_click(box, 5, 5);
+        hands.run([&] { EXPECT_EQ(form.events, "Click0 DblClick Click0 DblClick "); });
         hands.double_click(box, 5, 80);
     });
-    EXPECT_EQ(form.events.find("DblClick", 12), std::string::npos) << form.events;
+    EXPECT_EQ(form.events.find("DblClick", 30), std::string::npos) << form.events;
 }
 
 TEST_F(ListTest, ASelectionThatIsRefusedIsTakenBack) {

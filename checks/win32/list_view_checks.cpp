@@ -232,6 +232,37 @@ TEST_F(ListViewTest, ColumnsGrowWithTheScaleAndKeepTheWidthsThatAPersonGaveThem)
     });
 }
 
+TEST_F(ListViewTest, ColumnsShareTheRoomOfALargerFormAndGiveItBack) {
+    Pages form(environment);
+    show_rows(form, 3, [&](Hands&, HWND list) {
+        const HWND window = GetParent(list);
+        const auto widths = [&] { return std::vector<int>{width(list, 0), width(list, 1), width(list, 2)}; };
+        grow(window, 310, 40);
+        EXPECT_EQ(widths(), (std::vector<int>{300, 160, 160})) << "They were 310 together.";
+        grow(window, -155, 0);
+        EXPECT_EQ(widths(), (std::vector<int>{225, 120, 120}));
+        grow(window, -155, -40);
+        EXPECT_EQ(widths(), (std::vector<int>{150, 80, 80}));
+    });
+}
+
+TEST_F(ListViewTest, AWidthThatAPersonGaveAColumnStaysInProportion) {
+    Pages form(environment);
+    show_rows(form, 3, [&](Hands&, HWND list) {
+        const HWND window = GetParent(list);
+        grow(window, 310, 0);
+        SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 240);
+        grow(window, -155, 0);
+        EXPECT_EQ(width(list, 1), 180);
+        EXPECT_EQ(width(list, 0), 225);
+        grow(window, -155, 0);
+        EXPECT_EQ(width(list, 1), 120);
+        EXPECT_EQ(width(list, 2), 80);
+        set_scale(list, 192);
+        EXPECT_EQ(width(list, 1), 240);
+    });
+}
+
 TEST_F(ListViewTest, AFormDescribesItsTableItsTabsAndItsDates) {
     Pages form(environment);
     show_rows(form, 2, [&](Hands& hands, HWND list) {

@@ -130,12 +130,43 @@ TEST_F(ListViewPersonTest, TheBlankSelectsWhereNoRowIsSelectedAndNeverEndsASelec
     });
 }
 
-TEST_F(ListViewPersonTest, EnterPressesTheDefaultButton) {
+TEST_F(ListViewPersonTest, EnterOpensTheSelectedRowAndPressesTheDefaultButtonElsewhere) {
     Pages form(environment);
-    show_rows(form, 3, [&](Hands& hands, HWND) {
+    show_rows(form, 3, [&](Hands& hands, HWND list) {
         hands.key(VK_RETURN);
-        EXPECT_EQ(form.events, "OK. ");
+        EXPECT_EQ(form.events, "OK. ") << "No row is selected.";
+        form.events.clear();
+        hands.key(VK_DOWN);
+        hands.key(VK_DOWN);
+        hands.key(VK_RETURN);
+        EXPECT_EQ(form.events, "Twice 2. ");
+        EXPECT_EQ(selected_row_of(list), 1);
+        form.events.clear();
+        hands.run([&] { SetFocus(hands.control("Pages", "Name")); });
+        hands.key(VK_RETURN);
+        EXPECT_EQ(form.events, "OK. ") << "The focus is elsewhere.";
     });
+}
+
+TEST_F(ListViewPersonTest, EnterOpensARowOnceAlsoWhenThatBringsAnotherForm) {
+    Pages form(environment);
+    Pages inner(environment);
+    int opened = 0;
+    form.on_twice = [&] {
+        ++opened;
+        inner.show_modal();
+    };
+    show_rows(form, 3, [&](Hands& hands, HWND list) {
+        hands.key(VK_DOWN);
+        Hands::strike({VK_RETURN});
+        EXPECT_TRUE(Hands::eventually([&] { return inner.loaded(); }));
+        hands.wait_until_idle();
+        EXPECT_EQ(inner.events, "") << "Its default button has not been pressed.";
+        hands.run([&] { inner.user_close(); });
+        EXPECT_TRUE(Hands::eventually([&] { return IsWindowEnabled(GetParent(list)) != FALSE; }));
+        hands.wait_until_idle();
+    });
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(ListViewPersonTest, WhatTheControlRefusesIsNotShown) {

@@ -35,6 +35,7 @@ public:
     std::string events;
     std::function<void()> on_load;
     std::function<void()> on_day;
+    std::function<void()> on_twice = [] {};
 
     // clang-format off
     TextBox    Before{*this,  "Before", {.place = {10, 268, 60, 23}, .tab = 1, .anchor = Anchor::bottom}};
@@ -49,7 +50,7 @@ public:
                                          .Click = [this] { note("Go"); }}};
     ListView   List  {First,  "List",   {.place = {4, 34, 380, 180}, .tab = 7,
                                          .anchor = Anchor::stretch_width | Anchor::stretch_height,
-                                         .DblClick = [this] { note("Twice " + std::to_string(List.selected())); }}};
+                                         .DblClick = [this] { note("Twice " + std::to_string(List.selected())); on_twice(); }}};
     Panel      Second{*this,  "Second", {.place = {16, 36, 388, 218}, .tab = 8, .visible = false,
                                          .anchor = Anchor::stretch_width | Anchor::stretch_height}};
     DatePicker Day   {Second, "Day",    {.place = {60, 4, 120, 23}, .tab = 9,

@@ -18,17 +18,20 @@ TEST_F(TreeTest, AClickOnANodeSelectsItAndTellsSoEachTime) {
     });
 }
 
-TEST_F(TreeTest, AClickOnTheSignOpensAndClosesAndNothingElse) {
+TEST_F(TreeTest, AClickOnTheSignOpensOrClosesAndThenTellsOfAClick) {
     Trees form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         click_sign(hands, tree, 0);
         EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "   Apple", "  +Pear", " Spice"}));
-        EXPECT_EQ(form.events, "Expand Fruit. ");
+        EXPECT_EQ(form.events, "Expand Fruit. Click. ");
         EXPECT_EQ(selected_row(tree), -1);
         EXPECT_EQ(hands.focus(), tree);
+        click_text(hands, tree, 1);
+        form.events.clear();
         click_sign(hands, tree, 0);
         EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"}));
-        EXPECT_EQ(form.events, "Expand Fruit. ");
+        EXPECT_EQ(form.events, "Click. ");
+        EXPECT_EQ(selected_row(tree), 0) << "The selection moves up with it.";
     });
 }
 
@@ -40,10 +43,12 @@ TEST_F(TreeTest, ADoubleClickOnANodeClicksItAndThenOpensOrClosesIt) {
             hands.double_click(tree, point.x, point.y);
         };
         double_click(0);
-        EXPECT_EQ(form.events, "NodeClick Fruit. Click. Expand Fruit. ");
+        EXPECT_EQ(form.events, "NodeClick Fruit. Click. Expand Fruit. Click. ");
         EXPECT_EQ(tree_rows(tree).size(), 4U);
+        form.events.clear();
         double_click(0);
         EXPECT_EQ(tree_rows(tree).size(), 2U);
+        EXPECT_EQ(form.events, "NodeClick Fruit. Click. Click. ");
         form.events.clear();
         double_click(1);
         EXPECT_EQ(form.events, "NodeClick Spice. Click. ");

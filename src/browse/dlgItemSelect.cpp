@@ -45,6 +45,7 @@ void dlgItemSelect::Form_Load() {
         TrView.set_line_style(LineStyle::root_lines);
         TrView.set_style(TreeStyle::tree_lines_plus_minus_text);
         if (!leaf_.empty()) SearchForPath(true);
+        if (!txtFullPath.text().empty()) txtFullPath.set_focus();
     });
 }
 
@@ -63,7 +64,7 @@ void dlgItemSelect::ConnectServer() {
         const BusyCursor busy(*this);
         TrView.clear();
         lstItem.clear();
-        txtFullPath.set_text("");
+        set_path("");
         if (!browser_) attempt([&] { browser_ = the(server_).CreateBrowser(); });
         if (!browser_) return show_nothing_to_browse();
         browser_->MoveToRoot();
@@ -128,7 +129,7 @@ void dlgItemSelect::TrView_Expand(TreeNode& Node) {
 void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
     trap("BuildNodes", [&] {
         lstItem.clear();
-        txtFullPath.set_text("");
+        set_path("");
         const StringArray branches = branches_of(ParentKey);
         if (!browser_) return;
         if (browser_->Organization() == flat_organization) return GetAllLeaves();
@@ -161,16 +162,15 @@ void dlgItemSelect::TrView_NodeClick(TreeNode& Node) {
 
 void dlgItemSelect::TrView_Click() {
     trap("TrView_Click", [&] {
-        const TreeNode* node = TrView.selected();
-        if (!node) throw Error(error::object_not_set);
-        BuildLeaves(node->key(), node->index());
+        // A sign can be pressed where no node is selected.
+        if (const TreeNode* node = TrView.selected()) BuildLeaves(node->key(), node->index());
     });
 }
 
 void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
     trap("BuildLeaves", [&] {
         lstItem.clear();
-        txtFullPath.set_text("");
+        set_path("");
         const StringArray branches = branches_of(Key);
         if (!browser_) return;
         browser_->MoveToRoot();

@@ -96,6 +96,7 @@ private:
     void show_nothing_to_browse();
     void show_browsing();
     void list_items(std::int32_t count);
+    void set_path(const std::string& text);
 
     OPCServerPtr server_;
     OPCGroupPtr group_;

@@ -16,7 +16,7 @@ bool dlgItemSelect::SearchForPath(bool SelectFlag) {
         browser_->ShowLeafs(true);
         const std::int32_t count = browser_->Count();
         for (std::int32_t i = 1; i <= count; ++i) {
-            if (SelectFlag) return txtFullPath.set_text(leaf_);
+            if (SelectFlag) return set_path(leaf_);
             if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
             found = true;
             return;
@@ -27,7 +27,7 @@ bool dlgItemSelect::SearchForPath(bool SelectFlag) {
 
 void dlgItemSelect::lstItem_Click() {
     trap("lstItem_Click", [&] {
-        txtFullPath.set_text("");
+        set_path("");
         if (lstItem.selected() < 0) {
             selected_leaf_.clear();
             bnOK.set_enabled(false);
@@ -38,12 +38,20 @@ void dlgItemSelect::lstItem_Click() {
         if (selected_leaf_.empty()) return;
         // The browser still stands at the branch that was listed.
         attempt([&] { leaf_ = browser_->GetItemID(selected_leaf_); });
-        txtFullPath.set_text(leaf_);
+        set_path(leaf_);
     });
 }
 
 void dlgItemSelect::lstItem_DblClick() {
     trap("lstItem_DblClick", [&] { bnOK_Click(); });
+}
+
+/// OK follows the box also where it holds this text already.
+void dlgItemSelect::set_path(const std::string& text) {
+    if (txtFullPath.text() == text)
+        txtFullPath_Change();
+    else
+        txtFullPath.set_text(text);
 }
 
 void dlgItemSelect::txtFullPath_Change() {
@@ -104,6 +112,7 @@ bool dlgItemSelect::ValidateItem(const std::string& ItemID) {
         show_message({.text = the(group_->Parent()).GetErrorString(error),
                       .style = message::exclamation,
                       .title = "Item Error"});
+        hlxFocus::select_text(txtFullPath);
     });
     return valid;
 }

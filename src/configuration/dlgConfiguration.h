@@ -97,7 +97,8 @@ private:
     ComboBox   cboSGTimeUnit     {frmSubgroup, "cboSGTimeUnit",     {.place = {349, 20, 140, 23}, .tab = 27}};
     Label      lblSGEval         {frmSubgroup, "lblSGEval",         {.place = {11, 54, 80, 15}, .caption = "&E. Trigger:", .tab = 28}};
     TextBox    txtSGEval         {frmSubgroup, "txtSGEval",         {.place = {95, 50, 371, 23}, .tab = 29, .display_only = true, .anchor = wide}};
-    Button     cmdSubgroupTrigger{frmSubgroup, "cmdSubgroupTrigger",{.place = {466, 50, 23, 23}, .caption = "...", .tab = 30,
+    Button     cmdSubgroupTrigger{frmSubgroup, "cmdSubgroupTrigger",{.place = {466, 50, 23, 23}, .caption = "...",
+                                                                     .tip = "Set the trigger of subgroups", .tab = 30,
                                                                      .anchor = Anchor::right,
                                                                      .Click = [this] { cmdSubgroupTrigger_Click(); }}};
 
@@ -110,7 +111,8 @@ private:
     ComboBox   cboPieceTimeUnit    {frmPiece, "cboPieceTimeUnit",  {.place = {349, 20, 140, 23}, .tab = 34}};
     Label      lblPieceEval        {frmPiece, "lblPieceEval",      {.place = {11, 54, 80, 15}, .caption = "&H. Trigger:", .tab = 35}};
     TextBox    txtPieceEval        {frmPiece, "txtPieceEval",      {.place = {95, 50, 371, 23}, .tab = 36, .display_only = true, .anchor = wide}};
-    Button     cmdPieceTrigger     {frmPiece, "cmdPieceTrigger",   {.place = {466, 50, 23, 23}, .caption = "...", .tab = 37,
+    Button     cmdPieceTrigger     {frmPiece, "cmdPieceTrigger",   {.place = {466, 50, 23, 23}, .caption = "...",
+                                                                    .tip = "Set the trigger of pieces", .tab = 37,
                                                                     .anchor = Anchor::right,
                                                                     .Click = [this] { cmdPieceTrigger_Click(); }}};
 

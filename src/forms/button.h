@@ -7,6 +7,7 @@ namespace brx {
 struct ButtonDesign {
     Place place;
     std::string caption = {};
+    std::string tip = {}; ///< what it opens, where the caption does not say so
     int tab = 0;
     bool enabled = true;
     bool visible = true;
@@ -25,6 +26,7 @@ public:
     bool focusable() const override { return true; }
 
     const std::string& caption() const { return design_.caption; }
+    const std::string& tip() const { return design_.tip; }
     bool is_default() const { return design_.is_default; }
     bool is_cancel() const { return design_.is_cancel; }
 

@@ -57,6 +57,15 @@ void Control::set_focus() {
     form().move_focus(this);
 }
 
+void Control::take_focus() {
+    set_focus();
+    if (form().focused() == this) select_content();
+}
+
+bool Control::user_take_focus() {
+    return can_focus() && by_person([&] { take_focus(); });
+}
+
 bool Control::user_focus() {
     if (form().focused() == this) return true;
     return can_focus() && by_person([&] { form().move_focus(this); });

@@ -93,11 +93,15 @@ public:
     bool shows() const;
     /// Whether the focus can be on this kind of control.
     virtual bool focusable() const { return false; }
+    /// Whether there is anything to do in it but read.
+    virtual bool takes_entries() const { return true; }
     /// Whether the focus can be on it now.
     bool can_focus() const { return focusable() && takes_input() && shows(); }
 
     /// Moves the focus here. Error 5 when it cannot be here.
     void set_focus();
+    /// The same as the keyboard does it: the text of a box is selected as a whole.
+    void take_focus();
 
     /// Back to the design state, without events.
     virtual void reset() { look_ = design_look_; }
@@ -106,8 +110,10 @@ public:
     virtual void got_focus() {}
     virtual void lost_focus() {}
 
-    /// A person moved the focus here.
+    /// A person moved the focus here, with the mouse for instance.
     bool user_focus();
+    /// A person moved the focus here with the keyboard, or it is here already.
+    bool user_take_focus();
 
 protected:
     Control(Container& container, const char* name, const Look& look);
@@ -115,6 +121,9 @@ protected:
 
     /// Runs what a person did. False, and nothing happens, when a person could not have done it.
     template <class Deed> bool by_person(Deed&& deed);
+
+    /// The focus came as from the keyboard.
+    virtual void select_content() {}
 
     static void fire(const Handler& handler) {
         if (handler) handler();

@@ -51,8 +51,8 @@ public:
     /// Shows the system's message box over the form in front and returns the button pressed.
     virtual std::int32_t message_box(const Message& message) = 0;
 
-    /// Opens the help file at the topic.
-    virtual void show_help(const std::string& help_file, std::int32_t topic) = 0;
+    /// Opens the help file at the topic, with 0 at its contents. False when there is no such file.
+    virtual bool show_help(const std::string& help_file, std::int32_t topic) = 0;
 };
 
 } // namespace brx

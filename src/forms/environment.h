@@ -28,7 +28,7 @@ struct Environment {
     Services services;
     ErrorReports errors;
     Locale locale;
-    std::string help_file; ///< opened by F1; each dialog sets it from the host's help service as it loads
+    std::string help_file; ///< opened by F1; "" as long as no dialog has asked the host for it
 };
 
 } // namespace brx

@@ -50,14 +50,17 @@ void Form::load() {
     for (Control* control : controls_) control->reset();
     loaded_ = true;
     run_event([&] { Form_Load(); });
-    if (!loaded_ || focused_) return;
-    if (Control* first = first_focusable()) run_event([&] { move_focus(first); });
+    if (!loaded_) return;
+    if (Control* first = focused_ ? focused_ : first_focusable(); first && first->can_focus())
+        run_event([&] { first->take_focus(); });
 }
 
 Control* Form::first_focusable() const {
     const std::vector<Control*> order = controls_in_tab_order();
-    const auto first =
-        std::find_if(order.begin(), order.end(), [](const Control* each) { return each->can_focus(); });
+    const auto can_focus = [](const Control* each) { return each->can_focus(); };
+    const auto takes_entries = [](const Control* each) { return each->can_focus() && each->takes_entries(); };
+    auto first = std::find_if(order.begin(), order.end(), takes_entries);
+    if (first == order.end()) first = std::find_if(order.begin(), order.end(), can_focus);
     return first == order.end() ? nullptr : *first;
 }
 
@@ -140,9 +143,16 @@ bool Form::user_close() {
 
 bool Form::user_help() {
     if (!in_front()) return false;
-    if (!environment_.help_file.empty())
-        run_event([&] { environment_.engine.show_help(environment_.help_file, help_topic_); });
+    run_event([&] { show_help(); });
     return true;
+}
+
+void Form::show_help() {
+    std::string file = environment_.help_file;
+    // Not every dialog asks for it as it loads.
+    if (file.empty()) attempt([&] { file = environment_.services.help_file(); });
+    if (file.empty() || environment_.engine.show_help(file, help_topic_)) return;
+    show_message({.text = "The help file " + file + " cannot be found.", .style = message::exclamation});
 }
 
 } // namespace brx

@@ -55,7 +55,8 @@ public:
     /// Closes the form. A handler that is running goes on to its end.
     void unload();
 
-    /// The first control in tab order that the focus can be on now; null when there is none.
+    /// The first control in tab order that the focus can be on now, one that only displays when there is no
+    /// other; null when there is none at all.
     Control* first_focusable() const;
 
     /// Brings every peer of this form up to date.
@@ -69,7 +70,7 @@ public:
 
     /// A person closed the window by other means than a button.
     bool user_close();
-    /// A person pressed F1.
+    /// A person pressed F1: the help file opens, where the host has one.
     bool user_help();
 
     /// Whether a person can do anything with this form now.
@@ -100,6 +101,7 @@ private:
     void move_focus(Control* control);
     void keep_focus_usable();
     void note_within(const Control& container, Aspect aspects);
+    void show_help();
 
     Environment& environment_;
     FormDesign design_;

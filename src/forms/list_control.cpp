@@ -35,7 +35,7 @@ void ListControl::select(int index) {
     if (index < -1 || index >= count()) throw Error(error::invalid_procedure_call);
     selected_ = index;
     changed(Aspect::selection);
-    if (index >= 0) fire(design_.Click);
+    if (index >= 0) fire_click();
 }
 
 void ListControl::reset() {

@@ -54,6 +54,8 @@ public:
         if (index == selected_) return true;
         return index >= 0 && index < count() && by_person([&] { select(index); });
     }
+    /// A person pressed the mouse on a line.
+    virtual bool user_press(int index) { return user_select(index); }
     /// A person double-clicked the selected line.
     bool user_double_click() {
         return by_person([&] { fire(design_.DblClick); });
@@ -64,6 +66,7 @@ public:
 protected:
     ListControl(Container& container, const char* name, const ListDesign& design)
         : Control(container, name, window_look_of(design)), design_(design) {}
+    void fire_click() const { fire(design_.Click); }
 
 private:
     int checked(int index) const;
@@ -79,6 +82,11 @@ public:
     ListBox(Container& container, const char* name, const ListDesign& design)
         : ListControl(container, name, design) {}
     Kind kind() const override { return Kind::list_box; }
+    /// On the selected line it is a click all the same.
+    bool user_press(int index) override {
+        if (index < 0 || index != selected()) return user_select(index);
+        return by_person([this] { fire_click(); });
+    }
 };
 
 /// A drop-down list: a person chooses a line and cannot type.

@@ -115,6 +115,8 @@ public:
     bool user_double_click() {
         return by_person([&] { fire(design_.DblClick); });
     }
+    /// Whether Enter opens the selected row, as a double click does, and presses no button.
+    bool takes_enter() const { return selected_ != 0 && design_.DblClick; }
 
     /// What an engine has to show again since the last call.
     struct Changes {

@@ -23,7 +23,7 @@ bool TabStrip::user_select(int tab) {
         select(tab);
         const Control* focused = form().focused();
         if (!form().loaded() || (focused && focused->can_focus())) return;
-        if (Control* first = form().first_focusable()) first->set_focus();
+        if (Control* first = form().first_focusable()) first->take_focus();
     });
 }
 

@@ -46,6 +46,7 @@ public:
     bool focusable() const override { return true; }
     bool display_only() const { return design_.display_only; }
     bool takes_enter() const { return design_.takes_enter; }
+    bool takes_entries() const override { return !display_only(); }
 
     const std::string& text() const { return text_; }
     void set_text(const std::string& text) {
@@ -61,8 +62,18 @@ public:
         all_selected_ = true;
         changed(Aspect::selection);
     }
-    /// Whether the whole text has been selected since it last became different.
+    /// Whether the whole text is selected, as far as the box knows.
     bool all_selected() const { return all_selected_; }
+
+    /// A person pressed the mouse in the box: the caret goes there, unless the form selects the text as the
+    /// focus comes.
+    bool user_press() {
+        if (form().focused() == this) return by_person([&] { all_selected_ = false; });
+        return can_focus() && by_person([&] {
+                   all_selected_ = false;
+                   set_focus();
+               });
+    }
 
     /// A person pressed a key down; released it.
     bool user_key_down(std::int32_t key_code) {
@@ -98,6 +109,9 @@ public:
         text_ = design_.text;
         all_selected_ = false;
     }
+
+protected:
+    void select_content() override { select_all(); }
 
 private:
     TextBoxDesign design_;

@@ -135,23 +135,34 @@ bool TreeView::user_select(TreeNode& node) {
 
 bool TreeView::user_expand(TreeNode& node) {
     if (node.expanded_) return true;
-    if (!in_view(node) || !node.first_child_) return false;
-    const int index = node.index_;
-    return by_person([&] {
-        if (design_.Expand) design_.Expand(node);
-        // The handler may have removed it, or all that there was to show.
-        TreeNode* const still = find(index);
-        if (still && still->first_child_) open(*still, true);
-    });
+    return in_view(node) && node.first_child_ && by_person([&] { expand(node); });
 }
 
 bool TreeView::user_collapse(TreeNode& node) {
     if (!node.expanded_) return true;
-    return in_view(node) && by_person([&] {
-               open(node, false);
-               for (TreeNode* each = selected_; each; each = each->parent_)
-                   if (each == &node) return select(&node);
+    return in_view(node) && by_person([&] { collapse(node); });
+}
+
+bool TreeView::user_toggle(TreeNode& node) {
+    return in_view(node) && node.first_child_ && by_person([&] {
+               node.expanded_ ? collapse(node) : expand(node);
+               // Where the handler has taken the tree away, the mouse is on it no more.
+               if (form().loaded() && takes_input() && shows()) fire(design_.Click);
            });
+}
+
+void TreeView::expand(TreeNode& node) {
+    const int index = node.index_;
+    if (design_.Expand) design_.Expand(node);
+    // The handler may have removed it, or all that there was to show.
+    TreeNode* const still = find(index);
+    if (still && still->first_child_) open(*still, true);
+}
+
+void TreeView::collapse(TreeNode& node) {
+    open(node, false);
+    for (TreeNode* each = selected_; each; each = each->parent_)
+        if (each == &node) return select(&node);
 }
 
 void TreeView::open(TreeNode& node, bool expanded) {

@@ -74,7 +74,7 @@ struct TreeViewDesign {
     Anchor anchor = Anchor::top_left;
     std::function<void(TreeNode&)> Expand = {};    ///< just before the node's children show
     std::function<void(TreeNode&)> NodeClick = {}; ///< a person selected the node, or clicked it again
-    Handler Click = {};                            ///< a person clicked a node; after NodeClick
+    Handler Click = {}; ///< a person clicked a node or its sign; after what that led to
 };
 
 /// A tree of named nodes, one of them selected or none.
@@ -123,9 +123,12 @@ public:
     bool user_click(TreeNode& node);
     /// A person moved the selection with the keyboard.
     bool user_select(TreeNode& node);
-    /// A person opened or closed a node. A selection below a closed node moves up to it.
+    /// A person opened or closed a node with the keyboard. A selection below a closed node moves up to it.
     bool user_expand(TreeNode& node);
     bool user_collapse(TreeNode& node);
+    /// A person pressed the mouse on the sign before a node, or a second time on the node: it opens or
+    /// closes, and Click follows.
+    bool user_toggle(TreeNode& node);
 
     /// What happened to the nodes since the last call, in order.
     struct Change {
@@ -154,6 +157,8 @@ private:
     void forget(TreeNode& node);
     void note(Change::Kind kind, int index);
     void open(TreeNode& node, bool expanded);
+    void expand(TreeNode& node);
+    void collapse(TreeNode& node);
     void drop_all();
 
     TreeViewDesign design_;

@@ -41,7 +41,8 @@ private:
     Label    Label1       {*this, "Label1",        {.place = {11, 15, 92, 15}, .caption = "&A. OPC Item:", .tab = 1}};
     ComboBox cboItem      {*this, "cboItem",       {.place = {107, 11, 280, 23}, .tab = 2,
                                                     .Click = [this] { txtItem_Click(); }}};
-    Button   bnItem       {*this, "bnItem",        {.place = {387, 11, 23, 23}, .caption = "...", .tab = 3,
+    Button   bnItem       {*this, "bnItem",        {.place = {387, 11, 23, 23}, .caption = "...",
+                                                    .tip = "Browse the server for an item", .tab = 3,
                                                     .Click = [this] { bnItem_Click(); }}};
     Label    Label2       {*this, "Label2",        {.place = {11, 45, 92, 15}, .caption = "&B. Expression", .tab = 4}};
     ComboBox cboExpression{*this, "cboExpression", {.place = {107, 41, 303, 23}, .tab = 5,

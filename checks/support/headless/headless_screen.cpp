@@ -145,7 +145,7 @@ void HeadlessScreen::pass_ticks(int times) {
         });
 }
 
-std::string HeadlessScreen::help() {
+std::optional<std::string> HeadlessScreen::help() {
     return there([&] { return engine_.help_shown(); });
 }
 

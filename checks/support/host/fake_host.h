@@ -45,9 +45,10 @@ private:
 class FakeHelpService : public hlxHelp {
 public:
     explicit FakeHelpService(CallLog& calls) : calls_(calls) {}
+    std::string path = "C:\\Plant\\collection.chm";
     std::string HelpFile() override {
         calls_.note("hlxHelp.HelpFile");
-        return "C:\\Plant\\collection.chm";
+        return path;
     }
 
 private:

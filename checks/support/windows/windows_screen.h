@@ -43,7 +43,7 @@ public:
     bool accelerator(char letter) override;
     bool close_box() override;
     bool answer(std::int32_t button) override;
-    std::string help() override { return {}; }
+    std::optional<std::string> help() override { return std::nullopt; }
     void pass_ticks(int times) override;
 
     /// What was found wrong after any deed, or is so now; "" for nothing.

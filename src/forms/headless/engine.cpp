@@ -2,12 +2,14 @@
 
 #include "forms/form.h"
 
+#include <filesystem>
 #include <utility>
 
 namespace brx {
 
 void HeadlessEngine::show_modal(Form& form) {
     HeadlessWindow window(form);
+    ++opened_;
     windows_.push_back(&window);
     baton_.serve([&] { return !form.loaded(); });
     windows_.pop_back();
@@ -21,13 +23,16 @@ void HeadlessEngine::hourglass(Form&, bool on) { hourglasses_ += on ? 1 : -1; }
 std::int32_t HeadlessEngine::message_box(const Message& message) {
     const auto outer_message = std::exchange(message_, message);
     answer_ = 0;
+    ++opened_;
     baton_.serve([&] { return answer_ != 0; });
     message_ = outer_message;
     return std::exchange(answer_, 0);
 }
 
-void HeadlessEngine::show_help(const std::string& help_file, std::int32_t topic) {
+bool HeadlessEngine::show_help(const std::string& help_file, std::int32_t topic) {
+    if (!std::filesystem::exists(help_file)) return false;
     help_shown_ = help_file + " at " + std::to_string(topic);
+    return true;
 }
 
 HeadlessWindow* HeadlessEngine::front() const {

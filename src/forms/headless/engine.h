@@ -21,7 +21,7 @@ public:
     void repaint(Form& form) override;
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
-    void show_help(const std::string& help_file, std::int32_t topic) override;
+    bool show_help(const std::string& help_file, std::int32_t topic) override;
 
     /// The window that takes input; null when there is none or a message box lies over it.
     HeadlessWindow* front() const;
@@ -29,6 +29,8 @@ public:
     const std::optional<Message>& message() const { return message_; }
     void answer(std::int32_t button) { answer_ = button; }
     int hourglasses() const { return hourglasses_; }
+    /// How many windows and message boxes have opened so far.
+    int opened() const { return opened_; }
     const std::string& help_shown() const { return help_shown_; }
 
 private:
@@ -37,6 +39,7 @@ private:
     std::optional<Message> message_;
     std::int32_t answer_ = 0;
     int hourglasses_ = 0;
+    int opened_ = 0;
     std::string help_shown_;
 };
 

@@ -64,7 +64,7 @@ Control* HeadlessUser::focused() const { return form() ? form()->focused() : nul
 bool HeadlessUser::click(const std::string& name) {
     Control* control = find(name);
     if (!control || !control->takes_input() || !control->shows()) return false;
-    control->user_focus();
+    focus(name);
     if (auto* button = as<Button>(control)) return button->user_click();
     if (auto* box = as<CheckBox>(control)) return box->user_toggle();
     return control->focusable();
@@ -72,6 +72,7 @@ bool HeadlessUser::click(const std::string& name) {
 
 bool HeadlessUser::focus(const std::string& name) {
     Control* control = find(name);
+    if (auto* box = as<TextBox>(control)) return box->user_press();
     return control && control->user_focus();
 }
 
@@ -133,6 +134,8 @@ bool HeadlessUser::enter() {
     if (!form()) return false;
     if (auto* box = as<TextBox>(focused()); box && box->takes_enter())
         return press_character(*box, std::string(1, static_cast<char>(enter_key)));
+    if (auto* table = as<ListView>(focused()); table && table->takes_enter())
+        return table->user_double_click();
     if (auto* button = as<Button>(focused())) return button->user_click();
     Button* button = form()->default_button();
     return button && button->user_click();
@@ -152,7 +155,7 @@ bool HeadlessUser::tab(bool backwards) {
     if (backwards) std::reverse(order.begin(), order.end());
     auto here = std::find(order.begin(), order.end(), focused());
     if (here == order.end() || ++here == order.end()) here = order.begin();
-    return (*here)->user_focus();
+    return (*here)->user_take_focus();
 }
 
 bool HeadlessUser::turn_tab(bool backwards) {
@@ -191,7 +194,7 @@ bool HeadlessUser::accelerator(char letter) {
     if (!meant) return false;
     Control* const target = focus_for(*meant);
     if (!target) return false;
-    if (!alone || target != meant) return target->user_focus();
+    if (!alone || target != meant) return target->user_take_focus();
     if (auto* strip = as<TabStrip>(meant)) return strip->user_select(tab_with(*strip, letter));
     return click(meant->name());
 }

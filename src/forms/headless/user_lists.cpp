@@ -33,18 +33,24 @@ bool HeadlessUser::choose(const std::string& name, int line) {
     auto* list = as<ListControl>(find(name));
     if (!list || !list->can_focus()) return false;
     list->user_focus();
-    return list->user_select(line);
+    return list->user_press(line);
 }
 
 bool HeadlessUser::double_click(const std::string& name, int line) {
-    if (auto* tree = as<TreeView>(find(name))) {
-        if (!choose(name, line)) return false;
+    Control* const control = find(name);
+    const Form* const before = form();
+    const int opened = engine_.opened();
+    if (!choose(name, line)) return false;
+    // Where the first click closed the form or brought something before it, the second one misses.
+    if (form() != before || engine_.opened() != opened || !control->can_focus()) return false;
+    if (auto* tree = as<TreeView>(control)) {
         TreeNode* node = node_at(*tree, line);
-        if (!node || !node->child()) return true;
-        return node->expanded() ? tree->user_collapse(*node) : tree->user_expand(*node);
+        if (node && node->child()) tree->user_toggle(*node);
+        return true;
     }
-    if (auto* table = as<ListView>(find(name))) return choose(name, line) && table->user_double_click();
-    return choose(name, line) && as<ListControl>(find(name))->user_double_click();
+    if (auto* table = as<ListView>(control)) return table->user_double_click();
+    auto* list = as<ListControl>(control);
+    return list && list->user_double_click();
 }
 
 bool HeadlessUser::expand(const std::string& name, int row) {
@@ -52,7 +58,7 @@ bool HeadlessUser::expand(const std::string& name, int row) {
     TreeNode* node = tree ? node_at(*tree, row) : nullptr;
     if (!node || !node->child() || node->expanded() || !tree->can_focus()) return false;
     tree->user_focus();
-    return tree->user_expand(*node);
+    return tree->user_toggle(*node);
 }
 
 bool HeadlessUser::collapse(const std::string& name, int row) {
@@ -60,7 +66,7 @@ bool HeadlessUser::collapse(const std::string& name, int row) {
     TreeNode* node = tree ? node_at(*tree, row) : nullptr;
     if (!node || !node->expanded() || !tree->can_focus()) return false;
     tree->user_focus();
-    return tree->user_collapse(*node);
+    return tree->user_toggle(*node);
 }
 
 /// A tree goes to the next node in view that begins with what is typed, round the end.

@@ -37,6 +37,8 @@ public:
         static_cast<void>(notification);
         return 0;
     }
+    /// A part of it is to be drawn, of a control that does not draw itself.
+    virtual void draw(const DRAWITEMSTRUCT& part) { static_cast<void>(part); }
     /// Enter or an accelerator acts now: what a person has begun to type counts.
     virtual void finish_typing() {}
     /// The form has another font or scale.

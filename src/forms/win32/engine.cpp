@@ -26,7 +26,7 @@ std::optional<WPARAM> serve(FormWindow& window) {
         } else if (message.message == WM_QUIT) {
             window.form().unload();
             return message.wParam;
-        } else if (!window.takes(message) && !IsDialogMessageW(window.handle(), &message)) {
+        } else if (!window.takes(message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
@@ -118,8 +118,8 @@ std::int32_t Win32Engine::message_box(const Message& message) {
     return pressed;
 }
 
-void Win32Engine::show_help(const std::string& help_file, std::int32_t topic) {
-    open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
+bool Win32Engine::show_help(const std::string& help_file, std::int32_t topic) {
+    return open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
 }
 
 HWND Win32Engine::window_in_front() const {

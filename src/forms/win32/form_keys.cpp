@@ -3,15 +3,26 @@
 #include "forms/accelerator.h"
 #include "forms/win32/form_window.h"
 
+#include <utility>
+
 namespace brx {
 
 namespace {
+
+bool is_key(const MSG& message) { return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST; }
 
 bool is_held(int key) { return (GetKeyState(key) & 0x8000) != 0; }
 
 } // namespace
 
-bool FormWindow::takes(const MSG& message) {
+bool FormWindow::takes(MSG& message) {
+    const bool outer = std::exchange(by_key_, is_key(message));
+    const bool taken = takes_key(message) || IsDialogMessageW(handle_, &message);
+    by_key_ = outer;
+    return taken;
+}
+
+bool FormWindow::takes_key(const MSG& message) {
     if (!handle_ || !IsChild(handle_, message.hwnd)) return false;
     bool taken = false;
     attempt([&] {
@@ -49,7 +60,8 @@ bool FormWindow::take_accelerator(WPARAM character) {
     if (!found.control || (found.alone && !strip)) return false;
     Control* const target = focus_for(*found.control);
     report([&] {
-        return found.alone ? strip->user_select(tab_with(*strip, letter)) : target && target->user_focus();
+        return found.alone ? strip->user_select(tab_with(*strip, letter))
+                           : target && target->user_take_focus();
     });
     return true;
 }

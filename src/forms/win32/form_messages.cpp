@@ -29,6 +29,11 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
     switch (message) {
     case WM_COMMAND:
         return command(wparam, reinterpret_cast<HWND>(lparam));
+    case WM_DRAWITEM: {
+        const auto& part = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
+        if (ControlPeer* const peer = peer_of(part.hwndItem)) peer->draw(part);
+        return TRUE;
+    }
     case WM_NOTIFY: {
         auto& notification = *reinterpret_cast<NMHDR*>(lparam);
         ControlPeer* const peer = peer_of(notification.hwndFrom);

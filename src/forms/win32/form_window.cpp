@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "forms/button.h"
 #include "forms/win32/dpi.h"
+#include "forms/win32/gdi.h"
 #include "forms/win32/wide.h"
 #include "forms/win32/window_name.h"
 #include "win32/this_module.h"
@@ -81,6 +82,7 @@ FontHandle FormWindow::renew_font() {
     FontHandle font(CreateFontIndirectW(&wanted));
     if (!font) throw Error(error::out_of_memory);
     font_.swap(font);
+    line_height_ = TextMeasure(handle_, font_.get()).height();
     return font;
 }
 
@@ -219,7 +221,9 @@ void FormWindow::focus_came_to(const ControlPeer& peer) noexcept {
     if (!handle_) return;
     mark_default_button(peer.handle());
     if (is_showing()) return;
-    if (!report([&] { return peer.control().user_focus(); })) PostMessageW(handle_, focus_message, 0, 0);
+    Control& control = peer.control();
+    const bool done = report([&] { return by_key_ ? control.user_take_focus() : control.user_focus(); });
+    if (!done) PostMessageW(handle_, focus_message, 0, 0);
 }
 
 /// The button that Enter presses stands out: the one with the focus, or else the form's default button.

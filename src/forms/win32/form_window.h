@@ -30,17 +30,23 @@ public:
     /// Puts it on the screen, with the focus where the form has it.
     void open();
     void refresh(Aspect aspects) override;
-    /// Whether the form itself takes a message of its controls that would else go to the dialog manager.
-    bool takes(const MSG& message);
+    /// Deals with a message of its controls, here or in the dialog manager; false when it is neither's.
+    bool takes(MSG& message);
 
     // For the peers of its controls.
 
     HFONT font() const { return font_.get(); }
     unsigned dpi() const { return dpi_; }
     Palette& palette() { return palette_; }
+    /// Where a line of text begins that stands in the middle of this height. All controls put theirs there,
+    /// so that a box and its label have one baseline.
+    LONG line_top(LONG top, LONG bottom) const { return (top + bottom - line_height_) / 2; }
+    LONG line_height() const { return line_height_; }
     UINT_PTR next_id() { return next_id_++; }
     /// Where a control lies in the window at its present size and scale.
     RECT place_of(const Control& control) const { return area_of(&control).rect; }
+    /// How much larger it is than it was designed.
+    SIZE growth_of(const Control& control) const { return area_of(&control).growth; }
     /// Soon draws again what a window and those over it show.
     void redraw_area_of(HWND window) const;
     void focus_came_to(const ControlPeer& peer) noexcept;
@@ -94,6 +100,7 @@ private:
     static INT_PTR CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
     INT_PTR handle_message(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     bool command(WPARAM wparam, HWND sender);
+    bool takes_key(const MSG& message);
     bool turn_tabs();
     bool take_accelerator(WPARAM character);
     void finish_typing();
@@ -110,8 +117,10 @@ private:
     HWND handle_ = nullptr;
     HWND tips_ = nullptr;
     unsigned dpi_ = 96;
+    LONG line_height_ = 0;
     UINT_PTR next_id_ = 100; // clear of the numbers that Enter and Escape send
     int showing_ = 0;
+    bool by_key_ = false; ///< a key is dealt with: where the focus comes, it comes from the keyboard
 };
 
 } // namespace brx

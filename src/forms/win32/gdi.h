@@ -32,6 +32,11 @@ public:
         GetTextExtentPoint32W(dc_, text, static_cast<int>(length), &size);
         return size.cx;
     }
+    int height() const {
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(dc_, &metrics);
+        return metrics.tmHeight;
+    }
     HDC dc() const { return dc_; }
 
 private:

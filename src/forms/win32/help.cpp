@@ -4,6 +4,8 @@
 
 #include <htmlhelp.h>
 
+#include <algorithm>
+
 namespace brx {
 
 namespace {
@@ -24,17 +26,26 @@ auto html_help() {
     return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(function));
 }
 
+/// A name without a folder is the viewer's to find. What follows the name within it stays for the viewer.
+bool is_missing(const std::wstring& file) {
+    const std::wstring name = file.substr(0, std::min(file.find(L"::"), file.find(L'>')));
+    const bool whole = name.rfind(L"\\\\", 0) == 0 || name.find(L':') == 1;
+    return whole && GetFileAttributesW(name.c_str()) == INVALID_FILE_ATTRIBUTES;
+}
+
 } // namespace
 
-void open_help_file(HWND over, const std::wstring& file, DWORD topic) {
+bool open_help_file(HWND over, const std::wstring& file, DWORD topic) {
+    if (is_missing(file)) return false;
     if (ends_with_ignoring_case(file, L".hlp")) {
         if (!WinHelpW(over, file.c_str(), topic != 0 ? HELP_CONTEXT : HELP_FINDER, topic))
             throw Error(error::cannot_create_object);
-        return;
+        return true;
     }
     const auto open = html_help();
     if (!open) throw Error(error::cannot_create_object);
     open(over, file.c_str(), topic != 0 ? HH_HELP_CONTEXT : HH_DISPLAY_TOPIC, topic);
+    return true;
 }
 
 } // namespace brx

@@ -12,6 +12,7 @@ namespace brx {
 
 namespace {
 constexpr int longest_drop = 20; ///< lines
+constexpr int text_indent = 1;   ///< in a line of a drop-down list, as in a box
 
 /// Room for the lines of a long list is asked for when so many of them are there. Some systems' lists give
 /// back what is far more than they need at the moment, and then grow by small steps, copying; but not once
@@ -108,14 +109,29 @@ void ListBoxPeer::show_extent(int width) {
 }
 
 LRESULT ListBoxPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    const bool twice = message == WM_LBUTTONDBLCLK;
+    if (!twice && message != WM_LBUTTONDOWN) return ListPeer::handle_message(message, wparam, lparam);
+    const int line = line_at(GET_Y_LPARAM(lparam));
     // The room below the last line is no line, but would be told as a double click all the same.
-    if (message == WM_LBUTTONDBLCLK && HIWORD(send(LB_ITEMFROMPOINT, 0, lparam)) != 0)
-        message = WM_LBUTTONDOWN;
-    return ListPeer::handle_message(message, wparam, lparam);
+    if (twice && line < 0) message = WM_LBUTTONDOWN;
+    const bool again = !twice && line >= 0 && line == list().selected();
+    const LRESULT result = ListPeer::handle_message(message, wparam, lparam);
+    // On its own a list tells of other lines only, or also of this one when the button goes up.
+    if (again && handle()) window().report([&] { return list().user_press(line); });
+    return result;
+}
+
+/// -1 for none. LB_ITEMFROMPOINT counts to 65535 only.
+int ListBoxPeer::line_at(int y) const {
+    const int line = static_cast<int>(send(LB_GETTOPINDEX)) + y / static_cast<int>(send(LB_GETITEMHEIGHT));
+    return y >= 0 && line < list().count() ? line : -1;
 }
 
 ComboBoxPeer::ComboBoxPeer(FormWindow& window, ComboBox& list)
-    : ListPeer(window, list, {WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP}, messages) {
+    : ListPeer(
+          window, list,
+          {WC_COMBOBOXW, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP},
+          messages) {
     send(CB_SETMINVISIBLE, longest_drop); // systems without visual styles go by the window's height
 }
 
@@ -135,9 +151,41 @@ void ComboBoxPeer::show_extent(int width) {
     send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width == 0 ? 0 : width + around));
 }
 
+/// Systems put the text of a closed box at different heights.
+void ComboBoxPeer::draw(const DRAWITEMSTRUCT& part) {
+    const bool closed = (part.itemState & ODS_COMBOBOXEDIT) != 0;
+    const bool selected = (part.itemState & ODS_SELECTED) != 0 && IsWindowEnabled(handle());
+    HBRUSH back = set_colors(part.hDC);
+    if (!back) {
+        SetTextColor(part.hDC, GetSysColor(COLOR_GRAYTEXT));
+        SetBkColor(part.hDC, GetSysColor(COLOR_BTNFACE));
+        back = GetSysColorBrush(COLOR_BTNFACE);
+    }
+    if (selected) {
+        SetTextColor(part.hDC, GetSysColor(COLOR_HIGHLIGHTTEXT));
+        SetBkColor(part.hDC, GetSysColor(COLOR_HIGHLIGHT));
+        back = GetSysColorBrush(COLOR_HIGHLIGHT);
+    }
+    FillRect(part.hDC, &part.rcItem, back);
+    const int index = static_cast<int>(part.itemID);
+    if (index >= 0 && index < list().count()) {
+        const std::wstring text = to_wide(list().line(index));
+        RECT whole{};
+        GetClientRect(handle(), &whole);
+        const LONG top = closed ? window().line_top(whole.top, whole.bottom)
+                                : window().line_top(part.rcItem.top, part.rcItem.bottom);
+        const HGDIOBJ before = SelectObject(part.hDC, window().font());
+        ExtTextOutW(part.hDC, part.rcItem.left + text_indent, top, ETO_CLIPPED, &part.rcItem, text.data(),
+                    static_cast<UINT>(text.size()), nullptr);
+        SelectObject(part.hDC, before);
+    }
+    if ((part.itemState & (ODS_FOCUS | ODS_NOFOCUSRECT)) == ODS_FOCUS) DrawFocusRect(part.hDC, &part.rcItem);
+}
+
 void ComboBoxPeer::move_to(const RECT& place) {
     const int height = place.bottom - place.top;
-    const int line = static_cast<int>(send(CB_GETITEMHEIGHT, 0));
+    const int line = static_cast<int>(window().line_height());
+    send(CB_SETITEMHEIGHT, 0, line);
     const int lines = std::clamp(list().count(), 1, longest_drop);
     RECT drop = place;
     drop.bottom += line * lines + 2 * GetSystemMetrics(SM_CYBORDER);

@@ -45,6 +45,8 @@ protected:
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
 private:
+    int line_at(int y) const;
+
     static const Messages messages;
 };
 
@@ -52,6 +54,7 @@ class ComboBoxPeer : public ListPeer {
 public:
     ComboBoxPeer(FormWindow& window, ComboBox& list);
     void notified(WORD code) override;
+    void draw(const DRAWITEMSTRUCT& part) override;
 
 protected:
     void show(Aspect aspects) override;

@@ -16,6 +16,9 @@ namespace {
 /// How some systems ask for a row that begins with what is typed; not every compiler's headers name it.
 constexpr UINT find_beginning = 4;
 
+/// What lists leave free in a cell, left and right of its text together, at most.
+constexpr int around_text = 12;
+
 } // namespace
 
 LRESULT ListViewPeer::notified_of(NMHDR& notification) {
@@ -82,10 +85,16 @@ LRESULT ListViewPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam)
     case WM_RBUTTONDOWN:
         press({GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)}, false);
         return 0;
+    case WM_MOUSEMOVE:
+        mouse_moved({GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)});
+        break;
+    case WM_GETDLGCODE:
+        return dialog_code(wparam, lparam);
     case WM_KEYDOWN:
         if (take_key(wparam)) return 0;
         [[fallthrough]];
     case WM_CHAR: {
+        if (message == WM_CHAR && wparam == VK_RETURN) return 0;
         const bool outer = std::exchange(taking_input_, true);
         const LRESULT result = ControlPeer::handle_message(message, wparam, lparam);
         taking_input_ = outer;
@@ -113,10 +122,50 @@ void ListViewPeer::press(POINT point, bool twice) {
     if (twice) window().report([&] { return list_.user_double_click(); });
 }
 
+void ListViewPeer::mouse_moved(POINT point) {
+    mouse_ = point;
+    const std::wstring before = tip_;
+    show_tip();
+    // The new tip hears of the mouse only when it moves again.
+    if (tip_ != before) PostMessageW(handle(), WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
+}
+
+/// The whole text of the cell below the mouse, where that is cut. A list on its own does so for the first
+/// column only.
+void ListViewPeer::show_tip() {
+    LVHITTESTINFO hit{};
+    hit.pt = mouse_;
+    send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    const ListRow* const row = row_at(hit.iItem);
+    const bool on_cell = row && hit.iSubItem >= 0 && hit.iSubItem < static_cast<int>(widths_.size());
+    std::wstring text = on_cell ? to_wide(row->text(hit.iSubItem)) : std::wstring();
+    if (on_cell) {
+        const HFONT font = row->look(hit.iSubItem).bold && bold_ ? bold_.get() : window().font();
+        const int room = static_cast<int>(send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(hit.iSubItem)));
+        if (TextMeasure(handle(), font).width(text.data(), text.size()) <= room - around_text) text.clear();
+    }
+    if (text == tip_) return;
+    tip_ = text;
+    window().set_tip(handle(), tip_);
+}
+
+/// Enter is the list's own where it opens a row, and otherwise the dialog manager's.
+LRESULT ListViewPeer::dialog_code(WPARAM key, LPARAM lparam) {
+    const LRESULT code = ControlPeer::handle_message(WM_GETDLGCODE, key, lparam);
+    const auto* const message = reinterpret_cast<const MSG*>(lparam);
+    const bool enter = message && message->wParam == VK_RETURN &&
+                       (message->message == WM_KEYDOWN || message->message == WM_CHAR);
+    return enter && list_.takes_enter() ? code | DLGC_WANTMESSAGE : code;
+}
+
 /// With no row selected a list itself would begin beside the row that has the focus; and with a blank it
 /// would end the selection of a row, in the middle of what is typed.
 bool ListViewPeer::take_key(WPARAM key) {
     if (list_.count() == 0) return false;
+    if (key == VK_RETURN && list_.takes_enter()) {
+        window().report([&] { return list_.user_double_click(); });
+        return true;
+    }
     if (list_.selected() != 0) return key == VK_SPACE;
     int wanted = 0;
     switch (key) {

@@ -2,11 +2,10 @@
 
 #include "common/error.h"
 #include "forms/win32/common_controls.h"
-#include "forms/win32/dpi.h"
 #include "forms/win32/form_window.h"
 
 #include <algorithm>
-#include <utility>
+#include <cmath>
 
 namespace brx {
 
@@ -35,8 +34,10 @@ ListViewPeer::ListViewPeer(FormWindow& window, ListView& list)
 
 void ListViewPeer::show(Aspect aspects) {
     ControlPeer::show(aspects); // first, for a list scrolls to its selection within the place it has
+    if (has(aspects, Aspect::place)) fit_columns();
     if (has(aspects, Aspect::colors)) show_colors();
     if (has(aspects, Aspect::lines)) show_rows();
+    if (has(aspects, Aspect::lines | Aspect::place)) show_tip();
     if (has(aspects, Aspect::selection) && shown_selection_ != list_.selected()) show_selection();
 }
 
@@ -53,7 +54,7 @@ void ListViewPeer::show_colors() {
 
 void ListViewPeer::show_rows() {
     const ListView::Changes changes = list_.take_changes();
-    if (columns_dpi_ == 0 || changes.columns) add_columns();
+    if (changes.columns || widths_.size() < list_.columns().size()) add_columns();
     if (changes.rows || shown_count_ != list_.count()) {
         shown_count_ = list_.count();
         send(LVM_SETITEMCOUNT, static_cast<WPARAM>(shown_count_), LVSICF_NOSCROLL);
@@ -66,29 +67,36 @@ void ListViewPeer::show_rows() {
 
 /// Columns are only ever added to those that there are.
 void ListViewPeer::add_columns() {
-    columns_dpi_ = window().dpi();
-    const auto header = reinterpret_cast<HWND>(send(LVM_GETHEADER));
     const auto& columns = list_.columns();
-    const LRESULT there = std::max<LRESULT>(0, SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
-    for (auto i = static_cast<std::size_t>(there); i < columns.size(); ++i) {
+    for (std::size_t i = widths_.size(); i < columns.size(); ++i) {
         std::wstring caption = to_wide(columns[i].caption);
         LVCOLUMNW column{};
         column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
         column.pszText = caption.data();
-        column.cx = scaled(columns[i].width, columns_dpi_);
         column.iSubItem = static_cast<int>(i);
         if (send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column)) < 0)
             throw Error(error::out_of_memory);
+        widths_.push_back({static_cast<double>(columns[i].width), 0});
     }
+    fit_columns();
 }
 
-/// By as much as everything else, from what a person may have made of their widths.
-void ListViewPeer::scale_columns() {
-    const auto dpi = static_cast<int>(window().dpi());
-    const auto before = static_cast<int>(std::exchange(columns_dpi_, window().dpi()));
-    if (before == 0 || before == dpi) return;
-    for (WPARAM i = 0; i < list_.columns().size(); ++i)
-        send(LVM_SETCOLUMNWIDTH, i, MulDiv(static_cast<int>(send(LVM_GETCOLUMNWIDTH, i)), dpi, before));
+/// The columns share the room that the list has been given beyond its design, in proportion. So they scale
+/// with the monitor, and what a person makes of a width stays in proportion too.
+void ListViewPeer::fit_columns() {
+    int designed = 0;
+    for (const ListView::Column& column : list_.columns()) designed += column.width;
+    if (designed == 0) return;
+    const double scale = window().dpi() / 96.0;
+    const double by = scale + static_cast<double>(window().growth_of(list_).cx) / designed;
+    for (std::size_t i = 0; i < widths_.size(); ++i) {
+        ColumnWidth& width = widths_[i];
+        const auto now = static_cast<int>(send(LVM_GETCOLUMNWIDTH, i));
+        if (now != width.shown && width.shown != 0) width.design = now / shown_by_;
+        width.shown = static_cast<int>(std::lround(width.design * by));
+        if (now != width.shown) send(LVM_SETCOLUMNWIDTH, i, width.shown);
+    }
+    shown_by_ = by;
 }
 
 void ListViewPeer::redraw(const std::vector<int>& positions) {
@@ -129,9 +137,6 @@ void ListViewPeer::make_bold_font() {
 void ListViewPeer::font_changed() {
     make_bold_font();
     ControlPeer::font_changed();
-    if (!handle()) return;
-    const FormWindow::Showing echo(window());
-    scale_columns();
 }
 
 const ListRow* ListViewPeer::row_at(int index) const {

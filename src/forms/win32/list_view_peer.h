@@ -29,12 +29,15 @@ private:
     void show_colors();
     void show_rows();
     void add_columns();
-    void scale_columns();
+    void fit_columns();
+    void show_tip();
     void redraw(const std::vector<int>& positions);
     void show_selection();
     void make_bold_font();
 
     void press(POINT point, bool twice);
+    void mouse_moved(POINT point);
+    LRESULT dialog_code(WPARAM key, LPARAM lparam);
     bool take_key(WPARAM key);
     void report_selection();
 
@@ -48,7 +51,15 @@ private:
     ListView& list_;
     FontHandle bold_;
     std::wstring answered_; ///< the text that was asked for last
-    unsigned columns_dpi_ = 0;
+    /// A column's width at 96 DPI while the list has its designed size, and as it is shown.
+    struct ColumnWidth {
+        double design;
+        int shown;
+    };
+    std::vector<ColumnWidth> widths_;
+    double shown_by_ = 1; ///< what the widths have been multiplied with
+    POINT mouse_{-1, -1}; ///< where it was last over the rows
+    std::wstring tip_;
     int shown_count_ = 0;
     int shown_selection_ = 0;   ///< what the window was brought to, or said last
     bool own_colors_ = false;   ///< other than the system's for windows

@@ -25,6 +25,13 @@ void LabelPeer::show(Aspect aspects) {
     if (has(aspects, Aspect::text | Aspect::place)) show_tip();
 }
 
+void LabelPeer::move_to(const RECT& place) {
+    // One with room for more lines begins at the top.
+    if (place.bottom - place.top >= 2 * window().line_height()) return ControlPeer::move_to(place);
+    const LONG top = window().line_top(place.top, place.bottom);
+    ControlPeer::move_to({place.left, top, place.right, top + window().line_height()});
+}
+
 LRESULT LabelPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
     // Not every dialog manager looks for SS_NOPREFIX before it takes an ampersand for an accelerator.
     if (message == WM_GETDLGCODE && !label_.mnemonic()) return DLGC_WANTCHARS;
@@ -43,6 +50,7 @@ void LabelPeer::show_tip() {
 ButtonPeer::ButtonPeer(FormWindow& window, Button& button)
     : ControlPeer(window, button, {WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP}), button_(button) {
     show_text(button.caption());
+    window.set_tip(handle(), to_wide(button.tip()));
 }
 
 void ButtonPeer::notified(WORD code) {

@@ -15,6 +15,7 @@ public:
 
 protected:
     void show(Aspect aspects) override;
+    void move_to(const RECT& place) override;
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
 
 private:

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 namespace brx {
 
 namespace {
@@ -23,6 +25,8 @@ TextBoxPeer::TextBoxPeer(FormWindow& window, TextBox& box)
 
 void TextBoxPeer::show(Aspect aspects) {
     ControlPeer::show(aspects); // first, for text scrolls within the place it has
+    if (has(aspects, Aspect::colors | Aspect::enabled))
+        RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     if (has(aspects, Aspect::text)) show_box_text();
     if (has(aspects, Aspect::selection) && box_.all_selected()) {
         send(EM_SETSEL, 0, -1);
@@ -65,6 +69,17 @@ LRESULT TextBoxPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) 
     case WM_LBUTTONDOWN:
         if (take_mouse()) return 0;
         break;
+    case WM_NCCALCSIZE:
+        return measure_inside(wparam, lparam);
+    case WM_NCPAINT: {
+        const LRESULT result = ControlPeer::handle_message(message, wparam, lparam);
+        paint_above();
+        return result;
+    }
+    case WM_NCHITTEST: {
+        const LRESULT hit = ControlPeer::handle_message(message, wparam, lparam);
+        return hit == HTNOWHERE ? HTCLIENT : hit;
+    }
     default:
         break;
     }
@@ -95,6 +110,53 @@ bool TextBoxPeer::take_mouse() {
     selected_ = false;
     SetFocus(handle());
     return selected_;
+}
+
+// An edit control of one line puts it at the top, however high it is. What is missing above belongs to the
+// edge, and looks like the inside.
+
+void TextBoxPeer::move_to(const RECT& place) {
+    ControlPeer::move_to(place);
+    const LONG wanted = window().line_top(0, place.bottom - place.top);
+    const LONG missing = std::max<LONG>(0, above_ + wanted - line_offset());
+    if (missing == above_) return;
+    above_ = missing;
+    SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
+                     SWP_NOOWNERZORDER);
+}
+
+/// How far below the upper edge of the window its text begins.
+int TextBoxPeer::line_offset() const {
+    RECT text{};
+    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));
+    MapWindowPoints(handle(), nullptr, reinterpret_cast<POINT*>(&text), 2);
+    RECT whole{};
+    GetWindowRect(handle(), &whole);
+    return static_cast<int>(text.top - whole.top);
+}
+
+LRESULT TextBoxPeer::measure_inside(WPARAM wparam, LPARAM lparam) {
+    const LRESULT result = ControlPeer::handle_message(WM_NCCALCSIZE, wparam, lparam);
+    RECT& inside =
+        wparam ? reinterpret_cast<NCCALCSIZE_PARAMS*>(lparam)->rgrc[0] : *reinterpret_cast<RECT*>(lparam);
+    inside.top = std::min(inside.top + above_, inside.bottom);
+    return result;
+}
+
+void TextBoxPeer::paint_above() const {
+    if (above_ == 0) return;
+    RECT whole{};
+    RECT inside{};
+    GetWindowRect(handle(), &whole);
+    GetClientRect(handle(), &inside);
+    MapWindowPoints(handle(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
+    OffsetRect(&inside, -whole.left, -whole.top);
+    const RECT above{inside.left, inside.top - above_, inside.right, inside.top};
+    const HDC dc = GetWindowDC(handle());
+    const HBRUSH brush = set_colors(dc);
+    FillRect(dc, &above, brush ? brush : GetSysColorBrush(COLOR_BTNFACE));
+    ReleaseDC(handle(), dc);
 }
 
 } // namespace brx

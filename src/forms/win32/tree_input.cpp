@@ -79,7 +79,7 @@ void TreePeer::press(POINT point, bool twice) {
     if (!node) return;
     const bool on_node = (hit.flags & TVHT_ONITEM) != 0;
     if ((hit.flags & TVHT_ONITEMBUTTON) != 0 || (on_node && twice))
-        toggle(*node, !node->expanded());
+        window().report([&] { return tree_.user_toggle(*node); });
     else if (on_node)
         window().report([&] { return tree_.user_click(*node); });
 }

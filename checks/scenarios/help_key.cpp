@@ -1,0 +1,116 @@
+#include "configuring.h"
+#include "describing.h"
+#include "help_file.h"
+#include "testing.h"
+
+// F1, in every dialog. The item browser's own is told where the browser is.
+
+using namespace brx;
+using namespace brx::checks;
+
+SCENARIO(HelpKey, OpensTheTopicsOfTheServerDialogs) {
+    const HelpFile file(its);
+    const auto server = std::make_shared<FakeOPCServer>(its.host.calls);
+    Showing select(*its.stage, "ServerSelect");
+    select.show(its.host.servers);
+    its.person.hits(Key::f1);
+    file.expect_shown_at(193);
+    its.person.presses("bnServer");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(195);
+    its.person.presses("bnCancel");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(193);
+    its.person.presses("bnCancel");
+    EXPECT_FALSE(select.result());
+
+    Showing information(*its.stage, "ServerInformation");
+    information.show(server);
+    its.person.hits(Key::f1);
+    file.expect_shown_at(198);
+    its.person.presses("bnOK");
+    information.result();
+}
+
+SCENARIO(HelpKey, OpensTheTopicOfTheTestDialogAndTheContentsInTheConfigurationDialogAroundIt) {
+    const HelpFile file(its);
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    EXPECT_EQ(its.host.calls.count("hlxHelp.HelpFile"), 0);
+    its.person.hits(Key::f1);
+    file.expect_shown_at(0);
+    its.person.double_clicks("lvwTest", its.person.line_of("lvwTest", 0));
+    its.person.is_at("dlgOPCTest");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(194);
+    its.person.presses("bnCancel");
+    its.person.is_at("dlgConfiguration");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(0);
+    dialog.leaves();
+}
+
+SCENARIO(HelpKey, OpensTheTopicOfTheTriggerDialog) {
+    const HelpFile file(its);
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    dialog.turns_to_sampling();
+    its.person.presses("cmdPieceTrigger");
+    its.person.is_at("dlgEvaluation");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(196);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(HelpKey, OpensTheContentsInTheDescriptorDialogs) {
+    const HelpFile file(its);
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.person.is_at("dlgDescriptorType");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(0);
+    its.person.presses("bnOK");
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.host.calls.count("hlxHelp.HelpFile"), 1);
+    its.person.hits(Key::f1);
+    file.expect_shown_at(0);
+    its.person.presses("bnItem");
+    its.person.is_at("dlgItemSelect");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(197);
+    its.person.presses("bnCancel");
+    its.person.hits(Key::f1);
+    file.expect_shown_at(0);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(HelpKey, AHelpFileThatIsNotThereIsTold) {
+    a_filled_configuration(its);
+    its.host.help_service->path = "C:\\Plant\\collection.chm";
+    const Message missing = {.text = "The help file C:\\Plant\\collection.chm cannot be found.",
+                             .style = message::exclamation,
+                             .title = component_name};
+    Configuring dialog(its);
+    its.person.hits(Key::f1);
+    its.person.answers(missing);
+    its.person.is_at("dlgConfiguration");
+    its.person.presses("bnAdd");
+    its.person.is_at("dlgOPCTest");
+    its.person.hits(Key::f1);
+    its.person.answers(missing);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
+SCENARIO(HelpKey, DoesNothingWhereTheHostHasNoHelp) {
+    its.host.help_service = nullptr;
+    Configuring dialog(its);
+    its.person.hits(Key::f1);
+    its.person.is_at("dlgConfiguration");
+    EXPECT_EQ(its.person.screen().help().value_or(""), "");
+    dialog.leaves();
+}
