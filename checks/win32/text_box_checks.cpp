@@ -51,8 +51,6 @@ std::pair<DWORD, DWORD> selection_of(HWND box) {
     return {from, to};
 }
 
-const std::pair<DWORD, DWORD> nowhere{0, 0};
-
 void put_on_clipboard(const std::wstring& text) {
     ASSERT_TRUE(OpenClipboard(nullptr));
     EmptyClipboard();
@@ -244,7 +242,7 @@ TEST_F(TextBoxTest, ATextThatTheWindowCannotHoldStaysWholeInTheControl) {
     EXPECT_EQ(form.events.find("Change"), std::string::npos) << form.events;
 }
 
-TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhereTheFormSelectedIt) {
+TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhetherTheFormSelectedItOrNot) {
     for (const bool selected : {true, false}) {
         Boxes form(environment);
         form.on_load = [&] {
@@ -252,8 +250,7 @@ TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhereTheFormSelectedIt) {
         };
         show(form, [&](Hands& hands) {
             hands.form("Boxes");
-            const auto expected = selected ? std::pair<DWORD, DWORD>{0, 5} : nowhere;
-            EXPECT_EQ(selection_of(hands.control("Boxes", "Box")), expected);
+            EXPECT_EQ(selection_of(hands.control("Boxes", "Box")), (std::pair<DWORD, DWORD>{0, 5}));
         });
     }
 }

@@ -29,6 +29,7 @@ protected:
         return text.c_str();
     }
     static void point_at(Hands& hands, HWND list, int row, int column) {
+        hands.wait_until_idle(); // the mouse is somewhere as the form opens, too
         RECT place{};
         place.left = LVIR_BOUNDS;
         place.top = column;
@@ -87,17 +88,18 @@ TEST_F(TipTest, ACellThatHasRoomEnoughShowsNone) {
     Pages form(environment);
     form.on_load = [&] {
         form.add_rows(1);
-        form.List.row(1).set_text(1, "Running a long while");
+        form.List.row(1).set_text(1, long_text);
         form.List.row(1).set_text(2, "Stopped 12:30");
     };
     show_page(form, "List", [&](Hands& hands, HWND list) {
         point_at(hands, list, 0, 1);
         EXPECT_NE(tip_of(hands, list), L"");
-        hands.run([&] { SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 300); });
+        hands.run([&] { SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 800); });
         point_at(hands, list, 0, 1);
         EXPECT_EQ(tip_of(hands, list), L"");
         // The same text is wider in bold.
         hands.run([&] {
+            SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 80);
             const auto width = static_cast<LPARAM>(
                 SendMessageW(list, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(L"Stopped 12:30")));
             SendMessageW(list, LVM_SETCOLUMNWIDTH, 2, width + 13);
