@@ -1,4 +1,4 @@
-#include "configuring.h"
+#include "listing.h"
 
 // What the configuration dialog commits when it closes.
 
@@ -231,41 +231,41 @@ SCENARIO(ConfigurationDialog, AnUnreadableDescriptorHidesNoTest) {
     dialog.leaves();
 }
 
-SCENARIO(ConfigurationDialog, AnUnreadableDescriptorKeepsNobodyFromTheFields) {
+SCENARIO(ConfigurationDialog, WhereADescriptorCannotBeReadNothingIsCommitted) {
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     its.host.calls.fail_on("hlxOPCDescriptor.GroupName");
     Configuring dialog(its);
     its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    its.person.enters("txtName", "Line 2");
-    dialog.closes(); // and does not take the tests for none
-    EXPECT_EQ(dialog.fields().name, "Line 2");
-    EXPECT_EQ(dialog.fields().subgroup_trigger_item, "Line1.Speed");
+    EXPECT_FALSE(its.person.sees("txtName").enabled);
+    EXPECT_TRUE(its.person.can_press("bnAdd"));
+    dialog.closes();
+    EXPECT_EQ(dialog.writes(), Lines());
 }
 
-SCENARIO(ConfigurationDialog, AnUnreadableDescriptorDoesNotHideThatThereIsNoTest) {
-    its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
-    its.host.calls.fail_on("hlxOPCDescriptor.GroupName");
+SCENARIO(ConfigurationDialog, WhereATestCannotBeReadNothingIsCommitted) {
+    a_filled_configuration(its);
+    its.host.calls.fail_on("hlxOPCTest.State");
     Configuring dialog(its);
     its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    its.person.presses("bnClose");
-    its.person.answers(no_test, message::cancel);
-    EXPECT_EQ(its.host.calls.count("hlxOPCTests.Count"), 1);
-    its.person.is_at("dlgConfiguration");
-    dialog.leaves();
+    EXPECT_FALSE(its.person.sees("cmdPieceTrigger").enabled);
+    dialog.closes();
+    EXPECT_EQ(dialog.writes(), Lines());
 }
 
 SCENARIO(ConfigurationDialog, WhereTestsCanNeitherBeListedNorCountedItStays) {
-    a_filled_configuration(its);
-    its.host.calls.fail_on("hlxOPCTests.Count");
     Configuring dialog(its);
-    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    prepares_width(its);
+    its.host.calls.fail_on("hlxOPCTests.Count");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgConfiguration.bnAdd_Click", ErrorLibrary::hlxER01);
     its.person.presses("bnClose");
     its.person.is_at("dlgConfiguration");
     its.expect_report(CallLog::failure_number, "dlgConfiguration.bnClose_Click", ErrorLibrary::hlxER01);
-    EXPECT_EQ(dialog.writes(), Lines());
+    EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.Name="), 0);
     its.host.calls.fail_on("");
-    dialog.closes();
+    dialog.closes(); // and asks nothing: there is a test
+    EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.Name="), 1);
 }
 
 SCENARIO(ConfigurationDialog, EnterCloses) {

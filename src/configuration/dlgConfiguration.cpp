@@ -19,7 +19,7 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
       tools_(environment.errors) {}
 
 void dlgConfiguration::Form_Load() {
-    fields_loaded_ = false;
+    loaded_whole_ = false;
     tests_.start_afresh();
     descriptors_.start_afresh();
     groups_.clear();
@@ -29,10 +29,10 @@ void dlgConfiguration::Form_Load() {
         set_up_columns();
         load_general();
         load_sampling();
-        fields_loaded_ = true;
         ConfigureDescriptors();
         frmTab0.set_visible(true); // in front, since no other one shows
         AddToList();
+        loaded_whole_ = true;
     });
     // What failed has been reported. Every tab shows what can be had all the same.
     if (!descriptors_.was_listed()) attempt([&] { ConfigureDescriptors(); });
@@ -40,7 +40,7 @@ void dlgConfiguration::Form_Load() {
     // Nobody should type what will not be committed.
     for (Control* field : std::initializer_list<Control*>{&txtName, &txtUpdateRate, &txtDeadband, &chkActive,
                                                           &txtSubgroupSize, &frmTab1})
-        field->set_enabled(fields_loaded_);
+        field->set_enabled(loaded_whole_);
 }
 
 /// Before anything that can fail: without its columns a list shows nothing.
@@ -74,7 +74,7 @@ void dlgConfiguration::TabStrip1_Click() {
 void dlgConfiguration::bnClose_Click() {
     trap("bnClose_Click", [&] {
         // What could not be read has been reported, and what stands in its place is not the host's.
-        if (!fields_loaded_) return unload();
+        if (!loaded_whole_) return unload();
         if (is_without_tests()) {
             const Message question = {
                 .text = "Without a Test Characteristic this Configuration will be removed.  "

@@ -207,7 +207,7 @@ private:
 
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
-    bool fields_loaded_ = false; ///< what is committed is the configuration's own
+    bool loaded_whole_ = false; ///< nothing that the configuration has is missing from the form
     ListedObjects tests_{lvwTest, cmdEdit, bnRemove};
     ListedObjects descriptors_{lvwDescriptors, bnEditDesc, bnRemoveDesc};
     Trigger piece_trigger_;
