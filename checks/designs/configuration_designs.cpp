@@ -43,7 +43,7 @@ frmSubgroup/lblSGTimeUnit: label 265,24 80x15 tab 26 '&D. Unit:'
 frmSubgroup/cboSGTimeUnit: combo box 349,20 140x23 tab 27
 frmSubgroup/lblSGEval: label 11,54 80x15 tab 28 '&E. Trigger:'
 frmSubgroup/txtSGEval: text box 95,50 371x23 tab 29 wide display only
-frmSubgroup/cmdSubgroupTrigger: button 466,50 23x23 tab 30 right '...'
+frmSubgroup/cmdSubgroupTrigger: button 466,50 23x23 tab 30 right '...' tip 'Set the trigger of subgroups'
 frmTab(1)/frmPiece: frame 11,171 500x84 tab 0 wide 'Piece Sampling Period'
 frmPiece/lblPieceTimeInterval: label 11,24 80x15 tab 31 '&F. Interval:'
 frmPiece/txtPieceTimeInterval: text box 95,20 140x23 tab 32
@@ -51,7 +51,7 @@ frmPiece/lblPieceTimeUnit: label 265,24 80x15 tab 33 '&G. Unit:'
 frmPiece/cboPieceTimeUnit: combo box 349,20 140x23 tab 34
 frmPiece/lblPieceEval: label 11,54 80x15 tab 35 '&H. Trigger:'
 frmPiece/txtPieceEval: text box 95,50 371x23 tab 36 wide display only
-frmPiece/cmdPieceTrigger: button 466,50 23x23 tab 37 right '...'
+frmPiece/cmdPieceTrigger: button 466,50 23x23 tab 37 right '...' tip 'Set the trigger of pieces'
 frmTab(2)/frmDescriptors: frame 11,11 500x325 tab 40 wide high '&A. Descriptors'
 frmDescriptors/lvwDescriptors: list view 11,20 478x264 tab 41 wide high
 frmDescriptors/bnAddDesc: button 250,291 75x23 tab 42 right bottom '&B. Add...'
@@ -74,10 +74,10 @@ TEST(Designs, OfDescriptorPropertiesKeepNamesPlacesTabsAndCaptions) {
     EXPECT_EQ(design_of<dlgDescriptorProperties>(), R"(dlgDescriptorProperties 'Descriptor Properties' 381x139
 lblGroup: label 11,15 60x15 tab 1 '&A. Group:'
 txtGroup: text box 75,11 272x23 tab 2
-bnGroup: button 347,11 23x23 tab 3 '...'
+bnGroup: button 347,11 23x23 tab 3 '...' tip 'Browse the server for the group's item'
 lblGeneral: label 11,45 60x15 tab 4 '&B. Item:'
 txtItem: text box 75,41 272x23 tab 5
-bnItem: button 347,41 23x23 tab 6 '...'
+bnItem: button 347,41 23x23 tab 6 '...' tip 'Browse the server for an item'
 bnSelect: button 75,71 180x23 tab 7 '&C. Select from Database...'
 bnOK: button 213,105 75x23 tab 8 disabled 'OK' default
 bnCancel: button 295,105 75x23 tab 9 '&Cancel' cancel

@@ -11,10 +11,10 @@ TEST(Designs, OfTestKeepNamesPlacesTabsAndCaptions) {
     EXPECT_EQ(design_of<dlgOPCTest>(), R"(dlgOPCTest 'OPC Test Configuration' 421x263 in Arial
 lblTest: label 11,15 92x15 tab 1 '&A. Test:'
 txtTest: text box 107,11 280x23 tab 2 display only
-bnTest: button 387,11 23x23 tab 3 '...'
+bnTest: button 387,11 23x23 tab 3 '...' tip 'Choose a test from the database'
 lblItem: label 11,45 92x15 tab 4 '&B. OPC Item:'
 txtItem: text box 107,41 280x23 tab 5 display only
-bnItem: button 387,41 23x23 tab 6 '...'
+bnItem: button 387,41 23x23 tab 6 '...' tip 'Browse the server for an item'
 lblSaveAs: label 11,75 92x15 tab 7 '&C. Save As:'
 cboSaveAs: combo box 107,71 303x23 tab 8
 lblConstant: label 11,105 92x15 tab 9 '&D. Constant:'
@@ -33,7 +33,7 @@ TEST(Designs, OfTriggerKeepNamesPlacesTabsAndCaptions) {
     EXPECT_EQ(design_of<dlgEvaluation>(), R"(dlgEvaluation 'Set Trigger' 421x139
 Label1: label 11,15 92x15 tab 1 '&A. OPC Item:'
 cboItem: combo box 107,11 280x23 tab 2
-bnItem: button 387,11 23x23 tab 3 '...'
+bnItem: button 387,11 23x23 tab 3 '...' tip 'Browse the server for an item'
 Label2: label 11,45 92x15 tab 4 '&B. Expression'
 cboExpression: combo box 107,41 303x23 tab 5
 Label3: label 11,75 92x15 tab 6 '&C. Value'
