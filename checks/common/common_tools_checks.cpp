@@ -1,4 +1,5 @@
 #include "common/common_tools.h"
+#include "forms/one_form.h"
 #include "host/fake_host.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +43,9 @@ struct Database : hlxDatabase {};
 
 struct Tools : testing::Test {
     FakeHost host;
-    CommonTools tools{host};
+    ScriptedEngine engine;
+    Environment environment{engine, host, host, Locale::us_english()};
+    CommonTools tools{environment.errors};
 
     void expect_mismatch(const std::string& location) {
         ASSERT_EQ(host.reports.size(), 1U);

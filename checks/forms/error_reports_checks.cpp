@@ -60,14 +60,14 @@ TEST(ErrorMessage, GoesOnBehindANullCharacter) {
 
 TEST_F(ErrorReporting, NothingIsToldThatTheHostTook) {
     host.error_classes[ErrorLibrary::brxError6] = ErrorClass::works;
-    const Showing showing;
+    const ShowingScope showing;
     fails("A.a");
     EXPECT_EQ(told, Notes());
     EXPECT_EQ(host.reports.size(), 1U);
 }
 
 TEST_F(ErrorReporting, TellsOnceForEachNumberAndPlace) {
-    const Showing showing;
+    const ShowingScope showing;
     for (int times = 0; times < 2; ++times) {
         fails("A.a", 5);
         fails("A.a", 6);
@@ -79,19 +79,19 @@ TEST_F(ErrorReporting, TellsOnceForEachNumberAndPlace) {
 
 TEST_F(ErrorReporting, AShowingWithinAnotherIsAPartOfIt) {
     {
-        const Showing outer;
+        const ShowingScope outer;
         {
-            const Showing inner;
+            const ShowingScope inner;
             fails("A.a");
             fails_in_a_timer("A.Timer1_Timer");
         }
         fails("A.a");
         fails_in_a_timer("B.Timer1_Timer");
-        const Showing next;
+        const ShowingScope next;
         fails("A.a");
         EXPECT_EQ(told.size(), 2U);
     }
-    const Showing later;
+    const ShowingScope later;
     fails("A.a");
     fails_in_a_timer("B.Timer1_Timer");
     EXPECT_EQ(told.size(), 4U);
@@ -104,7 +104,7 @@ TEST_F(ErrorReporting, OutsideOfAnyShowingEverythingIsTold) {
 }
 
 TEST_F(ErrorReporting, TellsOnceOfAllTimersAndThenStillOfEverythingElse) {
-    const Showing showing;
+    const ShowingScope showing;
     fails_in_a_timer("A.Timer1_Timer", 5);
     fails_in_a_timer("A.Timer1_Timer", 6);
     fails_in_a_timer("B.Timer1_Timer", 5);
@@ -115,7 +115,7 @@ TEST_F(ErrorReporting, TellsOnceOfAllTimersAndThenStillOfEverythingElse) {
 }
 
 TEST_F(ErrorReporting, ATimerThatHasNothingNewToTellMayStillTellOnce) {
-    const Showing showing;
+    const ShowingScope showing;
     fails("A.a");
     fails_in_a_timer("A.a");
     EXPECT_EQ(told.size(), 1U);
@@ -124,7 +124,7 @@ TEST_F(ErrorReporting, ATimerThatHasNothingNewToTellMayStillTellOnce) {
 }
 
 TEST_F(ErrorReporting, WhatAPersonDoesInADialogThatATimerOpenedIsNotTheTimers) {
-    const Showing showing;
+    const ShowingScope showing;
     fails_in_a_timer("A.Timer1_Timer");
     {
         const TimerTurn timer;
@@ -152,7 +152,7 @@ TEST_F(ErrorReporting, ATickIsATimersAlsoWithinOtherCode) {
 }
 
 TEST_F(ErrorReporting, NoMessageComesOverThatOfAnError) {
-    const Showing showing;
+    const ShowingScope showing;
     while_told = [&] {
         fails("A.b");
         fails_in_a_timer("A.Timer1_Timer");
@@ -166,7 +166,7 @@ TEST_F(ErrorReporting, NoMessageComesOverThatOfAnError) {
 }
 
 TEST_F(ErrorReporting, ATimerWaitsUntilAMessageIsAnsweredAndOtherCodeDoesNot) {
-    const Showing showing;
+    const ShowingScope showing;
     {
         const ModalTurn question(nullptr);
         EXPECT_TRUE(turn::is_message_box_open());
@@ -183,7 +183,7 @@ TEST_F(ErrorReporting, ATimerWaitsUntilAMessageIsAnsweredAndOtherCodeDoesNot) {
 }
 
 TEST_F(ErrorReporting, AMessageThatCannotBeShownIsNoErrorOfItsOwnAndHindersNoOther) {
-    const Showing showing;
+    const ShowingScope showing;
     const auto asked = engine.while_asking;
     engine.while_asking = [&](const Message& message) -> std::int32_t {
         asked(message);
@@ -199,7 +199,7 @@ TEST_F(ErrorReporting, AMessageThatCannotBeShownIsNoErrorOfItsOwnAndHindersNoOth
 }
 
 TEST_F(ErrorReporting, ItIsAPersonsTurnWhileSheIsTold) {
-    const Showing showing;
+    const ShowingScope showing;
     while_told = [&] {
         EXPECT_FALSE(turn::is_code_running());
         EXPECT_TRUE(turn::is_message_box_open());
@@ -219,7 +219,7 @@ TEST_F(ErrorReporting, TheFormBelowIsBroughtUpToDateFirst) {
             Notes seen;
             void refresh(Aspect) override { seen.emplace_back("refreshed"); }
         } label(form.label);
-        const Showing showing;
+        const ShowingScope showing;
         while_told = [&] { EXPECT_EQ(label.seen, Notes{"refreshed"}); };
         form.on_click = [&] {
             form.label.set_caption("Changed");
@@ -233,7 +233,7 @@ TEST_F(ErrorReporting, TheFormBelowIsBroughtUpToDateFirst) {
 
 TEST_F(ErrorReporting, ATimersTickOfAFormCountsAsATimers) {
     while_open([&] {
-        const Showing showing;
+        const ShowingScope showing;
         form.on_tick = [&] {
             EXPECT_TRUE(turn::is_timer_running());
             fails("OneForm.timer_Timer");

@@ -16,7 +16,7 @@ protected:
 
     /// Runs the body of Show under its trap, and as a showing.
     template <class Body> void run_show(Body&& body) const noexcept {
-        const Showing here;
+        const ShowingScope here;
         trap("Show", std::forward<Body>(body));
     }
 

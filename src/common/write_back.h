@@ -28,12 +28,6 @@ public:
         if (former) undo_.push_back([&object, set, former = *former] { (object.*set)(former); });
         (object.*set)(value);
     }
-    /// Reads the former value and writes the new one.
-    template <class Object, class Get, class Set, class Value>
-    void write(Object& object, Get get, Set set, const Value& value) {
-        undo_.push_back([&object, set, former = (object.*get)()] { (object.*set)(former); });
-        (object.*set)(value);
-    }
     void keep() { undo_.clear(); }
 
 private:

@@ -21,7 +21,7 @@ void ErrorReports::Show(ErrorLibrary library, const ErrorReport& report) noexcep
 }
 
 void ErrorReports::tell(const ErrorReport& report) {
-    Showing here; // of its own for an error that comes outside of any
+    ShowingScope here; // of its own for an error that comes outside of any
     here.tell_once(report, [&] {
         if (Form* form = turn::top_form()) form->settle();
         const ModalTurn waiting(nullptr);

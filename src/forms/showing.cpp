@@ -6,16 +6,16 @@ namespace brx {
 
 namespace {
 // No object: its destructor would keep the module loaded until the thread ends.
-thread_local Showing* outermost = nullptr;
+thread_local ShowingScope* outermost = nullptr;
 } // namespace
 
-Showing::Showing() noexcept : whole_(outermost ? *outermost : *this) { outermost = &whole_; }
+ShowingScope::ShowingScope() noexcept : whole_(outermost ? *outermost : *this) { outermost = &whole_; }
 
-Showing::~Showing() {
+ShowingScope::~ShowingScope() {
     if (outermost == this) outermost = nullptr;
 }
 
-bool Showing::begins_to_tell(const ErrorReport& report) {
+bool ShowingScope::begins_to_tell(const ErrorReport& report) {
     const bool from_timer = turn::is_timer_running();
     if (telling_) return false;
     if (from_timer && (timer_told_ || turn::is_message_box_open())) return false;
