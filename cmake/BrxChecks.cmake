@@ -45,5 +45,12 @@ function(brx_check_program name)
     add_executable(${name} ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/checks")
     target_link_libraries(${name} PRIVATE brx_check_main ${arg_LINK})
+    if(BRX_TOGETHER AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        # A fixture is no less its file's own for being compiled together with others.
+        target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
+        if(WIN32)
+            target_compile_options(${name} PRIVATE -Wa,-mbig-obj) # so many sections
+        endif()
+    endif()
     brx_check_part(${name} PART "${arg_PART}" SECONDS "${arg_SECONDS}")
 endfunction()

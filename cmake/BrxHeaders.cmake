@@ -18,6 +18,7 @@ if(NOT sources)
 endif()
 
 add_library(brx_headers OBJECT EXCLUDE_FROM_ALL ${sources})
+set_target_properties(brx_headers PROPERTIES UNITY_BUILD OFF)
 target_include_directories(brx_headers PRIVATE
     "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/checks" "${CMAKE_SOURCE_DIR}/checks/support"
     "${CMAKE_SOURCE_DIR}/sample")

@@ -22,6 +22,11 @@ if(BRX_CCACHE)
     endforeach()
 endif()
 
+# Several sources are compiled at a time: most of what a compiler does for one is to read its headers.
+option(BRX_TOGETHER "Compile several sources at a time" ON)
+set(CMAKE_UNITY_BUILD ${BRX_TOGETHER})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

@@ -11,7 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-constexpr std::int32_t two = 2;
 
 TEST_F(AdapterTest, PassTheDatabaseAsTheVeryObjectThatTheHostGave) {
     const auto record = make<hlxRecord>();

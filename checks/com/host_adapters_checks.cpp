@@ -13,7 +13,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-constexpr std::int32_t two = 2;
 
 class HostAdapterTest : public AdapterTest {
 protected:

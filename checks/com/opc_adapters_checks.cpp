@@ -14,7 +14,6 @@ namespace brx::checks {
 namespace {
 
 using testing::ElementsAre;
-constexpr std::int32_t two = 2;
 const StringArray item_ids{{"Line.Speed", unusual_text}, 1};
 const LongArray client_handles{{70000, -1}, 1};
 const ShortArray data_types{{0, 5}, 1};

@@ -18,6 +18,9 @@
 
 namespace brx::checks {
 
+/// A number that the doubles can tell from the one that they have from the start.
+inline constexpr std::int32_t two = 2;
+
 /// Everything that text can hold.
 inline constexpr char characters[] = "a\tb\0c\r\n Gr\xC3\xBC\xC3\x9F"
                                      "e \xE6\xBC\xA2 \xF0\x9F\x98\x80 half \xED\xA0\xBD";

@@ -10,7 +10,7 @@ namespace {
 
 class BaselineTest : public PagesTest {};
 
-const char* const text = "11/21/2026";
+const char* const written = "11/21/2026";
 
 /// Labels before boxes with the same text.
 class Lines : public Form {
@@ -18,20 +18,20 @@ public:
     explicit Lines(Environment& on) : Form(on, {.name = "Lines", .caption = "Lines", .size = {300, 240}}) {}
 
     // clang-format off
-    Label      Before1{*this, "Before1", {.place = {11, 15, 92, 15}, .caption = text, .tab = 1}};
-    TextBox    Text   {*this, "Text",    {.place = {107, 11, 160, 23}, .tab = 2, .text = text}};
-    Label      Before2{*this, "Before2", {.place = {11, 45, 92, 15}, .caption = text, .tab = 3}};
-    TextBox    Shown  {*this, "Shown",   {.place = {107, 41, 160, 23}, .tab = 4, .text = text, .display_only = true}};
-    Label      Before3{*this, "Before3", {.place = {11, 75, 92, 15}, .caption = text, .tab = 5}};
+    Label      Before1{*this, "Before1", {.place = {11, 15, 92, 15}, .caption = written, .tab = 1}};
+    TextBox    Text   {*this, "Text",    {.place = {107, 11, 160, 23}, .tab = 2, .text = written}};
+    Label      Before2{*this, "Before2", {.place = {11, 45, 92, 15}, .caption = written, .tab = 3}};
+    TextBox    Shown  {*this, "Shown",   {.place = {107, 41, 160, 23}, .tab = 4, .text = written, .display_only = true}};
+    Label      Before3{*this, "Before3", {.place = {11, 75, 92, 15}, .caption = written, .tab = 5}};
     ComboBox   Choice {*this, "Choice",  {.place = {107, 71, 160, 23}, .tab = 6}};
     Frame      Group  {*this, "Group",   {.place = {11, 131, 278, 60}, .caption = "", .tab = 9}};
-    Label      Before5{Group, "Before5", {.place = {11, 24, 80, 15}, .caption = text, .tab = 10}};
-    TextBox    Inside {Group, "Inside",  {.place = {96, 20, 140, 23}, .tab = 11, .text = text}};
+    Label      Before5{Group, "Before5", {.place = {11, 24, 80, 15}, .caption = written, .tab = 10}};
+    TextBox    Inside {Group, "Inside",  {.place = {96, 20, 140, 23}, .tab = 11, .text = written}};
     Button     OK     {*this, "OK",      {.place = {11, 205, 75, 23}, .caption = "OK", .tab = 12}};
     // clang-format on
 
     void Form_Load() override {
-        Choice.add_line(text);
+        Choice.add_line(written);
         Choice.select(0);
         OK.set_focus();
     }

@@ -7,7 +7,6 @@ namespace brx::plant {
 namespace {
 
 constexpr double first_of_january_1970 = 25569;
-constexpr double seconds_per_day = 86400;
 
 } // namespace
 

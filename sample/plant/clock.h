@@ -6,6 +6,8 @@
 
 namespace brx::plant {
 
+inline constexpr double seconds_per_day = 86400;
+
 /// Where the plant takes its time from, so that a check can move it by hand.
 class Clock {
 public:

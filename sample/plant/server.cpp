@@ -11,7 +11,6 @@ namespace brx::plant {
 
 namespace {
 
-constexpr double seconds_per_day = 86400;
 /// The first of January 1601: the platform's date for "never".
 constexpr Date never{-109205};
 

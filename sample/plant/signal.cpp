@@ -1,5 +1,7 @@
 #include "plant/signal.h"
 
+#include "plant/clock.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -9,8 +11,6 @@
 namespace brx::plant {
 
 namespace {
-
-constexpr double seconds_per_day = 86400;
 
 /// Spreads the bits of a number evenly.
 std::uint64_t scramble(std::uint64_t number) {
@@ -61,10 +61,10 @@ template <class Integer> Integer rounded(double number) {
                                            static_cast<double>(Limits::max())));
 }
 
-Variant as_text(std::span<const char* const> texts, double number) {
-    if (texts.empty()) return std::string();
-    const double last = static_cast<double>(texts.size() - 1);
-    return std::string(texts[static_cast<std::size_t>(std::clamp(std::round(number), 0.0, last))]);
+Variant as_text(std::span<const char* const> words, double number) {
+    if (words.empty()) return std::string();
+    const double last = static_cast<double>(words.size() - 1);
+    return std::string(words[static_cast<std::size_t>(std::clamp(std::round(number), 0.0, last))]);
 }
 
 } // namespace

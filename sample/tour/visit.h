@@ -6,6 +6,13 @@
 
 namespace tour {
 
+/// The tabs of the dialog of a configuration.
+namespace tab {
+inline constexpr int sampling = 2;
+inline constexpr int descriptors = 3;
+inline constexpr int server_information = 4;
+} // namespace tab
+
 /// What she does in the dialogs, and what she reads there.
 class Visit {
 public:

@@ -6,7 +6,6 @@ namespace tour {
 
 namespace {
 
-constexpr int sampling = 2;
 constexpr int answers = 1200; ///< values take their time
 
 } // namespace
@@ -38,7 +37,7 @@ void Visit::running() {
             press(L"bnConfigure");
             program_.wait_until(L"the dialog", [&] { return at(L"dlgConfiguration"); });
             fill_in(L"txtSubgroupSize", L"5");
-            turn_to(sampling, L"txtPieceTimeInterval");
+            turn_to(tab::sampling, L"txtPieceTimeInterval");
             fill_in(L"txtPieceTimeInterval", L"1");
             press(L"cmdPieceTrigger");
             program_.wait_until(L"the trigger dialog", [&] { return at(L"dlgEvaluation"); });

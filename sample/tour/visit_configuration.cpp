@@ -4,14 +4,7 @@
 
 namespace tour {
 
-namespace {
-
-constexpr int general = 1;
-constexpr int sampling = 2;
-constexpr int descriptors = 3;
-constexpr int server_information = 4;
-
-} // namespace
+namespace {} // namespace
 
 void Visit::configuring() {
     select_flow_computer();
@@ -94,7 +87,7 @@ void Visit::set_sampling() {
     guide_.step(
         "On the second tab she has a subgroup taken every two hours, a piece every 30 minutes.", "sampling",
         [&] {
-            turn_to(sampling, L"txtSGInterval");
+            turn_to(tab::sampling, L"txtSGInterval");
             fill_in(L"txtSGInterval", L"2");
             hit(program_.control(L"cboSGTimeUnit"), VK_DOWN);
             fill_in(L"txtPieceTimeInterval", L"30");
@@ -141,7 +134,7 @@ void Visit::set_subgroup_trigger() {
 void Visit::watch_status() {
     guide_.step(
         "The fourth tab tells what the server does.", "configuration-server",
-        [&] { turn_to(server_information, L"lvwServerInfo"); }, L"the status",
+        [&] { turn_to(tab::server_information, L"lvwServerInfo"); }, L"the status",
         [&] {
             return rows_of(program_.control(L"lvwServerInfo")) >= 13 &&
                    cells(L"lvwServerInfo", 1, 2) == Lines{L"Server Name", L"Simulation.Metering.1"} &&
@@ -177,10 +170,10 @@ void Visit::finding_the_configuration_again() {
         [&] { return at(L"dlgConfiguration") && general_is_filled_in(); });
     guide_.step(
         "Intervals, units, beginning and trigger are there.", "sampling-again",
-        [&] { turn_to(sampling, L"txtSGInterval"); }, L"the second tab",
+        [&] { turn_to(tab::sampling, L"txtSGInterval"); }, L"the second tab",
         [&] { return sampling_is_filled_in(); });
     guide_.step(
-        "So are the descriptors.", "descriptors-again", [&] { turn_to(descriptors, L"lvwDescriptors"); },
+        "So are the descriptors.", "descriptors-again", [&] { turn_to(tab::descriptors, L"lvwDescriptors"); },
         L"the third tab", [&] { return descriptors_are_filled_in(); });
     guide_.step(
         "The close box changes nothing, and the log says so.", "configuration-kept",

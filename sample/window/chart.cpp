@@ -8,7 +8,7 @@ namespace sample {
 
 namespace {
 
-constexpr const wchar_t* window_class = L"brxChart";
+constexpr const wchar_t* chart_class = L"brxChart";
 
 } // namespace
 
@@ -19,12 +19,12 @@ void Chart::register_class(HINSTANCE program) {
     description.lpfnWndProc = procedure;
     description.hInstance = program;
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    description.lpszClassName = window_class;
+    description.lpszClassName = chart_class;
     RegisterClassExW(&description);
 }
 
 void Chart::create(HWND parent, int id) {
-    CreateWindowExW(0, window_class, L"", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
+    CreateWindowExW(0, chart_class, L"", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), this);
 }
 

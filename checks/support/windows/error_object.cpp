@@ -97,8 +97,8 @@ private:
                            parameters.cNamedArgs == 0 && V_VT(&value(0)) == VT_I4;
         for (UINT i = 1; well_formed && i < value_count; ++i) well_formed = V_VT(&value(i)) == VT_BSTR;
         if (!well_formed) return {-1, "Error.Show was not called with its five values", {}, {}, {}};
-        const auto text = [&](UINT position) { return text_of(V_BSTR(&value(position))); };
-        return {V_I4(&value(0)), text(1), text(2), text(3), text(4)};
+        const auto told = [&](UINT position) { return brx::text_of(V_BSTR(&value(position))); };
+        return {V_I4(&value(0)), told(1), told(2), told(3), told(4)};
     }
 
     ErrorLibraries& host_;

@@ -17,6 +17,9 @@ namespace brx::checks {
 /// How long a window may take to answer, in milliseconds; checks of these tools themselves have less.
 inline UINT patience = 20'000;
 
+/// How many characters of one cell or node are read.
+inline constexpr int longest_text = 8192;
+
 /// Sends a message. 0 when the window is not there or does not answer.
 LRESULT ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 

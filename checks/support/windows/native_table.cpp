@@ -15,8 +15,6 @@ namespace brx::checks {
 
 namespace {
 
-constexpr int longest_text = 8192;
-
 HWND header_of(HWND list) { return reinterpret_cast<HWND>(ask(list, LVM_GETHEADER)); }
 
 int column_count(HWND list) {

@@ -7,8 +7,6 @@ namespace brx::checks {
 
 namespace {
 
-constexpr int longest_text = 8192;
-
 HTREEITEM next(HWND tree, UINT relation, HTREEITEM item = nullptr) {
     return reinterpret_cast<HTREEITEM>(ask(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
 }

@@ -67,9 +67,9 @@ std::optional<std::string> time_field(char letter, std::size_t count, const Mome
     }
 }
 
-using Field = std::optional<std::string> (*)(char, std::size_t, const Moment&, const Locale&);
+using FieldText = std::optional<std::string> (*)(char, std::size_t, const Moment&, const Locale&);
 
-std::string fill(const std::string& picture, Field field, const Moment& moment, const Locale& locale) {
+std::string fill(const std::string& picture, FieldText field, const Moment& moment, const Locale& locale) {
     std::string text;
     bool quoted = false;
     for (std::size_t i = 0; i < picture.size();) {
