@@ -7,4 +7,9 @@ export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after
 export UBSAN_OPTIONS=print_stacktrace=1
 need "the preset linux builds" build linux
 run_programs linux native timeout --kill-after=10
+
+# In which order a host is called must not be a compiler's choice.
+need "clang builds what compares the calls" build linux-clang-checks brx_call_checks
+run_program "linux-clang-checks: brx_call_checks" \
+    timeout --kill-after=10 600 "$brx_build/linux-clang-checks/checks/brx_call_checks"
 part_end
