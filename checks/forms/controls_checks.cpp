@@ -153,6 +153,10 @@ TEST_F(Controls, LinesKeepTheirItemDataWhenOthersAreInserted) {
         EXPECT_EQ(form.list.text(1), "b");
         EXPECT_EQ(form.list.data(1), -2);
         EXPECT_EQ(form.list.data(2), INT32_MAX);
+        form.list.add_line("d");
+        form.list.insert_line(4, "e");
+        EXPECT_EQ(form.list.data(3), 0) << "It was given no number.";
+        EXPECT_EQ(form.list.data(4), 0) << "It was given no number.";
         EXPECT_EQ(form.list.selected(), 2) << "The selection stays on its line.";
     });
 }

@@ -1,6 +1,8 @@
 #include "server/opened_windows.h"
 
 #include <array>
+#include <string>
+#include <utility>
 
 namespace brx::checks {
 
@@ -11,27 +13,35 @@ bool closing = false;
 HWND last_closed = nullptr;
 std::vector<std::pair<std::wstring, std::wstring>> closed_messages;
 
-constexpr int text_of_message_box = 0xFFFF;
-
 bool has_title_bar(LONG_PTR style) { return (style & WS_CAPTION) == WS_CAPTION && !(style & WS_CHILD); }
 
-void note_message(HWND window) {
-    std::array<wchar_t, 1000> title{};
+std::wstring text_in(HWND window) {
     std::array<wchar_t, 1000> text{};
-    GetWindowTextW(window, title.data(), static_cast<int>(title.size()));
-    if (GetDlgItemTextW(window, text_of_message_box, text.data(), static_cast<int>(text.size())) > 0)
-        closed_messages.emplace_back(title.data(), text.data());
+    GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+/// Systems have different numbers for the text of a message box; beside it there is only the icon.
+void note_message(HWND window) {
+    for (HWND label = nullptr; (label = FindWindowExW(window, label, L"Static", nullptr));)
+        if (const std::wstring text = text_in(label); !text.empty())
+            closed_messages.emplace_back(text_in(window), text);
 }
 
 void close(HWND window) {
     PostMessageW(window, WM_CLOSE, 0, 0);
-    if (window != std::exchange(last_closed, window)) note_message(window);
+    last_closed = window;
 }
 
 LRESULT CALLBACK watch(int code, WPARAM wparam, LPARAM lparam) {
     const HWND window = reinterpret_cast<HWND>(wparam);
     if (code == HCBT_CREATEWND) {
         if (has_title_bar(reinterpret_cast<CBT_CREATEWNDW*>(lparam)->lpcs->style)) ++opened;
+    }
+    // Some systems give a box its text only after it has become active.
+    if (code == HCBT_DESTROYWND && window == last_closed) {
+        note_message(window);
+        last_closed = nullptr;
     }
     if (code == HCBT_ACTIVATE && closing && has_title_bar(GetWindowLongPtrW(window, GWL_STYLE)))
         close(window);

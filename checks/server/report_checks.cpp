@@ -149,7 +149,7 @@ TEST_F(ReportTest, EachShowTellsAgain) {
     show_nothing();
     show_nothing();
     EXPECT_EQ(windows.messages().size(), 2u);
-    EXPECT_EQ(debugger.lines().size(), 2u);
+    EXPECT_EQ(debugger.lines().size(), 2u) << testing::PrintToString(debugger.lines());
 }
 
 TEST_F(ReportTest, AnErrorLibraryThatFailsIsReplacedByMessageBoxAndDebugger) {

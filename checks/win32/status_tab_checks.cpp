@@ -86,8 +86,10 @@ TEST_F(StatusTabTest, AnotherValueDrawsItsRowOnly) {
     show_status([&](HWND list) {
         const int row = server_rows + 2;
         model.groups->entries[2]->name = "Another name";
-        const MessageLog log(list);
+        MessageLog log(list);
         tick();
+        // For its tip the table asks what the mouse is over.
+        std::erase_if(log.messages, [](const MSG& each) { return each.message == LVM_SUBITEMHITTEST; });
         ASSERT_EQ(log.messages.size(), 1U);
         EXPECT_EQ(log.messages.front().message, UINT{LVM_REDRAWITEMS});
         EXPECT_EQ(log.messages.front().wParam, static_cast<WPARAM>(row));
