@@ -32,11 +32,11 @@ copy_sources() {
 }
 
 # Many sources at a time, which takes a tenth of the time; one by one where their own names clash.
-one_by_one=OFF
+together=ON
 
 compile() { # compile TARGET..
     cmake -S "$tree" -B "$objects" -G Ninja -DBRX_MUTANTS=ON -DCMAKE_CXX_COMPILER=g++ -DCMAKE_C_COMPILER=gcc \
-        -DBRX_ONE_BY_ONE=$one_by_one \
+        -DBRX_TOGETHER=$together \
         -DCMAKE_CXX_FLAGS="-O0 -g0 -w -D_GLIBCXX_ASSERTIONS -include $tree/checks/mutants/mutant.h" &&
         cmake --build "$objects" -j "$jobs" --target "$@" -- -k 0
 }
@@ -51,10 +51,10 @@ compile_edits() {
             if compile "$target" >"$state/compiler.log" 2>&1; then break; fi
             new=$("$edits" learn "$top" "$state" "$state/compiler.log")
             [ "$new" -eq 0 ] || continue
-            [ "$one_by_one" = OFF ] || { tail -n 40 "$state/compiler.log" && return 1; }
+            [ "$together" = ON ] || { tail -n 40 "$state/compiler.log" && return 1; }
             mv "$state/compiler.log" "$state/clash.log"
             rm -f "$state/unguarded" "$state/impossible" # what was learnt may follow from the clash
-            one_by_one=ON
+            together=OFF
         done
     done
 }
