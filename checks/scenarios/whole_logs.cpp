@@ -1,4 +1,5 @@
 #include "adding.h"
+#include "calls.h"
 #include "configuring.h"
 
 // Every call that a dialog makes to the host on the way to success, from its opening to its end.
@@ -7,14 +8,6 @@ using namespace brx;
 using namespace brx::checks;
 
 namespace {
-
-/// What the host was asked since `seen` calls, which are then as many as there are.
-Lines asked_since(const Play& its, std::size_t& seen) {
-    const Lines all = its.host.calls.members();
-    Lines asked(all.begin() + static_cast<std::ptrdiff_t>(seen), all.end());
-    seen = all.size();
-    return asked;
-}
 
 /// The same member of several calls with a prefix.
 Lines of(const std::string& interface_name, const Lines& members) {
@@ -33,29 +26,30 @@ Lines operator+(Lines calls, const Lines& more) {
 SCENARIO(WholeLog, OfAServerThatIsChosen) {
     its.host.servers->has("Matrix");
     its.host.servers->has("Sim", "PC7");
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     Showing select(*its.stage, "ServerSelect");
     select.show(its.host.servers);
     its.person.picks("cboServer", "PC7.Sim");
     its.person.presses("bnOK");
     EXPECT_TRUE(select.result());
-    EXPECT_EQ(asked_since(its, seen),
-              (Lines{"hlxHelp.HelpFile", "hlxOPCServers.Count", "hlxOPCServers.Item", "hlxOPCServer.Node",
-                     "hlxOPCServer.ServerName", "hlxOPCServers.Item", "hlxOPCServer.Node",
-                     "hlxOPCServer.ServerName"}));
+    EXPECT_EQ(calls.since_then(), (Lines{"hlxHelp.HelpFile", "hlxOPCServers.Count", "hlxOPCServers.Item",
+                                         "hlxOPCServer.Node", "hlxOPCServer.ServerName", "hlxOPCServers.Item",
+                                         "hlxOPCServer.Node", "hlxOPCServer.ServerName"}));
 }
 
 SCENARIO(WholeLog, OfAServerThatIsAdded) {
     its.host.servers->has_connected("Line.Server.2");
     its.host.servers_on("PC7", {"Line.Server.2"});
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     Adding dialog(its);
     dialog.lists_node("PC7");
     its.person.picks("lstOPCServers", "Line.Server.2");
     its.person.presses("bnOK");
     EXPECT_TRUE(dialog.add.result());
     EXPECT_EQ(
-        asked_since(its, seen),
+        calls.since_then(),
         (Lines{"create hlxOPCServer", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers()",
                "hlxHelp.HelpFile", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers(PC7)",
                // whether it is new
@@ -64,13 +58,14 @@ SCENARIO(WholeLog, OfAServerThatIsAdded) {
 }
 
 SCENARIO(WholeLog, OfAServerThatIsWatched) {
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     Showing information(*its.stage, "ServerInformation");
     information.show(std::make_shared<FakeOPCServer>(its.host.calls));
     its.person.waits_for_ticks(1);
     its.person.presses("bnOK");
     EXPECT_TRUE(information.result());
-    EXPECT_EQ(asked_since(its, seen),
+    EXPECT_EQ(calls.since_then(),
               of("OPCServer", {"ServerNode", "ServerName", "StartTime", "CurrentTime", "LastUpdateTime",
                                "MajorVersion", "MinorVersion", "VendorInfo"}) +
                   Lines{"hlxHelp.HelpFile"} +
@@ -80,10 +75,11 @@ SCENARIO(WholeLog, OfAServerThatIsWatched) {
 SCENARIO(WholeLog, OfAConfigurationThatIsOpenedAndClosed) {
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     Configuring dialog(its);
     const Lines to_the_server = {"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry"};
-    EXPECT_EQ(asked_since(its, seen),
+    EXPECT_EQ(calls.since_then(),
               to_the_server + of("hlxOPCServer", {"Node", "ServerName"}) +
                   of("hlxOPCConfiguration",
                      {"Name", "SubgroupSize", "UpdateRate", "DeadBand", "Active", "SyncDateTime",
@@ -100,7 +96,7 @@ SCENARIO(WholeLog, OfAConfigurationThatIsOpenedAndClosed) {
     dialog.closes();
     const Lines activation = {"OPCGroup.OPCItems", "OPCItems.Item", "OPCItem.IsActive="};
     EXPECT_EQ(
-        asked_since(its, seen),
+        calls.since_then(),
         of("hlxOPCConfiguration", {"OPCGroup", "Name=", "SubgroupSize=", "UpdateRate=", "DeadBand=",
                                    "Active=", "SyncDateTime=", "PieceInterval=", "PieceTimeUnit="}) +
             activation +
@@ -113,7 +109,8 @@ SCENARIO(WholeLog, OfAConfigurationThatIsOpenedAndClosed) {
 SCENARIO(WholeLog, OfADescriptorThatIsAddedEditedAndRemoved) {
     Configuring dialog(its);
     dialog.turns_to_descriptors();
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     const Lines to_the_database = {"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry",
                                    "hlxOPCServer.Parent", "hlxOPCServers.Parent", "hlxApplication.Database"};
     const Lines edited = to_the_database +
@@ -124,25 +121,26 @@ SCENARIO(WholeLog, OfADescriptorThatIsAddedEditedAndRemoved) {
     its.person.presses("bnOK");
     its.person.enters("txtItem", "L-7");
     its.person.presses("bnOK");
-    EXPECT_EQ(asked_since(its, seen), (Lines{"hlxOPCConfiguration.Descriptors", "hlxOPCDescriptors.NewEnum",
-                                             "hlxOPCDescriptors.Next", "hlxOPCDescriptors.Add"}) +
-                                          edited + shown);
+    EXPECT_EQ(calls.since_then(), (Lines{"hlxOPCConfiguration.Descriptors", "hlxOPCDescriptors.NewEnum",
+                                         "hlxOPCDescriptors.Next", "hlxOPCDescriptors.Add"}) +
+                                      edited + shown);
     its.person.presses("bnEditDesc");
     its.person.presses("bnOK");
-    EXPECT_EQ(asked_since(its, seen),
+    EXPECT_EQ(calls.since_then(),
               (Lines{"hlxOPCConfiguration.Descriptors", "hlxOPCDescriptors.Item"}) + edited + shown);
     its.person.presses("bnRemoveDesc");
-    EXPECT_EQ(asked_since(its, seen), (Lines{"hlxOPCConfiguration.Descriptors", "hlxOPCDescriptors.Remove"}));
+    EXPECT_EQ(calls.since_then(), (Lines{"hlxOPCConfiguration.Descriptors", "hlxOPCDescriptors.Remove"}));
     dialog.leaves();
 }
 
 SCENARIO(WholeLog, OfATickOfTheStatus) {
     its.host.groups->has("Fast");
     Configuring dialog(its);
-    std::size_t seen = its.host.calls.made().size();
+    CallsMade calls(its);
+    calls.since_then(); // before the story
     its.person.waits_for_ticks(1);
     EXPECT_EQ(
-        asked_since(its, seen),
+        calls.since_then(),
         (Lines{"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry", "hlxOPCServer.OPCServer"}) +
             of("OPCServer", {"ServerNode", "ServerName", "StartTime", "CurrentTime", "LastUpdateTime",
                              "Bandwidth", "BuildNumber", "ClientName", "MajorVersion", "MinorVersion",
