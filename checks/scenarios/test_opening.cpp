@@ -111,19 +111,30 @@ SCENARIO(TestDialog, ATypeThatCannotBeReadIsToldBeforeTheTestShows) {
 }
 
 SCENARIO(TestDialog, ATestThatCouldNotBeReadIsNotWritten) {
-    for (const char* member : {"hlxOPCTest.ItemTrigger", "hlxOPCTest.Constant", "hlxOPCTest.SaveAs",
-                               "hlxOPCTest.TriggerExpression", "hlxOPCTest.TriggerValue"}) {
+    const std::pair<const char*, const char*> places[] = {
+        {"OPCItemID", "Form_Load"},       {"ClientHandle", "EditSet"}, {"CharacteristicName", "EditSet"},
+        {"ItemTrigger", "EditSet"},       {"Constant", "EditSet"},     {"SaveAs", "EditSet"},
+        {"TriggerExpression", "EditSet"}, {"TriggerValue", "EditSet"}};
+    for (const auto& [member, procedure] : places) {
+        SCOPED_TRACE(member);
         start_over(its);
         const auto test = a_bound_test(its, 2);
-        its.host.calls.fail_on(member);
+        const TestFields before = test->fields;
+        its.host.calls.fail_on(std::string("hlxOPCTest.") + member);
         Testing testing(its, test);
-        its.expect_report(CallLog::failure_number, "dlgOPCTest.EditSet");
+        its.expect_report(CallLog::failure_number, std::string("dlgOPCTest.") + procedure);
         its.host.calls.fail_on("");
+        EXPECT_FALSE(its.person.can_press("bnOK"));
         testing.picks_item("Line1.Force");
-        EXPECT_FALSE(its.person.can_press("bnOK")) << member;
+        testing.picks_characteristic(8, "Width");
+        EXPECT_EQ(its.person.reads("txtItem"), "Line1.Force");
+        EXPECT_EQ(its.person.reads("txtTest"), "Width");
+        EXPECT_FALSE(its.person.can_press("bnOK")) << "Nobody knows what OK would write over.";
+        EXPECT_FALSE(its.person.sees("chkItemTrigger").enabled);
         its.person.presses("bnCancel");
         EXPECT_FALSE(testing.result());
-        EXPECT_EQ(test->fields.constant, 1.5);
+        EXPECT_EQ(test->fields, before);
+        EXPECT_EQ(test->data->id, 7);
     }
 }
 

@@ -28,8 +28,7 @@ OPCItemsPtr dlgOPCTest::items_of(const ObjectPtr& group) {
 void dlgOPCTest::Form_Load() {
     trap("Form_Load", [&] {
         ok_pressed_ = false;
-        edit_mode_ = test_chosen_ = added_new_item_ = false;
-        all_read_ = true;
+        edit_mode_ = test_chosen_ = added_new_item_ = all_read_ = false;
         former_ = {};
         server_handles_ = LongArray{{0}};
         fill_operators(cboExpression);
@@ -44,6 +43,7 @@ void dlgOPCTest::Form_Load() {
         ShowEvalType(0);
         const std::string bound = the(test_).OPCItemID();
         edit_mode_ = !item_id_.empty() || !bound.empty();
+        all_read_ = !edit_mode_; // a new test has nothing to read
         if (edit_mode_) {
             former_.item_id = bound;
             former_.state = state_;
@@ -68,7 +68,6 @@ void dlgOPCTest::EditSet() {
             const auto failure = failure_of(show);
             if (!unfit) unfit = failure;
         };
-        all_read_ = false;
         former_.client_handle = client_handle_ = test.ClientHandle();
         test_name_ = test.CharacteristicName();
         txtTest.set_text(test_name_);
