@@ -139,11 +139,18 @@ SCENARIO(DescriptorProperties, ACancelledBrowserChangesNothing) {
 
 SCENARIO(DescriptorProperties, AnItemThatTheGroupHasIsNotAddedAgain) {
     its.host.group->items->has("Line1.Speed");
+    its.host.group->items->has("Line1.Force"); // which is asked for its identifier all the same
     Describing dialog(its, {.type = 7, .item = "", .group = ""});
-    dialog.browses("bnItem", "Line1.Speed");
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Speed");
+    CallsMade calls(its);
+    calls.since_then();
+    its.person.presses("bnOK");
+    EXPECT_EQ(calls.since_then(), Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks first
+                                         "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item",
+                                         "OPCItem.ItemID", "OPCItems.Item", "OPCItem.ItemID"}));
     EXPECT_EQ(its.person.reads("txtItem"), "(%Line1.Speed)");
-    EXPECT_EQ(its.host.group->items->ids(), Lines{"Line1.Speed"});
-    EXPECT_EQ(its.host.calls.count("OPCItems.AddItems"), 0);
+    EXPECT_EQ(its.host.group->items->ids(), (Lines{"Line1.Speed", "Line1.Force"}));
     dialog.confirms();
 }
 

@@ -8,8 +8,16 @@ using namespace brx::checks;
 
 SCENARIO(TestDialog, AnItemThatTheGroupHasIsNotAddedAgain) {
     its.host.group->items->has("Line1.Speed");
+    its.host.group->items->has("Line1.Force"); // which is asked for its identifier all the same
     Testing testing(its, its.host.has_test(0, ""));
-    testing.picks_item("Line1.Speed");
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Speed");
+    CallsMade calls(its);
+    calls.since_then();
+    its.person.presses("bnOK");
+    EXPECT_EQ(calls.since_then(), Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks first
+                                         "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item",
+                                         "OPCItem.ItemID", "OPCItems.Item", "OPCItem.ItemID"}));
     EXPECT_EQ(its.person.reads("txtItem"), "Line1.Speed");
     EXPECT_TRUE(its.host.group->items->added.empty());
     its.person.presses("bnCancel");

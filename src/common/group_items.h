@@ -10,19 +10,17 @@ namespace brx {
 
 // What dialogs do with the items of a configuration's OPC group.
 
-/// Goes through the items in their order until `visit` says false.
+/// Goes through all the items in their order.
 template <class Visit> void for_each_item(OPCItems& items, Visit&& visit) {
     const std::int32_t count = items.Count();
-    for (std::int32_t i = 1; i <= count; ++i)
-        if (!visit(the(items.Item(i)))) return;
+    for (std::int32_t i = 1; i <= count; ++i) visit(the(items.Item(i)));
 }
 
-/// Whether the group has exactly this item already.
+/// Whether the group has exactly this item already. A host sees every item asked, also behind the one found.
 inline bool holds_item(OPCItems& items, const std::string& item_id) {
     bool found = false;
     for_each_item(items, [&](OPCItem& item) {
-        found = item.ItemID() == item_id;
-        return !found;
+        if (item.ItemID() == item_id) found = true;
     });
     return found;
 }

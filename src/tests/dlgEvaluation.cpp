@@ -34,10 +34,8 @@ void dlgEvaluation::Form_Unload() { configuration_ = nullptr; }
 void dlgEvaluation::BuildDlg() {
     trap("BuildDlg", [&] {
         cboItem.add_line(no_item);
-        for_each_item(the(items_of(the(configuration_).OPCGroup())), [&](OPCItem& item) {
-            cboItem.add_line(item.ItemID());
-            return true;
-        });
+        for_each_item(the(items_of(the(configuration_).OPCGroup())),
+                      [&](OPCItem& item) { cboItem.add_line(item.ItemID()); });
         if (!item_id_.empty()) cboItem.select_text(item_id_);
         if (cboItem.selected() < 0) cboItem.select(0);
         cboExpression.select(expression_);
