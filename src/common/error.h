@@ -42,6 +42,11 @@ public:
     std::string description() const { return what(); }
     const std::string& source() const { return source_; }
 
+    /// Whether both say the same.
+    bool operator==(const Error& other) const {
+        return number_ == other.number_ && description() == other.description() && source_ == other.source_;
+    }
+
 private:
     std::int32_t number_;
     std::string source_;

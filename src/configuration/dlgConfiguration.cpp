@@ -4,9 +4,11 @@
 #include "forms/focus.h"
 #include "tests/operators.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 namespace brx {
 
@@ -19,24 +21,37 @@ dlgConfiguration::dlgConfiguration(Environment& environment)
       tools_(environment.errors) {}
 
 void dlgConfiguration::Form_Load() {
-    loaded_whole_ = false;
+    loaded_whole_ = true;
     tests_.start_afresh();
     descriptors_.start_afresh();
     groups_.clear();
     server_values_ = {};
     piece_trigger_ = subgroup_trigger_ = {};
-    trap("Form_Load", [&] {
+    std::vector<Error> told;
+    // What fails keeps nothing else from being loaded: every tab shows what can be had.
+    const auto load = [&](const auto& part) {
+        trap("Form_Load", [&] {
+            try {
+                part();
+            } catch (...) {
+                loaded_whole_ = false;
+                const Error error = current_error();
+                if (std::find(told.begin(), told.end(), error) != told.end()) return;
+                told.push_back(error);
+                throw;
+            }
+        });
+    };
+    load([&] {
         set_up_columns();
         load_general();
-        load_sampling();
-        ConfigureDescriptors();
+    });
+    load([&] { load_sampling(); });
+    load([&] { ConfigureDescriptors(); });
+    load([&] {
         frmTab0.set_visible(true); // in front, since no other one shows
         AddToList();
-        loaded_whole_ = true;
     });
-    // What failed has been reported. Every tab shows what can be had all the same.
-    if (!descriptors_.was_listed()) attempt([&] { ConfigureDescriptors(); });
-    if (!tests_.was_listed()) attempt([&] { AddToList(); });
     // Nobody should type what will not be committed.
     for (Control* field : std::initializer_list<Control*>{&txtName, &txtUpdateRate, &txtDeadband, &chkActive,
                                                           &txtSubgroupSize, &frmTab1})

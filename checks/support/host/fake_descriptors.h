@@ -27,6 +27,7 @@ public:
         : fields(std::move(of_fields)), calls_(calls), owner_(owner) {}
 
     DescriptorFields fields;
+    std::string untold; ///< the member that cannot be read
 
     std::int32_t Index() override;
     std::int32_t Type() override { return read("Type", fields.type); }
@@ -38,6 +39,7 @@ public:
 private:
     template <class Value> Value read(const std::string& member, const Value& value) {
         calls_.note("hlxOPCDescriptor." + member);
+        if (member == untold) throw Error(error::invalid_procedure_call);
         return value;
     }
     void write(const std::string& member, std::string& field, const std::string& value);
@@ -55,6 +57,8 @@ public:
     bool keeps_all = false;       ///< Remove fails
     bool drops_and_fails = false; ///< Remove fails, and has removed it all the same
     bool adds_in_front = false;   ///< Add makes the new one the first
+    bool adds_and_fails = false;  ///< Add fails, and has added it all the same
+    bool gives_nothing = false;   ///< Add gives Nothing, and has added it all the same
     bool trims_names = false;     ///< leading and trailing blanks are not kept
 
     void has(const DescriptorFields& fields) {
@@ -72,10 +76,11 @@ public:
     }
     hlxOPCDescriptorPtr Add(std::int32_t type) override {
         calls_.note("hlxOPCDescriptors.Add");
-        const auto where = adds_in_front ? entries.begin() : entries.end();
-        return *entries.insert(
-            where, std::make_shared<FakeDescriptor>(calls_, *this,
-                                                    DescriptorFields{.type = type, .item = {}, .group = {}}));
+        const auto added = std::make_shared<FakeDescriptor>(
+            calls_, *this, DescriptorFields{.type = type, .item = {}, .group = {}});
+        entries.insert(adds_in_front ? entries.begin() : entries.end(), added);
+        if (adds_and_fails) throw Error(error::invalid_procedure_call);
+        return gives_nothing ? nullptr : added;
     }
     hlxOPCDescriptorPtr Item(const Variant& position) override {
         calls_.note("hlxOPCDescriptors.Item");

@@ -33,6 +33,7 @@ public:
     TestFields fields;
     std::shared_ptr<FakeTestData> data;
     std::weak_ptr<hlxOPCTests> parent;
+    std::string untold; ///< the member that cannot be read
 
     std::int32_t State() override { return read("State", fields.state); }
     void set_State(std::int32_t value) override { write("State=", fields.state, value); }
@@ -65,6 +66,7 @@ public:
 private:
     template <class Value> Value read(const std::string& member, const Value& value) {
         calls_.note("hlxOPCTest." + member);
+        if (member == untold) throw Error(error::invalid_procedure_call);
         return value;
     }
     template <class Value> void write(const std::string& member, Value& field, const Value& value) {
@@ -83,6 +85,8 @@ public:
     std::vector<std::shared_ptr<FakeTest>> entries;
     bool keeps_all = false;       ///< Remove fails
     bool drops_and_fails = false; ///< Remove fails, and has removed it all the same
+    bool adds_and_fails = false;  ///< Add fails, and has added it all the same
+    bool gives_nothing = false;   ///< Add gives Nothing, and has added it all the same
     std::weak_ptr<hlxOPCConfiguration> parent;
 
     /// The characteristics that the database has, by their ids.
@@ -99,7 +103,9 @@ public:
 
     hlxOPCTestPtr Add() override {
         calls_.note("hlxOPCTests.Add");
-        return has(0, "", 0);
+        const auto added = has(0, "", 0);
+        if (adds_and_fails) throw Error(error::invalid_procedure_call);
+        return gives_nothing ? nullptr : added;
     }
     hlxOPCTestPtr Item(const Variant& position) override {
         calls_.note("hlxOPCTests.Item");
