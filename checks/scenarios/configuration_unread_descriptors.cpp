@@ -206,3 +206,49 @@ SCENARIO(DescriptorsTab, AnEditThatCannotBeReadBackShowsWhatWasConfirmed) {
     EXPECT_TRUE(its.person.can_press("bnRemoveDesc"));
     dialog.leaves();
 }
+
+SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsAsItFailsIsListed) {
+    for (const bool it_fails : {true, false}) {
+        FakeDescriptors& descriptors = *its.host.configuration->descriptors;
+        descriptors.entries.clear();
+        three_descriptors(its);
+        Configuring dialog(its);
+        dialog.turns_to_descriptors();
+        its.person.presses("bnAddDesc");
+        its.person.picks("List1", "Job");
+        (it_fails ? descriptors.adds_and_fails : descriptors.gives_nothing) = true;
+        its.person.presses("bnOK");
+        its.person.is_at("dlgConfiguration");
+        its.expect_report(it_fails ? error::invalid_procedure_call : error::object_not_set,
+                          "dlgConfiguration.bnAddDesc_Click");
+        descriptors.adds_and_fails = descriptors.gives_nothing = false;
+        Lines rows = three_rows;
+        rows.emplace_back("Job |  | ");
+        EXPECT_EQ(its.person.lines_of("lvwDescriptors"), rows);
+        adds_descriptor(its, "Process");
+        rows.emplace_back("Process | Group | New");
+        EXPECT_EQ(its.person.lines_of("lvwDescriptors"), rows);
+        expect_to_lead_to(its, rows[4], "Process");
+        expect_to_lead_to(its, rows[3], "Job");
+        its.person.presses("bnRemoveDesc");
+        EXPECT_EQ(descriptors.fields().size(), 4U);
+        EXPECT_EQ(descriptors.fields().back(), (DescriptorFields{1, "New", "Group"}));
+        rows.erase(rows.begin() + 3);
+        EXPECT_EQ(its.person.lines_of("lvwDescriptors"), rows);
+        dialog.leaves();
+    }
+}
+
+SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsUnreadLeavesTheRowsOutOfReach) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->adds_and_fails = true;
+    Configuring dialog(its);
+    dialog.turns_to_descriptors();
+    its.person.presses("bnAddDesc");
+    its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
+    its.person.presses("bnOK");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
+    expect_descriptors_out_of_reach(its);
+    dialog.leaves();
+}

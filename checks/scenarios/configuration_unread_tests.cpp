@@ -155,3 +155,44 @@ SCENARIO(TestsTab, ACancelledTestThatTheHostKeepsUnreadLeavesTheRowsOutOfReach) 
     EXPECT_TRUE(its.person.can_press("bnRemove"));
     again.leaves();
 }
+
+SCENARIO(TestsTab, ATestThatTheHostAddsAsItFailsIsListed) {
+    for (const bool it_fails : {true, false}) {
+        FakeTests& tests = *its.host.configuration->tests;
+        tests.entries.clear();
+        a_filled_configuration(its);
+        Configuring dialog(its);
+        (it_fails ? tests.adds_and_fails : tests.gives_nothing) = true;
+        its.person.presses("bnAdd");
+        its.person.is_at("dlgConfiguration");
+        if (!it_fails) its.expect_report(error::type_mismatch, "TestConfiguration.ResolvehlxOPCTest");
+        its.expect_report(it_fails ? error::invalid_procedure_call : error::object_not_set,
+                          "dlgConfiguration.bnAdd_Click", ErrorLibrary::hlxER01);
+        tests.adds_and_fails = tests.gives_nothing = false;
+        const std::string unfinished = " |  | Matrix | PC7";
+        EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{test_rows[0], unfinished}));
+        adds_width(its);
+        EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{test_rows[0], unfinished, test_rows[1]}));
+        its.person.presses("cmdEdit");
+        EXPECT_EQ(its.person.reads("txtTest"), "Width");
+        its.person.presses("bnCancel");
+        its.person.picks("lvwTest", unfinished);
+        its.person.presses("bnRemove");
+        EXPECT_EQ(characteristics(its), (Lines{"Length", "Width"}));
+        EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{test_rows[0], test_rows[1]}));
+        dialog.leaves();
+        its.host.browser->root.branches.clear();
+    }
+}
+
+SCENARIO(TestsTab, ATestThatTheHostAddsUnreadLeavesTheRowsOutOfReach) {
+    three_tests(its);
+    its.host.configuration->tests->adds_and_fails = true;
+    Configuring dialog(its);
+    its.host.calls.fail_on("hlxOPCTest.State");
+    its.person.presses("bnAdd");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAdd_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), test_rows);
+    expect_tests_out_of_reach(its);
+    dialog.leaves();
+}

@@ -46,16 +46,23 @@ void dlgConfiguration::bnAddDesc_Click() {
         type_dialog_->show_modal();
         if (!type_dialog_->OKPressed()) return;
         const std::int32_t type = type_dialog_->DescriptorType();
-        const hlxOPCDescriptorPtr descriptor = the(descriptors).Add(type);
+        hlxOPCDescriptors& owner = the(descriptors);
+        hlxOPCDescriptorPtr descriptor;
+        descriptors_.add(
+            [&] {
+                descriptor = owner.Add(type);
+                the(descriptor);
+            },
+            [&] { ConfigureDescriptors(); });
         bool confirmed = false;
         try {
-            confirmed = EditDescriptorType(the(descriptor));
+            confirmed = EditDescriptorType(*descriptor);
         } catch (...) {
             // A descriptor that nobody could finish is none.
-            attempt([&] { take_back(*descriptors, the(descriptor)); });
+            attempt([&] { take_back(owner, *descriptor); });
             throw;
         }
-        if (!confirmed) return take_back(*descriptors, *descriptor);
+        if (!confirmed) return take_back(owner, *descriptor);
         // A row behind others than the host's own would not have the descriptor's position.
         if (!descriptors_.is_whole()) {
             ConfigureDescriptors();

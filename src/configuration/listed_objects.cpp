@@ -25,16 +25,25 @@ void ListedObjects::list(const std::function<void(Drafts&)>& read) {
     try {
         read(rows);
     } catch (...) {
-        if (was_listed()) {
-            become(Listed::uncertain);
-        } else {
+        if (listed_ == Listed::never) {
             show(rows);
             become(Listed::in_part);
+        } else {
+            become(Listed::uncertain);
         }
         throw;
     }
     show(rows);
     become(Listed::whole);
+}
+
+void ListedObjects::add(const std::function<void()>& make, const std::function<void()>& list_again) {
+    try {
+        make();
+    } catch (...) {
+        attempt(list_again);
+        throw;
+    }
 }
 
 void ListedObjects::take_away(const std::function<void()>& remove, const std::function<void()>& list_again) {

@@ -39,7 +39,6 @@ public:
 
     /// The form loads.
     void start_afresh() { listed_ = Listed::never; }
-    bool was_listed() const { return listed_ != Listed::never; }
     /// Whether there is a row for every object.
     bool is_whole() const { return listed_ == Listed::whole; }
 
@@ -54,8 +53,10 @@ public:
     /// time there are then rows for the objects up to it; later the rows stay as they were.
     void list(const std::function<void(Drafts&)>& read);
 
-    /// Takes an object away from the host. When that fails the host may have it or not: it is looked up with
-    /// `list_again`.
+    /// Has the host add an object as the last one. When that fails the host may have it all the same: the
+    /// objects are listed anew with `list_again`.
+    void add(const std::function<void()>& make, const std::function<void()>& list_again);
+    /// Takes an object away from the host. When that fails the host may have it or not: likewise.
     void take_away(const std::function<void()>& remove, const std::function<void()>& list_again);
 
 private:

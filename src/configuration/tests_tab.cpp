@@ -30,8 +30,18 @@ void dlgConfiguration::AddToList() {
 void dlgConfiguration::bnAdd_Click() {
     trap("bnAdd_Click", [&] {
         TestConfiguration editor(environment());
-        const hlxOPCTestPtr test = the(the(configuration_).Tests()).Add();
-        if (!editor.Show(test)) return take_back(the(test));
+        const hlxOPCTestsPtr tests = the(configuration_).Tests();
+        hlxOPCTests& owner = the(tests);
+        hlxOPCTestPtr test;
+        bool confirmed = false;
+        tests_.add(
+            [&] {
+                test = owner.Add();
+                confirmed = editor.Show(test); // which tells of Nothing in its own way
+                the(test);
+            },
+            [&] { AddToList(); });
+        if (!confirmed) return take_back(*test);
         AddToList();
         tests_.select(lvwTest.count());
     });
