@@ -252,3 +252,34 @@ SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsUnreadLeavesTheRowsOutOfReach
     expect_descriptors_out_of_reach(its);
     dialog.leaves();
 }
+
+SCENARIO(DescriptorsTab, AListInPartStaysSoThroughAnEditAndAnAdd) {
+    three_descriptors(its);
+    its.host.configuration->descriptors->entries[1]->untold = "GroupName";
+    const Lines in_part = {three_rows[0], "Serial Number |  | "};
+    Configuring dialog(its);
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    dialog.turns_to_descriptors();
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), in_part);
+    its.person.double_clicks("lvwDescriptors", in_part[1]);
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnEditDesc_Click");
+    its.person.double_clicks("lvwDescriptors", in_part[0]);
+    its.person.enters("txtItem", "Axle");
+    its.person.presses("bnOK");
+    const std::string edited = "Part | Castings | Axle";
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{edited, in_part[1]}));
+    adds_descriptor(its, "Job");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnAddDesc_Click");
+    EXPECT_EQ(its.host.configuration->descriptors->fields().size(), 4U);
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{edited, in_part[1]}));
+    EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 0);
+    expect_to_lead_to(its, edited, "Part");
+    its.person.picks("lvwDescriptors", in_part[1]);
+    its.person.presses("bnRemoveDesc");
+    EXPECT_EQ(its.host.configuration->descriptors->fields(),
+              (Fields{{0, "Axle", "Castings"}, {5, "Red", "Colours"}, {2, "New", "Group"}}));
+    adds_descriptor(its, "Process"); // nothing is unreadable any more
+    EXPECT_EQ(its.person.lines_of("lvwDescriptors"),
+              (Lines{edited, three_rows[2], "Job | Group | New", "Process | Group | New"}));
+    dialog.leaves();
+}

@@ -196,3 +196,51 @@ SCENARIO(TestsTab, ATestThatTheHostAddsUnreadLeavesTheRowsOutOfReach) {
     expect_tests_out_of_reach(its);
     dialog.leaves();
 }
+
+SCENARIO(TestsTab, AListInPartStaysSoThroughAnEditAndAnAdd) {
+    a_filled_configuration(its);
+    its.host.has_test(9, "Mass")->untold = "OPCItemID";
+    const Lines in_part = {test_rows[0], "Mass |  |  | "};
+    const auto expect_report_of_the_mass = [&](const std::string& procedure) {
+        its.expect_report(error::invalid_procedure_call, "dlgConfiguration." + procedure,
+                          ErrorLibrary::hlxER01);
+    };
+    Configuring dialog(its);
+    expect_report_of_the_mass("Form_Load");
+    EXPECT_EQ(its.person.lines_of("lvwTest"), in_part);
+    its.person.double_clicks("lvwTest", in_part[0]);
+    its.host.configuration->tests->entries[0]->fields.characteristic = "Breadth";
+    its.person.presses("bnOK");
+    expect_report_of_the_mass("lvwTest_DblClick");
+    const std::string edited = "Breadth | Line1.Speed | Matrix | PC7";
+    EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{edited, in_part[1]}));
+    EXPECT_EQ(its.person.sees("lvwTest").selected, 0);
+    adds_width(its);
+    expect_report_of_the_mass("bnAdd_Click");
+    EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{edited, in_part[1]}));
+    its.person.presses("cmdEdit");
+    EXPECT_EQ(its.person.reads("txtTest"), "Breadth");
+    its.person.presses("bnCancel");
+    its.person.picks("lvwTest", in_part[1]);
+    its.person.presses("bnRemove");
+    EXPECT_EQ(characteristics(its), (Lines{"Length", "Width"}));
+    its.person.double_clicks("lvwTest", edited);
+    its.person.presses("bnOK"); // nothing is unreadable any more
+    EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{edited, test_rows[1]}));
+    dialog.leaves();
+}
+
+SCENARIO(TestsTab, AListInPartIsOutOfReachWhenARemovalFails) {
+    a_filled_configuration(its);
+    its.host.has_test(9, "Mass")->untold = "OPCItemID";
+    its.host.configuration->tests->keeps_all = true;
+    Configuring dialog(its);
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+    its.person.picks("lvwTest", test_rows[0]);
+    its.person.presses("bnRemove");
+    its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemove_Click",
+                      ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.lines_of("lvwTest"), (Lines{test_rows[0], "Mass |  |  | "}));
+    expect_tests_out_of_reach(its);
+    dialog.leaves();
+}

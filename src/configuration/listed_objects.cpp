@@ -25,7 +25,8 @@ void ListedObjects::list(const std::function<void(Drafts&)>& read) {
     try {
         read(rows);
     } catch (...) {
-        if (listed_ == Listed::never) {
+        const bool is_no_shorter = static_cast<int>(rows.size()) >= list_.count();
+        if (listed_ == Listed::never || (listed_ == Listed::in_part && is_no_shorter)) {
             show(rows);
             become(Listed::in_part);
         } else {
@@ -50,6 +51,7 @@ void ListedObjects::take_away(const std::function<void()>& remove, const std::fu
     try {
         remove();
     } catch (...) {
+        listed_ = Listed::uncertain;
         attempt(list_again);
         throw;
     }

@@ -50,13 +50,15 @@ public:
 
     using Drafts = std::vector<RowDraft>;
     /// Lists the objects that `read` makes drafts of, in their order, and passes on its failure. The first
-    /// time there are then rows for the objects up to it; later the rows stay as they were.
+    /// time there are then rows for the objects up to it, and later for a list in part that did not become
+    /// shorter; otherwise the rows stay as they were.
     void list(const std::function<void(Drafts&)>& read);
 
     /// Has the host add an object as the last one. When that fails the host may have it all the same: the
     /// objects are listed anew with `list_again`.
     void add(const std::function<void()>& make, const std::function<void()>& list_again);
-    /// Takes an object away from the host. When that fails the host may have it or not: likewise.
+    /// Takes an object away from the host. When that fails the host may have it or not: likewise, but rows
+    /// that are not all read anew may have other positions now than their objects.
     void take_away(const std::function<void()>& remove, const std::function<void()>& list_again);
 
 private:
