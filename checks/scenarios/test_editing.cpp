@@ -175,10 +175,13 @@ SCENARIO(TestDialog, AConstantThatIsNoNumberIsReportedAndChangesNothing) {
     const auto test = a_bound_test(its, 2);
     const TestFields before = test->fields;
     Testing testing(its, test);
+    testing.picks_characteristic(8, "Width");
+    const Lines writes_before = testing.writes(); // to look up the characteristic's group
     its.person.enters("txtConstant", "1x");
     its.person.presses("bnOK");
     its.expect_report(error::type_mismatch, "dlgOPCTest.TestChoices");
     its.person.is_at("dlgOPCTest");
+    EXPECT_EQ(testing.writes(), writes_before) << "It is refused before anything is written.";
     EXPECT_EQ(its.person.reads("txtConstant"), "1x");
     EXPECT_TRUE(its.person.has_focus("txtConstant"));
     its.person.types("2"); // over the whole text
@@ -186,6 +189,7 @@ SCENARIO(TestDialog, AConstantThatIsNoNumberIsReportedAndChangesNothing) {
     its.person.presses("bnCancel");
     EXPECT_FALSE(testing.result());
     EXPECT_EQ(testing.fields(), before);
+    EXPECT_EQ(test->data->id, 7);
 }
 
 SCENARIO(TestDialog, ConstantAndSaveAsAreStored) {

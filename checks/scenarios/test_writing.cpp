@@ -125,6 +125,43 @@ SCENARIO(TestDialog, WhenTheHostFailsAtTheConstantTheTestIsAsBefore) {
     is_as_before_when_these_fail(its, {"hlxOPCTest.Constant=", "hlxOPCTest.SaveAs="});
 }
 
+SCENARIO(TestDialog, ACharacteristicThatWasSavedStaysThoughTheHostFailsBehindIt) {
+    for (const char* member : {"hlxOPCTest.Constant=", "hlxOPCTest.SaveAs="}) {
+        SCOPED_TRACE(member);
+        start_over(its);
+        const auto test = a_bound_test(its, 2);
+        Testing testing(its, test);
+        testing.picks_characteristic(8, "Width");
+        const TestFields before = testing.fields();
+        its.host.calls.fail_on(member);
+        its.person.presses("bnOK");
+        its.expect_report(CallLog::failure_number, "dlgOPCTest.TestChoices");
+        its.host.calls.fail_on("");
+        its.person.is_at("dlgOPCTest");
+        its.person.presses("bnCancel");
+        EXPECT_FALSE(testing.result());
+        EXPECT_EQ(testing.fields(), before);
+        // Nobody read which one the record had.
+        EXPECT_EQ(test->data->id, 8);
+        EXPECT_EQ(test->data->savings, (std::vector<FakeTestData::Saving>{{8, 0, 1, true}}));
+    }
+}
+
+SCENARIO(TestDialog, AfterAFailureBehindTheSavedRecordTheFormerCharacteristicCanBeChosenAgain) {
+    const auto test = a_bound_test(its, 2);
+    Testing testing(its, test);
+    testing.picks_characteristic(8, "Width");
+    its.host.calls.fail_on("hlxOPCTest.SaveAs=");
+    its.person.presses("bnOK");
+    its.expect_report(CallLog::failure_number, "dlgOPCTest.TestChoices");
+    its.host.calls.fail_on("");
+    testing.picks_characteristic(7, "Length");
+    EXPECT_EQ(its.person.reads("txtTest"), "Length");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_EQ(test->data->id, 7);
+}
+
 SCENARIO(TestDialog, ATestThatFailedHalfWayCanBeLeftAsItWas) {
     const auto test = a_bound_test(its, 2);
     test->fields.state = 3;

@@ -72,7 +72,7 @@ TEST_F(TestForm, OnARedBackgroundAValidConstantIsWrittenInTheWindowsColour) {
     });
 }
 
-TEST_F(TestForm, ARedBackgroundRefusesTheConstant) {
+TEST_F(TestForm, ARedBackgroundRefusesTheConstantBeforeAnythingIsWritten) {
     while_open([&] {
         constant().set_back_color(color::red);
         press("bnOK");
@@ -84,7 +84,7 @@ TEST_F(TestForm, ARedBackgroundRefusesTheConstant) {
         EXPECT_TRUE(constant().all_selected());
     });
     EXPECT_FALSE(form.OKPressed());
-    EXPECT_EQ(host.calls.count("hlxOPCTest.State="), 0);
+    for (const std::string& member : host.calls.members()) EXPECT_FALSE(member.ends_with("=")) << member;
 }
 
 TEST_F(TestForm, ANewItemIsAskedForAndAddedAsTheServerHasIt) {
