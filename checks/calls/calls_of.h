@@ -1,38 +1,34 @@
 #pragma once
 
-#include "scenario.h"
+#include "scenarios/calls.h"
 
 #include <string>
-#include <vector>
 
 namespace brx::checks {
 
 /// Each call that a story makes to the host, in order.
-inline Lines calls_of(const Story& story) {
-    Lines calls;
+inline Calls calls_of(const Story& story) {
+    Calls calls;
     play([&](Play& its) {
+        CallsMade made(its);
         story(its);
-        calls = its.host.calls.members();
+        calls = made.since_then();
     });
     return calls;
 }
 
-/// One call a line, so that a difference shows as in a text.
-inline std::string listed(const Lines& calls) {
-    std::string text;
-    for (const std::string& call : calls) text += call + "\n";
-    return text;
-}
-
-/// The same from a list with several calls on a line, each ending with a semicolon.
-inline std::string listed(std::string calls) {
-    std::string text;
+/// Compares with a list that has several calls on a line, each ending with a semicolon; one call a line, so
+/// that a difference shows as in a text.
+inline void expect_calls(const Calls& calls, const std::string& expected) {
+    std::string made;
+    for (const std::string& call : calls) made += call + "\n";
+    std::string listed;
     std::size_t from = 0;
-    for (std::size_t end; (end = calls.find(';', from)) != std::string::npos; from = end + 1) {
-        const std::size_t begin = calls.find_first_not_of(" \n", from);
-        text += calls.substr(begin, end - begin) + "\n";
+    for (std::size_t end; (end = expected.find(';', from)) != std::string::npos; from = end + 1) {
+        const std::size_t begin = expected.find_first_not_of(" \n", from);
+        listed += expected.substr(begin, end - begin) + "\n";
     }
-    return text;
+    EXPECT_EQ(made, listed);
 }
 
 } // namespace brx::checks

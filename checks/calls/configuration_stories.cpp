@@ -9,26 +9,26 @@ using namespace brx::checks;
 
 namespace {
 
-/// The calls after the configuration dialog has shown, until it is left with its own box.
-Lines calls_in_the_dialog(const std::string& tab, const Story& story,
+/// The calls while the configuration dialog is open at a tab.
+Calls calls_in_the_dialog(const std::string& tab, const Story& story,
                           const Story& before = a_filled_configuration) {
-    std::size_t opened = 0;
-    Lines calls = calls_of([&](Play& its) {
+    Calls calls;
+    play([&](Play& its) {
         before(its);
         Configuring dialog(its);
         dialog.turns_to(tab);
-        opened = its.host.calls.members().size();
+        CallsMade made(its);
         story(its);
         dialog.leaves();
+        calls = made.since_then();
     });
-    calls.erase(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(opened));
     return calls;
 }
 
 } // namespace
 
 TEST(CallsToTheHost, WhileATestIsAddedEditedAndRemoved) {
-    const Lines calls = calls_in_the_dialog("&1. General", [](Play& its) {
+    const Calls calls = calls_in_the_dialog("&1. General", [](Play& its) {
         its.host.picker->picks = std::make_shared<FakeTestData>(its.host.calls, 8, 1, "Width");
         its.host.browser->root.has("Line1", {"Speed", "Force"});
         its.person.presses("bnAdd");
@@ -45,59 +45,59 @@ TEST(CallsToTheHost, WhileATestIsAddedEditedAndRemoved) {
         its.person.picks("lvwTest", its.person.line_of("lvwTest", 1));
         its.person.presses("bnRemove");
     });
-    EXPECT_EQ(listed(calls), listed(R"(
+    expect_calls(calls, R"(
         hlxOPCConfiguration.Tests; hlxOPCTests.Add; hlxOPCTest.Parent; hlxOPCTests.Parent;
         hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent; hlxOPCServers.Parent;
-        hlxApplication.Database; hlxOPCTest.State; hlxOPCTest.ItemText; hlxOPCTest.OPCItemID; hlxHelp.HelpFile;
-        hlxSelection.Show; hlxSelection.Record; hlxTestData.ID; hlxOPCTest.Parent; hlxOPCTests.Count;
-        hlxOPCTests.Item; hlxOPCTest.TestData; hlxTestData.ID; hlxOPCTests.Item; hlxOPCTest.TestData;
-        hlxTestData.ID; hlxTestData.GroupID; hlxRecord.ID=; hlxRecord.SearchFlag=; hlxRecord.Load;
-        hlxRecord.Name; hlxTestData.Name; hlxOPCTest.Parent; hlxOPCTests.Parent; hlxOPCConfiguration.Server;
-        hlxOPCServerHolder.ServerEntry; hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup; hlxHelp.HelpFile;
-        OPCServer.ServerNode; OPCServer.ServerName; OPCServer.CreateBrowser; OPCBrowser.MoveToRoot;
-        OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Organization; OPCBrowser.MoveToRoot;
-        OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Item(1); OPCGroup.OPCItems; OPCItems.Validate;
-        OPCGroup.OPCItems; OPCItems.Count; OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID;
-        hlxOPCTest.ItemTrigger=; hlxOPCTest.ClientHandle=; hlxOPCTest.TriggerExpression=;
-        hlxOPCTest.OPCItemID=; hlxOPCTest.State=; hlxOPCTest.TestData; hlxTestData.ID=; hlxTestData.Flag=;
-        hlxTestData.Mode=; hlxTestData.Save; hlxOPCTest.Constant=; hlxOPCTest.SaveAs=;
-        hlxOPCConfiguration.Tests; hlxOPCTests.Count; hlxOPCTests.Item; hlxOPCTest.CharacteristicName;
-        hlxOPCTest.OPCItemID; hlxOPCTest.Parent; hlxOPCTests.Parent; hlxOPCConfiguration.Server;
-        hlxOPCServerHolder.ServerEntry; hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State;
+        hlxApplication.Database; hlxOPCTest.State; hlxOPCTest.ItemText; hlxOPCTest.OPCItemID; create hlxHelp;
+        hlxHelp.HelpFile; create hlxTestSelection; hlxSelection.Show; hlxSelection.Record; hlxTestData.ID;
+        hlxOPCTest.Parent; hlxOPCTests.Count; hlxOPCTests.Item; hlxOPCTest.TestData; hlxTestData.ID;
+        hlxOPCTests.Item; hlxOPCTest.TestData; hlxTestData.ID; hlxTestData.GroupID; create hlxTestGroup;
+        hlxRecord.ID=; hlxRecord.SearchFlag=; hlxRecord.Load; hlxRecord.Name; hlxTestData.Name;
+        hlxOPCTest.Parent; hlxOPCTests.Parent; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
+        hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup; hlxHelp.HelpFile; OPCServer.ServerNode;
+        OPCServer.ServerName; OPCServer.CreateBrowser; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
+        OPCBrowser.Count; OPCBrowser.Organization; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
+        OPCBrowser.Count; OPCBrowser.Item(1); OPCGroup.OPCItems; OPCItems.Validate; OPCGroup.OPCItems;
+        OPCItems.Count; OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; hlxOPCTest.ItemTrigger=;
+        hlxOPCTest.ClientHandle=; hlxOPCTest.TriggerExpression=; hlxOPCTest.OPCItemID=; hlxOPCTest.State=;
+        hlxOPCTest.TestData; hlxTestData.ID=; hlxTestData.Flag=; hlxTestData.Mode=; hlxTestData.Save;
+        hlxOPCTest.Constant=; hlxOPCTest.SaveAs=; hlxOPCConfiguration.Tests; hlxOPCTests.Count;
         hlxOPCTests.Item; hlxOPCTest.CharacteristicName; hlxOPCTest.OPCItemID; hlxOPCTest.Parent;
         hlxOPCTests.Parent; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
-        hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State; hlxOPCConfiguration.Tests;
-        hlxOPCTests.Item; hlxOPCTest.Parent; hlxOPCTests.Parent; hlxOPCConfiguration.Server;
-        hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent; hlxOPCServers.Parent; hlxApplication.Database;
-        hlxOPCTest.State; hlxOPCTest.ItemText; hlxOPCTest.OPCItemID; hlxOPCTest.ClientHandle;
-        hlxOPCTest.CharacteristicName; hlxOPCTest.ItemTrigger; hlxOPCTest.Constant; hlxOPCTest.SaveAs;
-        hlxHelp.HelpFile; hlxOPCTest.ItemTrigger=; hlxOPCTest.ClientHandle=; hlxOPCTest.TriggerExpression=;
-        hlxOPCTest.OPCItemID=; hlxOPCTest.State=; hlxOPCTest.Constant=; hlxOPCTest.SaveAs=;
-        hlxOPCConfiguration.Tests; hlxOPCTests.Count; hlxOPCTests.Item; hlxOPCTest.CharacteristicName;
-        hlxOPCTest.OPCItemID; hlxOPCTest.Parent; hlxOPCTests.Parent; hlxOPCConfiguration.Server;
-        hlxOPCServerHolder.ServerEntry; hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State;
+        hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State; hlxOPCTests.Item;
+        hlxOPCTest.CharacteristicName; hlxOPCTest.OPCItemID; hlxOPCTest.Parent; hlxOPCTests.Parent;
+        hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.ServerName;
+        hlxOPCServer.Node; hlxOPCTest.State; hlxOPCConfiguration.Tests; hlxOPCTests.Item; hlxOPCTest.Parent;
+        hlxOPCTests.Parent; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent;
+        hlxOPCServers.Parent; hlxApplication.Database; hlxOPCTest.State; hlxOPCTest.ItemText;
+        hlxOPCTest.OPCItemID; hlxOPCTest.ClientHandle; hlxOPCTest.CharacteristicName; hlxOPCTest.ItemTrigger;
+        hlxOPCTest.Constant; hlxOPCTest.SaveAs; hlxHelp.HelpFile; hlxOPCTest.ItemTrigger=;
+        hlxOPCTest.ClientHandle=; hlxOPCTest.TriggerExpression=; hlxOPCTest.OPCItemID=; hlxOPCTest.State=;
+        hlxOPCTest.Constant=; hlxOPCTest.SaveAs=; hlxOPCConfiguration.Tests; hlxOPCTests.Count;
         hlxOPCTests.Item; hlxOPCTest.CharacteristicName; hlxOPCTest.OPCItemID; hlxOPCTest.Parent;
         hlxOPCTests.Parent; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
-        hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State; hlxOPCConfiguration.Tests;
-        hlxOPCTests.Remove;
-    )"));
+        hlxOPCServer.ServerName; hlxOPCServer.Node; hlxOPCTest.State; hlxOPCTests.Item;
+        hlxOPCTest.CharacteristicName; hlxOPCTest.OPCItemID; hlxOPCTest.Parent; hlxOPCTests.Parent;
+        hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.ServerName;
+        hlxOPCServer.Node; hlxOPCTest.State; hlxOPCConfiguration.Tests; hlxOPCTests.Remove;
+    )");
 }
 
 TEST(CallsToTheHost, WhileATestThatWasAddedIsGivenUp) {
-    const Lines calls = calls_in_the_dialog("&1. General", [](Play& its) {
+    const Calls calls = calls_in_the_dialog("&1. General", [](Play& its) {
         its.person.presses("bnAdd");
         its.person.presses("bnCancel");
     });
-    EXPECT_EQ(listed(calls), listed(R"(
+    expect_calls(calls, R"(
         hlxOPCConfiguration.Tests; hlxOPCTests.Add; hlxOPCTest.Parent; hlxOPCTests.Parent;
         hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent; hlxOPCServers.Parent;
-        hlxApplication.Database; hlxOPCTest.State; hlxOPCTest.ItemText; hlxOPCTest.OPCItemID; hlxHelp.HelpFile;
-        hlxOPCTest.Parent; hlxOPCTest.Index; hlxOPCTests.Remove;
-    )"));
+        hlxApplication.Database; hlxOPCTest.State; hlxOPCTest.ItemText; hlxOPCTest.OPCItemID; create hlxHelp;
+        hlxHelp.HelpFile; hlxOPCTest.Parent; hlxOPCTest.Index; hlxOPCTests.Remove;
+    )");
 }
 
 TEST(CallsToTheHost, WhileATriggerIsSet) {
-    const Lines calls = calls_in_the_dialog("&2. Sampling", [](Play& its) {
+    const Calls calls = calls_in_the_dialog("&2. Sampling", [](Play& its) {
         its.host.browser->root.has("Line1", {"Speed", "Force", "Count"});
         its.host.group->items->answers["Line1.Count"] = 0;
         its.person.presses("cmdSubgroupTrigger");
@@ -108,23 +108,24 @@ TEST(CallsToTheHost, WhileATriggerIsSet) {
         its.person.enters("txtValue", "3");
         its.person.presses("bnOK");
     });
-    EXPECT_EQ(listed(calls), listed(R"(
-        hlxHelp.HelpFile; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Count; OPCItems.Item;
-        OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems;
-        OPCItems.Item; OPCItem.CanonicalDataType; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
-        hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup; hlxHelp.HelpFile; OPCServer.ServerNode;
-        OPCServer.ServerName; OPCServer.CreateBrowser; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
-        OPCBrowser.Count; OPCBrowser.Organization; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
-        OPCBrowser.Count; OPCBrowser.Item(1); OPCBrowser.MoveToRoot; OPCBrowser.ShowLeafs(True);
-        OPCBrowser.Count; OPCGroup.OPCItems; OPCItems.Validate; OPCGroup.OPCItems; OPCItems.Count;
-        OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; OPCItems.AddItems;
-        hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Item; OPCItem.CanonicalDataType;
-        hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Item; OPCItem.CanonicalDataType;
-    )"));
+    expect_calls(calls, R"(
+        create hlxHelp; hlxHelp.HelpFile; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Count;
+        OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; hlxOPCConfiguration.OPCGroup;
+        OPCGroup.OPCItems; OPCItems.Item; OPCItem.CanonicalDataType; hlxOPCConfiguration.Server;
+        hlxOPCServerHolder.ServerEntry; hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup;
+        hlxHelp.HelpFile; OPCServer.ServerNode; OPCServer.ServerName; OPCServer.CreateBrowser;
+        OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Organization;
+        OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Item(1);
+        OPCBrowser.MoveToRoot; OPCBrowser.ShowLeafs(True); OPCBrowser.Count; OPCGroup.OPCItems;
+        OPCItems.Validate; OPCGroup.OPCItems; OPCItems.Count; OPCItems.Item; OPCItem.ItemID; OPCItems.Item;
+        OPCItem.ItemID; OPCItems.AddItems; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Item;
+        OPCItem.CanonicalDataType; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Item;
+        OPCItem.CanonicalDataType;
+    )");
 }
 
 TEST(CallsToTheHost, WhileADescriptorIsAddedForAnItemAndRemoved) {
-    const Lines calls = calls_in_the_dialog("&3. Descriptors", [](Play& its) {
+    const Calls calls = calls_in_the_dialog("&3. Descriptors", [](Play& its) {
         its.host.browser->root.has("Line1", {"Speed", "Force", "Lot"});
         its.host.group->items->answers["Line1.Lot"] = 0;
         its.person.presses("bnAddDesc");
@@ -137,24 +138,24 @@ TEST(CallsToTheHost, WhileADescriptorIsAddedForAnItemAndRemoved) {
         its.person.picks("lvwDescriptors", its.person.line_of("lvwDescriptors", 0));
         its.person.presses("bnRemoveDesc");
     });
-    EXPECT_EQ(listed(calls), listed(R"(
+    expect_calls(calls, R"(
         hlxOPCConfiguration.Descriptors; hlxOPCDescriptors.NewEnum; hlxOPCDescriptors.Next;
-        hlxOPCDescriptors.Add; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent;
-        hlxOPCServers.Parent; hlxApplication.Database; hlxOPCDescriptor.Type; hlxOPCDescriptor.ItemName;
-        hlxOPCDescriptor.GroupName; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
-        hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup; hlxHelp.HelpFile; OPCServer.ServerNode;
-        OPCServer.ServerName; OPCServer.CreateBrowser; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
-        OPCBrowser.Count; OPCBrowser.Organization; OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches;
-        OPCBrowser.Count; OPCBrowser.Item(1); OPCGroup.OPCItems; OPCItems.Validate; OPCGroup.OPCItems;
-        OPCItems.Count; OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; OPCItems.AddItems;
-        hlxOPCDescriptor.ItemName=; hlxOPCDescriptor.GroupName=; hlxOPCDescriptor.Type;
-        hlxOPCDescriptor.GroupName; hlxOPCDescriptor.ItemName; hlxOPCConfiguration.Descriptors;
-        hlxOPCDescriptors.Remove;
-    )"));
+        hlxOPCDescriptors.Add; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
+        hlxOPCServer.Parent; hlxOPCServers.Parent; hlxApplication.Database; hlxOPCDescriptor.Type;
+        hlxOPCDescriptor.ItemName; hlxOPCDescriptor.GroupName; hlxOPCConfiguration.Server;
+        hlxOPCServerHolder.ServerEntry; hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup; create hlxHelp;
+        hlxHelp.HelpFile; OPCServer.ServerNode; OPCServer.ServerName; OPCServer.CreateBrowser;
+        OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Organization;
+        OPCBrowser.MoveToRoot; OPCBrowser.ShowBranches; OPCBrowser.Count; OPCBrowser.Item(1);
+        OPCGroup.OPCItems; OPCItems.Validate; OPCGroup.OPCItems; OPCItems.Count; OPCItems.Item;
+        OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; OPCItems.AddItems; hlxOPCDescriptor.ItemName=;
+        hlxOPCDescriptor.GroupName=; hlxOPCDescriptor.Type; hlxOPCDescriptor.GroupName;
+        hlxOPCDescriptor.ItemName; hlxOPCConfiguration.Descriptors; hlxOPCDescriptors.Remove;
+    )");
 }
 
 TEST(CallsToTheHost, WhileADescriptorIsEditedFromTheDatabase) {
-    const Lines calls = calls_in_the_dialog(
+    const Calls calls = calls_in_the_dialog(
         "&3. Descriptors",
         [](Play& its) {
             Records& records = its.host.records;
@@ -172,29 +173,66 @@ TEST(CallsToTheHost, WhileADescriptorIsEditedFromTheDatabase) {
             a_filled_configuration(its);
             its.host.configuration->descriptors->has({.type = 0, .item = "Axle", .group = "Castings"});
         });
-    EXPECT_EQ(listed(calls), listed(R"(
+    expect_calls(calls, R"(
         hlxOPCConfiguration.Descriptors; hlxOPCDescriptors.Item; hlxOPCConfiguration.Server;
         hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent; hlxOPCServers.Parent; hlxApplication.Database;
-        hlxOPCDescriptor.Type; hlxOPCDescriptor.ItemName; hlxOPCDescriptor.GroupName; hlxRecord.Name=;
-        hlxRecord.SearchFlag=; hlxRecord.Load; hlxRecord.Name=; hlxRecord.SearchFlag=; hlxRecord.Load;
-        hlxRecord.ID; hlxSelection.Show; hlxSelection.Record; hlxRecord.Name; hlxRecord.GroupID; hlxRecord.ID=;
+        hlxOPCDescriptor.Type; hlxOPCDescriptor.ItemName; hlxOPCDescriptor.GroupName; create hlxPart;
+        hlxRecord.Name=; hlxRecord.SearchFlag=; hlxRecord.Load; create hlxPartGroup; hlxRecord.Name=;
+        hlxRecord.SearchFlag=; hlxRecord.Load; hlxRecord.ID; create hlxPartSelection; hlxSelection.Show;
+        hlxSelection.Record; hlxRecord.Name; hlxRecord.GroupID; create hlxPartGroup; hlxRecord.ID=;
         hlxRecord.SearchFlag=; hlxRecord.Load; hlxRecord.Name; hlxOPCDescriptor.ItemName=;
         hlxOPCDescriptor.GroupName=; hlxOPCDescriptor.Type; hlxOPCDescriptor.GroupName;
         hlxOPCDescriptor.ItemName;
-    )"));
+    )");
 }
 
 TEST(CallsToTheHost, WhileADescriptorThatWasAddedIsGivenUp) {
-    const Lines calls = calls_in_the_dialog("&3. Descriptors", [](Play& its) {
+    const Calls calls = calls_in_the_dialog("&3. Descriptors", [](Play& its) {
         its.person.presses("bnAddDesc");
         its.person.picks("List1", "Lot");
         its.person.presses("bnOK");
         its.person.presses("bnCancel");
     });
-    EXPECT_EQ(listed(calls), listed(R"(
+    expect_calls(calls, R"(
         hlxOPCConfiguration.Descriptors; hlxOPCDescriptors.NewEnum; hlxOPCDescriptors.Next;
-        hlxOPCDescriptors.Add; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry; hlxOPCServer.Parent;
-        hlxOPCServers.Parent; hlxApplication.Database; hlxOPCDescriptor.Type; hlxOPCDescriptor.ItemName;
-        hlxOPCDescriptor.GroupName; hlxOPCDescriptor.Index; hlxOPCDescriptors.Remove;
-    )"));
+        hlxOPCDescriptors.Add; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
+        hlxOPCServer.Parent; hlxOPCServers.Parent; hlxApplication.Database; hlxOPCDescriptor.Type;
+        hlxOPCDescriptor.ItemName; hlxOPCDescriptor.GroupName; hlxOPCDescriptor.Index;
+        hlxOPCDescriptors.Remove;
+    )");
+}
+
+TEST(CallsToTheHost, WhileATriggerFindsItsServerGone) {
+    const Calls calls = calls_in_the_dialog("&2. Sampling", [](Play& its) {
+        its.person.presses("cmdSubgroupTrigger");
+        an_unconnected_server(its, "Matrix");
+        its.person.presses("bnItem");
+        its.expect_report(error::type_mismatch, "CommonTools.ResolveOPCServer");
+        its.person.presses("bnCancel");
+    });
+    expect_calls(calls, R"(
+        create hlxHelp; hlxHelp.HelpFile; hlxOPCConfiguration.OPCGroup; OPCGroup.OPCItems; OPCItems.Count;
+        OPCItems.Item; OPCItem.ItemID; OPCItems.Item; OPCItem.ItemID; hlxOPCConfiguration.OPCGroup;
+        OPCGroup.OPCItems; OPCItems.Item; OPCItem.CanonicalDataType; hlxOPCConfiguration.Server;
+        hlxOPCServerHolder.ServerEntry; hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup;
+    )");
+}
+
+TEST(CallsToTheHost, WhileADescriptorFindsItsServerGone) {
+    const Calls calls = calls_in_the_dialog("&3. Descriptors", [](Play& its) {
+        its.person.presses("bnAddDesc");
+        its.person.presses("bnOK");
+        an_unconnected_server(its, "Matrix");
+        its.person.presses("bnItem");
+        its.person.screen().answer(message::ok);
+        its.person.presses("bnCancel");
+    });
+    expect_calls(calls, R"(
+        hlxOPCConfiguration.Descriptors; hlxOPCDescriptors.NewEnum; hlxOPCDescriptors.Next;
+        hlxOPCDescriptors.Add; hlxOPCConfiguration.Server; hlxOPCServerHolder.ServerEntry;
+        hlxOPCServer.Parent; hlxOPCServers.Parent; hlxApplication.Database; hlxOPCDescriptor.Type;
+        hlxOPCDescriptor.ItemName; hlxOPCDescriptor.GroupName; hlxOPCConfiguration.Server;
+        hlxOPCServerHolder.ServerEntry; hlxOPCServer.OPCServer; hlxOPCConfiguration.OPCGroup;
+        hlxOPCDescriptor.Index; hlxOPCDescriptors.Remove;
+    )");
 }

@@ -20,7 +20,8 @@ TEST(FailingHost, WhileAServerIsSelected) {
     };
     play(story);
     EXPECT_EQ(play_with_failing_calls(story),
-              (Places{"hlxHelp.HelpFile in nobody's trap", "hlxOPCServers.Count in dlgServerSelect.BuildList",
+              (Places{"create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                      "hlxOPCServers.Count in dlgServerSelect.BuildList",
                       "hlxOPCServers.Item in dlgServerSelect.BuildList",
                       "hlxOPCServer.Node in dlgServerSelect.BuildList",
                       "hlxOPCServer.ServerName in dlgServerSelect.BuildList"}));
@@ -42,7 +43,8 @@ TEST(FailingHost, WhileAServerIsAddedInTheSelectionDialog) {
     };
     play(story);
     EXPECT_EQ(play_with_failing_calls(story),
-              (Places{"hlxHelp.HelpFile in nobody's trap", "hlxOPCServers.Count in dlgServerSelect.BuildList",
+              (Places{"create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                      "hlxOPCServers.Count in dlgServerSelect.BuildList",
                       "hlxOPCServers.Item in dlgServerSelect.BuildList",
                       "hlxOPCServer.Node in dlgServerSelect.BuildList",
                       "hlxOPCServer.ServerName in dlgServerSelect.BuildList",
@@ -71,7 +73,8 @@ TEST(FailingHost, WhileADuplicateIsRefused) {
     };
     play(story);
     EXPECT_EQ(play_with_failing_calls(story),
-              (Places{"hlxHelp.HelpFile in nobody's trap", "create hlxOPCServer in dlgServerAdd.Form_Load",
+              (Places{"create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                      "create hlxOPCServer in dlgServerAdd.Form_Load",
                       "hlxOPCServer.OPCServer in dlgServerAdd.cmdRefreshList_Click",
                       "OPCServer.GetOPCServers in dlgServerAdd.cmdRefreshList_Click",
                       "hlxOPCServers.Count in dlgServerAdd.NotInColl",
@@ -93,7 +96,8 @@ TEST(FailingHost, WhileAConnectionFails) {
     };
     play(story);
     EXPECT_EQ(play_with_failing_calls(story),
-              (Places{"hlxHelp.HelpFile in nobody's trap", "create hlxOPCServer in dlgServerAdd.Form_Load",
+              (Places{"create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                      "create hlxOPCServer in dlgServerAdd.Form_Load",
                       "hlxOPCServer.OPCServer in dlgServerAdd.cmdRefreshList_Click",
                       "OPCServer.GetOPCServers in dlgServerAdd.cmdRefreshList_Click",
                       "hlxOPCServers.Count in dlgServerAdd.NotInColl",
@@ -112,14 +116,16 @@ TEST(FailingHost, WhileTheHostsOwnMessageServiceIsUsed) {
         its.person.presses("bnCancel");
     };
     play(story);
-    EXPECT_EQ(play_with_failing_calls(story),
-              (Places{"hlxHelp.HelpFile in nobody's trap", "create hlxOPCServer in dlgServerAdd.Form_Load",
-                      "hlxOPCServer.OPCServer in dlgServerAdd.cmdRefreshList_Click",
-                      "OPCServer.GetOPCServers in dlgServerAdd.cmdRefreshList_Click",
-                      "hlxOPCServers.Count in dlgServerAdd.NotInColl",
-                      "hlxOPCServers.Add in dlgServerAdd.ConnectServer",
-                      "hlxOPCServers.LastError in dlgServerAdd.ConnectServer",
-                      "hlxMessage.Show in dlgServerAdd.ConnectServer"}));
+    EXPECT_EQ(
+        play_with_failing_calls(story),
+        (Places{"create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                "create hlxOPCServer in dlgServerAdd.Form_Load",
+                "hlxOPCServer.OPCServer in dlgServerAdd.cmdRefreshList_Click",
+                "OPCServer.GetOPCServers in dlgServerAdd.cmdRefreshList_Click",
+                "hlxOPCServers.Count in dlgServerAdd.NotInColl",
+                "hlxOPCServers.Add in dlgServerAdd.ConnectServer",
+                "hlxOPCServers.LastError in dlgServerAdd.ConnectServer", "create hlxMessage in nobody's trap",
+                "hlxMessage.Show in dlgServerAdd.ConnectServer"}));
 }
 
 TEST(FailingHost, WhileAServerIsWatched) {
@@ -132,19 +138,19 @@ TEST(FailingHost, WhileAServerIsWatched) {
         EXPECT_TRUE(information.result());
     };
     play(story);
-    EXPECT_EQ(
-        play_with_failing_calls(story),
-        (Places{"OPCServer.ServerNode in dlgServerInformation.Form_Load",
-                "OPCServer.ServerName in dlgServerInformation.Form_Load",
-                "OPCServer.StartTime in dlgServerInformation.Form_Load",
-                "OPCServer.CurrentTime in dlgServerInformation.Form_Load",
-                "OPCServer.LastUpdateTime in dlgServerInformation.Form_Load",
-                "OPCServer.MajorVersion in dlgServerInformation.Form_Load",
-                "OPCServer.MinorVersion in dlgServerInformation.Form_Load",
-                "OPCServer.VendorInfo in dlgServerInformation.Form_Load", "hlxHelp.HelpFile in nobody's trap",
-                "OPCServer.StartTime in dlgServerInformation.Timer1_Timer",
-                "OPCServer.CurrentTime in dlgServerInformation.Timer1_Timer",
-                "OPCServer.LastUpdateTime in dlgServerInformation.Timer1_Timer"}));
+    EXPECT_EQ(play_with_failing_calls(story),
+              (Places{"OPCServer.ServerNode in dlgServerInformation.Form_Load",
+                      "OPCServer.ServerName in dlgServerInformation.Form_Load",
+                      "OPCServer.StartTime in dlgServerInformation.Form_Load",
+                      "OPCServer.CurrentTime in dlgServerInformation.Form_Load",
+                      "OPCServer.LastUpdateTime in dlgServerInformation.Form_Load",
+                      "OPCServer.MajorVersion in dlgServerInformation.Form_Load",
+                      "OPCServer.MinorVersion in dlgServerInformation.Form_Load",
+                      "OPCServer.VendorInfo in dlgServerInformation.Form_Load",
+                      "create hlxHelp in nobody's trap", "hlxHelp.HelpFile in nobody's trap",
+                      "OPCServer.StartTime in dlgServerInformation.Timer1_Timer",
+                      "OPCServer.CurrentTime in dlgServerInformation.Timer1_Timer",
+                      "OPCServer.LastUpdateTime in dlgServerInformation.Timer1_Timer"}));
 }
 
 TEST(FailingHost, AnUnknownAnswerToWhetherAServerIsNewConnectsNothing) {

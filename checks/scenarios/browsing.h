@@ -1,11 +1,9 @@
 #pragma once
 
+#include "calls.h"
 #include "help_file.h"
-#include "scenario.h"
 
-#include <algorithm>
 #include <string>
-#include <vector>
 
 namespace brx::checks {
 
@@ -21,23 +19,11 @@ inline void a_plant(Play& its) {
         its.host.group->items->answers[item] = 0;
 }
 
-/// Calls to the host, in order. With a failing host there may be fewer than a story counts on.
-struct Calls : std::vector<std::string> {
-    using vector::vector;
-    std::string nth(std::size_t index) const { return index < size() ? (*this)[index] : std::string(); }
-    Calls part(std::size_t from, std::size_t count) const {
-        const std::size_t begin_at = std::min(from, size());
-        const auto first = begin() + static_cast<std::ptrdiff_t>(begin_at);
-        return Calls(first, first + static_cast<std::ptrdiff_t>(std::min(count, size() - begin_at)));
-    }
-    Calls last(std::size_t count) const { return part(size() - std::min(count, size()), count); }
-};
-
 /// The item browser, open for the host's connected server.
 class Browsing {
 public:
     explicit Browsing(Play& its, const std::string& start = "")
-        : its_(its), select_(*its.stage, "LeafSelect") {
+        : its_(its), select_(*its.stage, "LeafSelect"), made_(its) {
         if (!start.empty()) select_.set_ItemID(start);
         show();
         its.person.is_at("dlgItemSelect");
@@ -49,17 +35,15 @@ public:
 
     /// The calls to the server, its browser and the group since the last time, in order.
     Calls calls() {
-        const std::vector<std::string> all = its_.host.calls.members();
-        Calls news(all.begin() + static_cast<std::ptrdiff_t>(known_), all.end());
-        known_ = all.size();
-        std::erase(news, "hlxHelp.HelpFile");
+        Calls news = made_.since_then();
+        for (const char* of_help : {"create hlxHelp", "hlxHelp.HelpFile"}) std::erase(news, of_help);
         return news;
     }
 
 private:
     Play& its_;
     Showing select_;
-    std::size_t known_ = 0;
+    CallsMade made_;
 };
 
 } // namespace brx::checks

@@ -68,13 +68,12 @@ SCENARIO(TriggerDialog, ABrowsedItemTakesTheseCallsAndNoOthers) {
     Configuring dialog(its);
     dialog.turns_to_sampling();
     CallsMade calls(its);
-    calls.since_then();
     its.person.presses("cmdSubgroupTrigger");
     EXPECT_EQ(calls.since_then(),
-              Lines({"hlxHelp.HelpFile", "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems",
-                     "OPCItems.Count", "OPCItems.Item", "OPCItem.ItemID", "OPCItems.Item", "OPCItem.ItemID",
-                     "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems", "OPCItems.Item",
-                     "OPCItem.CanonicalDataType"}));
+              Lines({"create hlxHelp", "hlxHelp.HelpFile", "hlxOPCConfiguration.OPCGroup",
+                     "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item", "OPCItem.ItemID",
+                     "OPCItems.Item", "OPCItem.ItemID", "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems",
+                     "OPCItems.Item", "OPCItem.CanonicalDataType"}));
     its.person.presses("bnItem");
     Lines until_the_browser = calls.since_then();
     until_the_browser.resize(4);
@@ -103,7 +102,6 @@ SCENARIO(TriggerDialog, ABrowsedItemThatTheGroupHasIsSelected) {
     its.person.presses("bnItem");
     its.person.enters("txtFullPath", "Line1.Force");
     CallsMade calls(its);
-    calls.since_then();
     its.person.presses("bnOK");
     EXPECT_EQ(calls.since_then(), Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks first
                                          "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item",
@@ -128,6 +126,28 @@ SCENARIO(TriggerDialog, ABrowsedItemThatCannotBeAddedChangesNothingSilently) {
     EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
     EXPECT_EQ(its.person.lines_of("cboItem"), Lines({"<None>", "Line1.Speed", "Line1.Force"}));
     EXPECT_EQ(its.host.calls.count("OPCServer.GetErrorString"), 0);
+    trigger.cancels();
+}
+
+SCENARIO(TriggerDialog, ARefusalIsAsSilentWhenTheConnectionWentMeanwhile) {
+    a_filled_configuration(its);
+    its.host.group->items->claimed_errors = LongArray{{0}};
+    Triggering trigger(its);
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Odd");
+    an_unconnected_server(its, "Matrix");
+    CallsMade calls(its);
+    its.person.presses("bnOK");
+    EXPECT_EQ(calls.since_then(),
+              Lines({"OPCGroup.OPCItems", "OPCItems.Validate", // the browser asks first
+                     "OPCGroup.OPCItems", "OPCItems.Count", "OPCItems.Item", "OPCItem.ItemID",
+                     "OPCItems.Item", "OPCItem.ItemID", "OPCItems.AddItems",
+                     // the type of the item that stays
+                     "hlxOPCConfiguration.OPCGroup", "OPCGroup.OPCItems", "OPCItems.Item",
+                     "OPCItem.CanonicalDataType"}));
+    its.person.is_at("dlgEvaluation");
+    EXPECT_EQ(its.person.reads("cboItem"), "Line1.Speed");
+    EXPECT_EQ(its.host.group->items->ids(), (Lines{"Line1.Speed", "Line1.Force"}));
     trigger.cancels();
 }
 

@@ -27,22 +27,21 @@ SCENARIO(WholeLog, OfAServerThatIsChosen) {
     its.host.servers->has("Matrix");
     its.host.servers->has("Sim", "PC7");
     CallsMade calls(its);
-    calls.since_then(); // before the story
     Showing select(*its.stage, "ServerSelect");
     select.show(its.host.servers);
     its.person.picks("cboServer", "PC7.Sim");
     its.person.presses("bnOK");
     EXPECT_TRUE(select.result());
-    EXPECT_EQ(calls.since_then(), (Lines{"hlxHelp.HelpFile", "hlxOPCServers.Count", "hlxOPCServers.Item",
-                                         "hlxOPCServer.Node", "hlxOPCServer.ServerName", "hlxOPCServers.Item",
-                                         "hlxOPCServer.Node", "hlxOPCServer.ServerName"}));
+    EXPECT_EQ(calls.since_then(),
+              (Lines{"create hlxHelp", "hlxHelp.HelpFile", "hlxOPCServers.Count", "hlxOPCServers.Item",
+                     "hlxOPCServer.Node", "hlxOPCServer.ServerName", "hlxOPCServers.Item",
+                     "hlxOPCServer.Node", "hlxOPCServer.ServerName"}));
 }
 
 SCENARIO(WholeLog, OfAServerThatIsAdded) {
     its.host.servers->has_connected("Line.Server.2");
     its.host.servers_on("PC7", {"Line.Server.2"});
     CallsMade calls(its);
-    calls.since_then(); // before the story
     Adding dialog(its);
     dialog.lists_node("PC7");
     its.person.picks("lstOPCServers", "Line.Server.2");
@@ -50,16 +49,36 @@ SCENARIO(WholeLog, OfAServerThatIsAdded) {
     EXPECT_TRUE(dialog.add.result());
     EXPECT_EQ(
         calls.since_then(),
-        (Lines{"create hlxOPCServer", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers()",
+        (Lines{"create hlxOPCServer", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers()", "create hlxHelp",
                "hlxHelp.HelpFile", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers(PC7)",
                // whether it is new
                "hlxOPCServers.Count", "hlxOPCServers.Item", "hlxOPCServer.OPCServer", "OPCServer.ServerName",
                "OPCServer.ServerNode", "hlxOPCServers.Add", "hlxOPCServers.Count"}));
 }
 
+SCENARIO(WholeLog, OfAServerThatIsAddedAndChosen) {
+    its.host.servers->has("Matrix", "PC7");
+    CallsMade calls(its);
+    Showing select(*its.stage, "ServerSelect");
+    select.show(its.host.servers);
+    its.person.presses("bnServer");
+    its.person.picks("lstOPCServers", "Line.Server.2");
+    its.person.presses("bnOK");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(select.result());
+    const Lines entry = {"hlxOPCServers.Item", "hlxOPCServer.Node", "hlxOPCServer.ServerName"};
+    EXPECT_EQ(calls.since_then(),
+              (Lines{"create hlxHelp", "hlxHelp.HelpFile", "hlxOPCServers.Count"}) + entry +
+                  // what is to be added
+                  (Lines{"create hlxOPCServer", "hlxOPCServer.OPCServer", "OPCServer.GetOPCServers()",
+                         "hlxHelp.HelpFile", "hlxOPCServers.Count", "hlxOPCServers.Item",
+                         "hlxOPCServer.OPCServer", "hlxOPCServers.Add", "hlxOPCServers.Count"}) +
+                  // its position, and the list once more
+                  (Lines{"hlxOPCServers.Count", "hlxOPCServers.Count"}) + entry + entry);
+}
+
 SCENARIO(WholeLog, OfAServerThatIsWatched) {
     CallsMade calls(its);
-    calls.since_then(); // before the story
     Showing information(*its.stage, "ServerInformation");
     information.show(std::make_shared<FakeOPCServer>(its.host.calls));
     its.person.waits_for_ticks(1);
@@ -68,7 +87,7 @@ SCENARIO(WholeLog, OfAServerThatIsWatched) {
     EXPECT_EQ(calls.since_then(),
               of("OPCServer", {"ServerNode", "ServerName", "StartTime", "CurrentTime", "LastUpdateTime",
                                "MajorVersion", "MinorVersion", "VendorInfo"}) +
-                  Lines{"hlxHelp.HelpFile"} +
+                  (Lines{"create hlxHelp", "hlxHelp.HelpFile"}) +
                   of("OPCServer", {"StartTime", "CurrentTime", "LastUpdateTime"}));
 }
 
@@ -76,7 +95,6 @@ SCENARIO(WholeLog, OfAConfigurationThatIsOpenedAndClosed) {
     a_filled_configuration(its);
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     CallsMade calls(its);
-    calls.since_then(); // before the story
     Configuring dialog(its);
     const Lines to_the_server = {"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry"};
     EXPECT_EQ(calls.since_then(),
@@ -110,7 +128,6 @@ SCENARIO(WholeLog, OfADescriptorThatIsAddedEditedAndRemoved) {
     Configuring dialog(its);
     dialog.turns_to_descriptors();
     CallsMade calls(its);
-    calls.since_then(); // before the story
     const Lines to_the_database = {"hlxOPCConfiguration.Server", "hlxOPCServerHolder.ServerEntry",
                                    "hlxOPCServer.Parent", "hlxOPCServers.Parent", "hlxApplication.Database"};
     const Lines edited = to_the_database +
@@ -137,7 +154,6 @@ SCENARIO(WholeLog, OfATickOfTheStatus) {
     its.host.groups->has("Fast");
     Configuring dialog(its);
     CallsMade calls(its);
-    calls.since_then(); // before the story
     its.person.waits_for_ticks(1);
     EXPECT_EQ(
         calls.since_then(),

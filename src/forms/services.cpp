@@ -1,15 +1,14 @@
 #include "forms/services.h"
 
+#include "common/trap.h"
+
 namespace brx {
 
 std::int32_t Services::show_message(const Message& message) {
     if (!looked_for_message_) {
         looked_for_message_ = true;
-        try {
-            message_ = create<hlxMessage>(objects_, class_name::hlxMessage);
-        } catch (const Error&) {
-            message_ = nullptr; // the host leaves message boxes to the system
-        }
+        // A host without the service leaves message boxes to the system.
+        attempt([&] { message_ = create<hlxMessage>(objects_, class_name::hlxMessage); });
     }
     if (message_) return message_->Show(message.text, message.style, message.title, Missing{});
     return engine_.message_box(message);

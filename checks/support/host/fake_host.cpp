@@ -61,33 +61,37 @@ void FakeHost::Show(ErrorLibrary library, const ErrorReport& report,
 }
 
 ObjectPtr FakeHost::create(const std::string& name) {
-    if (name == class_name::hlxHelp && help_service) return help_service;
-    if (name == class_name::hlxMessage && message_service) return message_service;
+    const ObjectPtr made = make(name);
+    if (!made) throw Error(error::cannot_create_object);
+    calls.note("create " + name.substr(name.find('.') + 1));
+    return made;
+}
+
+/// Nothing of a class that the host does not have.
+ObjectPtr FakeHost::make(const std::string& name) {
+    if (name == class_name::hlxHelp) return help_service;
+    if (name == class_name::hlxMessage) return message_service;
+    if (name == class_name::hlxTestSelection) return picker;
+    if (const auto found = pickers.find(name); found != pickers.end()) return found->second;
     if (name == class_name::hlxOPCServer && can_create_entries) {
-        calls.note("create hlxOPCServer");
         const auto entry = std::make_shared<FakeServer>(calls, "", "");
         entry->connection = fresh_connection;
-        created_.push_back(entry);
-        return entry;
+        return remembered(entry);
     }
-    if (name == class_name::hlxTestSelection) return picker;
-    if (name == class_name::hlxTestGroup) {
-        const auto test_group = std::make_shared<FakeTestGroup>(calls, test_groups);
-        created_.push_back(test_group);
-        return test_group;
-    }
-    if (const auto found = pickers.find(name); found != pickers.end()) return found->second;
+    if (name == class_name::hlxTestGroup)
+        return remembered(std::make_shared<FakeTestGroup>(calls, test_groups));
     static const std::set<std::string> record_classes = {
         class_name::hlxPart,           class_name::hlxPartGroup,  class_name::hlxProcess,
         class_name::hlxProcessGroup,   class_name::hlxJob,        class_name::hlxJobGroup,
         class_name::hlxShift,          class_name::hlxShiftGroup, class_name::hlxDescriptor,
         class_name::hlxDescriptorGroup};
-    if (record_classes.contains(name)) {
-        const auto record = std::make_shared<FakeRecord>(calls, records, name);
-        created_.push_back(record);
-        return record;
-    }
-    throw Error(error::cannot_create_object);
+    if (record_classes.contains(name)) return remembered(std::make_shared<FakeRecord>(calls, records, name));
+    return nullptr;
+}
+
+ObjectPtr FakeHost::remembered(const ObjectPtr& fresh) {
+    created_.push_back(fresh);
+    return fresh;
 }
 
 std::string FakeHost::still_held() const {

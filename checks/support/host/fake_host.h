@@ -115,6 +115,9 @@ public:
 
 private:
     void set_up_configuration();
+    ObjectPtr make(const std::string& name);
+    /// The same, to see later whether it was let go of.
+    ObjectPtr remembered(const ObjectPtr& fresh);
 
     std::vector<std::weak_ptr<Object>> created_;
 };
