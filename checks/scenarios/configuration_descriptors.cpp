@@ -1,7 +1,5 @@
+#include "calls.h"
 #include "listing.h"
-
-#include <algorithm>
-#include <iterator>
 
 // The descriptors of a configuration.
 
@@ -15,9 +13,7 @@ using Fields = std::vector<DescriptorFields>;
 } // namespace
 
 SCENARIO(DescriptorsTab, ListsTheDescriptorsInTheirOrder) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), three_rows);
     EXPECT_EQ(its.person.sees("lvwDescriptors").selected, -1);
     dialog.leaves();
@@ -43,10 +39,8 @@ SCENARIO(DescriptorsTab, ANewDescriptorGetsItsKindAndItsNames) {
 }
 
 SCENARIO(DescriptorsTab, CancellingEitherDialogAddsNothing) {
-    three_descriptors(its);
+    ListingDescriptors dialog(its);
     const Fields before = its.host.configuration->descriptors->fields();
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
     its.person.presses("bnAddDesc");
     its.person.presses("bnCancel");
     its.person.is_at("dlgConfiguration");
@@ -85,9 +79,7 @@ SCENARIO(DescriptorsTab, AfterAnOkTheDialogsStartAfresh) {
 }
 
 SCENARIO(DescriptorsTab, EditChangesTheNamesAndTheRow) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[2]);
     its.person.presses("bnEditDesc");
     its.person.is_at("dlgDescriptorProperties");
@@ -104,10 +96,8 @@ SCENARIO(DescriptorsTab, EditChangesTheNamesAndTheRow) {
 }
 
 SCENARIO(DescriptorsTab, ADoubleClickEditsAndACancelledEditChangesNothing) {
-    three_descriptors(its);
+    ListingDescriptors dialog(its);
     const Fields before = its.host.configuration->descriptors->fields();
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
     its.person.double_clicks("lvwDescriptors", three_rows[0]);
     its.person.is_at("dlgDescriptorProperties");
     EXPECT_EQ(its.person.title(), "Descriptor Properties - Part");
@@ -119,9 +109,7 @@ SCENARIO(DescriptorsTab, ADoubleClickEditsAndACancelledEditChangesNothing) {
 }
 
 SCENARIO(DescriptorsTab, WithoutASelectedRowEditAndRemoveDoNothing) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.presses("bnEditDesc");
     its.person.is_at("dlgConfiguration");
     its.person.presses("bnRemoveDesc");
@@ -131,9 +119,7 @@ SCENARIO(DescriptorsTab, WithoutASelectedRowEditAndRemoveDoNothing) {
 }
 
 SCENARIO(DescriptorsTab, TheSelectionGoesToTheRowThatTookTheRemovedOnesPlace) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[1]);
     its.person.presses("bnRemoveDesc");
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], three_rows[2]}));
@@ -148,9 +134,7 @@ SCENARIO(DescriptorsTab, TheSelectionGoesToTheRowThatTookTheRemovedOnesPlace) {
 }
 
 SCENARIO(DescriptorsTab, RemovingTheLastOfThreeSelectsTheNewLastOne) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[2]);
     its.person.presses("bnRemoveDesc");
     EXPECT_EQ(its.person.sees("lvwDescriptors").selected, 1);
@@ -186,11 +170,9 @@ SCENARIO(DescriptorsTab, ADescriptorThatNobodyCouldFinishIsTakenBack) {
 }
 
 SCENARIO(DescriptorsTab, ACancelledDescriptorIsFoundWhereverTheHostPutIt) {
-    three_descriptors(its);
-    const Fields before = its.host.configuration->descriptors->fields();
     its.host.configuration->descriptors->adds_in_front = true;
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
+    const Fields before = its.host.configuration->descriptors->fields();
     its.person.presses("bnAddDesc");
     its.person.picks("List1", "Job");
     its.person.presses("bnOK");
@@ -222,17 +204,14 @@ SCENARIO(DescriptorsTab, ARowShowsWhatTheDescriptorKeptOfTheNames) {
 }
 
 SCENARIO(DescriptorsTab, AnEditCallsTheHostInTheOrderThatItKnows) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[0]);
-    const auto before = static_cast<std::ptrdiff_t>(its.host.calls.made().size());
+    CallsMade made(its);
     its.person.presses("bnEditDesc");
     its.person.presses("bnOK");
-    const Lines all = its.host.calls.members();
-    Lines calls;
-    std::copy_if(all.begin() + before, all.end(), std::back_inserter(calls), [](const std::string& member) {
-        return member.starts_with("hlxOPCDescriptor") || member == "hlxApplication.Database";
+    Calls calls = made.since_then();
+    std::erase_if(calls, [](const std::string& member) {
+        return !member.starts_with("hlxOPCDescriptor") && member != "hlxApplication.Database";
     });
     EXPECT_EQ(calls,
               (Lines{"hlxOPCDescriptors.Item", "hlxApplication.Database",

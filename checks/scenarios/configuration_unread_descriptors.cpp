@@ -25,10 +25,8 @@ void expect_to_lead_to(Play& its, const std::string& row, const std::string& kin
 } // namespace
 
 SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
-    three_descriptors(its);
     its.host.configuration->descriptors->keeps_all = true;
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.presses("bnAddDesc");
     its.person.picks("List1", "Job");
     its.person.presses("bnOK");
@@ -45,10 +43,8 @@ SCENARIO(DescriptorsTab, ACancelledDescriptorThatTheHostKeepsIsListed) {
 }
 
 SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
-    three_descriptors(its);
+    ListingDescriptors dialog(its);
     const Fields before = its.host.configuration->descriptors->fields();
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
     its.person.double_clicks("lvwDescriptors", three_rows[0]);
     its.host.configuration->descriptors->entries[0]->fields.item = "Not what the dialog got";
     its.person.enters("txtItem", "Axle");
@@ -62,10 +58,8 @@ SCENARIO(DescriptorsTab, NamesThatTheHostDoesNotTakeAreWrittenBackTogether) {
 }
 
 SCENARIO(DescriptorsTab, ADescriptorThatTheHostDropsAsItFailsLeavesTheListToo) {
-    three_descriptors(its);
     its.host.configuration->descriptors->drops_and_fails = true;
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[1]);
     its.person.presses("bnRemoveDesc");
     its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
@@ -75,10 +69,8 @@ SCENARIO(DescriptorsTab, ADescriptorThatTheHostDropsAsItFailsLeavesTheListToo) {
 }
 
 SCENARIO(DescriptorsTab, ADescriptorThatTheHostKeepsStaysSelected) {
-    three_descriptors(its);
     its.host.configuration->descriptors->keeps_all = true;
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.picks("lvwDescriptors", three_rows[1]);
     its.person.presses("bnRemoveDesc");
     its.expect_report(error::invalid_procedure_call, "dlgConfiguration.bnRemoveDesc_Click");
@@ -88,12 +80,7 @@ SCENARIO(DescriptorsTab, ADescriptorThatTheHostKeepsStaysSelected) {
 }
 
 SCENARIO(DescriptorsTab, DescriptorsUpToTheOneThatCannotBeReadAreListed) {
-    three_descriptors(its);
-    its.host.calls.fail_on("hlxOPCDescriptor.ItemName", 1);
-    Configuring dialog(its);
-    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    its.host.calls.fail_on("");
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its, "ItemName", 1);
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], "Serial Number |  | "}));
     expect_to_lead_to(its, "Serial Number |  | ", "Serial Number");
     its.person.picks("lvwDescriptors", three_rows[0]);
@@ -106,12 +93,7 @@ SCENARIO(DescriptorsTab, DescriptorsUpToTheOneThatCannotBeReadAreListed) {
 }
 
 SCENARIO(DescriptorsTab, ADescriptorOfNoTellableKindHasAnEmptyRow) {
-    three_descriptors(its);
-    its.host.calls.fail_on("hlxOPCDescriptor.Type", 1);
-    Configuring dialog(its);
-    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    its.host.calls.fail_on("");
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its, "Type", 1);
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), (Lines{three_rows[0], " |  | "}));
     its.person.picks("lvwDescriptors", " |  | ");
     its.person.presses("bnRemoveDesc");
@@ -121,12 +103,7 @@ SCENARIO(DescriptorsTab, ADescriptorOfNoTellableKindHasAnEmptyRow) {
 }
 
 SCENARIO(DescriptorsTab, ANewDescriptorMakesAListInPartWhole) {
-    three_descriptors(its);
-    its.host.calls.fail_on("hlxOPCDescriptor.GroupName", 1);
-    Configuring dialog(its);
-    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    its.host.calls.fail_on("");
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its, "GroupName", 1);
     adds_descriptor(its, "Job");
     Lines rows = three_rows;
     rows.emplace_back("Job | Group | New");
@@ -143,14 +120,9 @@ SCENARIO(DescriptorsTab, ANewDescriptorMakesAListInPartWhole) {
 }
 
 SCENARIO(DescriptorsTab, RowsThatCannotBeReadAgainStayOutOfReachUntilTheyCan) {
-    three_descriptors(its);
-    its.host.calls.fail_on("hlxOPCDescriptor.GroupName", 2);
-    Configuring dialog(its);
-    its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its, "GroupName", 2);
     const Lines before = {three_rows[0], three_rows[1], "User Defined (Subgroup) |  | "};
     EXPECT_EQ(its.person.lines_of("lvwDescriptors"), before);
-    its.host.calls.fail_on("");
     prepares_descriptor(its, "Job");
     its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
     its.person.presses("bnOK");
@@ -173,9 +145,7 @@ SCENARIO(DescriptorsTab, RowsThatCannotBeReadAgainStayOutOfReachUntilTheyCan) {
 }
 
 SCENARIO(DescriptorsTab, ANewDescriptorThatCannotBeReadBackShowsWhatWasConfirmed) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     prepares_descriptor(its, "Job");
     its.host.calls.fail_on("hlxOPCDescriptor.Type");
     its.person.presses("bnOK");
@@ -190,9 +160,7 @@ SCENARIO(DescriptorsTab, ANewDescriptorThatCannotBeReadBackShowsWhatWasConfirmed
 }
 
 SCENARIO(DescriptorsTab, AnEditThatCannotBeReadBackShowsWhatWasConfirmed) {
-    three_descriptors(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.double_clicks("lvwDescriptors", three_rows[0]);
     its.person.enters("txtItem", "Axle");
     its.person.enters("txtGroup", "Forgings");
@@ -211,9 +179,7 @@ SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsAsItFailsIsListed) {
     for (const bool it_fails : {true, false}) {
         FakeDescriptors& descriptors = *its.host.configuration->descriptors;
         descriptors.entries.clear();
-        three_descriptors(its);
-        Configuring dialog(its);
-        dialog.turns_to_descriptors();
+        ListingDescriptors dialog(its);
         its.person.presses("bnAddDesc");
         its.person.picks("List1", "Job");
         (it_fails ? descriptors.adds_and_fails : descriptors.gives_nothing) = true;
@@ -240,10 +206,8 @@ SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsAsItFailsIsListed) {
 }
 
 SCENARIO(DescriptorsTab, ADescriptorThatTheHostAddsUnreadLeavesTheRowsOutOfReach) {
-    three_descriptors(its);
     its.host.configuration->descriptors->adds_and_fails = true;
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    ListingDescriptors dialog(its);
     its.person.presses("bnAddDesc");
     its.host.calls.fail_on("hlxOPCDescriptors.NewEnum");
     its.person.presses("bnOK");

@@ -67,7 +67,7 @@ inline void pastes_into(Person& person, const std::string& box, const std::strin
 }
 
 /// A configuration with a test, so that it can be closed, and something in every field.
-inline void a_filled_configuration(Play& its) {
+inline Play& a_filled_configuration(Play& its) {
     its.host.group->items->has("Line1.Speed");
     its.host.group->items->has("Line1.Force");
     const auto test = its.host.has_test(7, "Length");
@@ -88,6 +88,7 @@ inline void a_filled_configuration(Play& its) {
                                       .active = true,
                                       .dead_band = 0.1F,
                                       .update_rate = 1000};
+    return its;
 }
 
 } // namespace brx::checks

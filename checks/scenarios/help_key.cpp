@@ -8,84 +8,77 @@
 using namespace brx;
 using namespace brx::checks;
 
+namespace {
+
+/// The configuration dialog of a host that has a help file.
+struct HelpedConfiguring {
+    explicit HelpedConfiguring(Play& its) : file(its), dialog(a_filled_configuration(its)) {}
+    HelpFile file;
+    Configuring dialog;
+};
+
+} // namespace
+
 SCENARIO(HelpKey, OpensTheTopicsOfTheServerDialogs) {
     const HelpFile file(its);
     const auto server = std::make_shared<FakeOPCServer>(its.host.calls);
     Showing select(*its.stage, "ServerSelect");
     select.show(its.host.servers);
-    its.person.hits(Key::f1);
-    file.expect_shown_at(193);
+    file.expect_f1_to_open_at(193);
     its.person.presses("bnServer");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(195);
+    file.expect_f1_to_open_at(195);
     its.person.presses("bnCancel");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(193);
+    file.expect_f1_to_open_at(193);
     its.person.presses("bnCancel");
     EXPECT_FALSE(select.result());
 
     Showing information(*its.stage, "ServerInformation");
     information.show(server);
-    its.person.hits(Key::f1);
-    file.expect_shown_at(198);
+    file.expect_f1_to_open_at(198);
     its.person.presses("bnOK");
     information.result();
 }
 
 SCENARIO(HelpKey, OpensTheTopicOfTheTestDialogAndTheContentsInTheConfigurationDialogAroundIt) {
-    const HelpFile file(its);
-    a_filled_configuration(its);
-    Configuring dialog(its);
+    HelpedConfiguring helped(its);
     EXPECT_EQ(its.host.calls.count("hlxHelp.HelpFile"), 0);
-    its.person.hits(Key::f1);
-    file.expect_shown_at(0);
+    helped.file.expect_f1_to_open_at(0);
     its.person.double_clicks("lvwTest", its.person.line_of("lvwTest", 0));
     its.person.is_at("dlgOPCTest");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(194);
+    helped.file.expect_f1_to_open_at(194);
     its.person.presses("bnCancel");
     its.person.is_at("dlgConfiguration");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(0);
-    dialog.leaves();
+    helped.file.expect_f1_to_open_at(0);
+    helped.dialog.leaves();
 }
 
 SCENARIO(HelpKey, OpensTheTopicOfTheTriggerDialog) {
-    const HelpFile file(its);
-    a_filled_configuration(its);
-    Configuring dialog(its);
-    dialog.turns_to_sampling();
+    HelpedConfiguring helped(its);
+    helped.dialog.turns_to_sampling();
     its.person.presses("cmdPieceTrigger");
     its.person.is_at("dlgEvaluation");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(196);
+    helped.file.expect_f1_to_open_at(196);
     its.person.presses("bnCancel");
-    dialog.leaves();
+    helped.dialog.leaves();
 }
 
 SCENARIO(HelpKey, OpensTheContentsInTheDescriptorDialogs) {
-    const HelpFile file(its);
-    a_filled_configuration(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
+    HelpedConfiguring helped(its);
+    helped.dialog.turns_to_descriptors();
     its.person.presses("bnAddDesc");
     its.person.is_at("dlgDescriptorType");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(0);
+    helped.file.expect_f1_to_open_at(0);
     its.person.presses("bnOK");
     its.person.is_at("dlgDescriptorProperties");
     EXPECT_EQ(its.host.calls.count("hlxHelp.HelpFile"), 1);
-    its.person.hits(Key::f1);
-    file.expect_shown_at(0);
+    helped.file.expect_f1_to_open_at(0);
     its.person.presses("bnItem");
     its.person.is_at("dlgItemSelect");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(197);
+    helped.file.expect_f1_to_open_at(197);
     its.person.presses("bnCancel");
-    its.person.hits(Key::f1);
-    file.expect_shown_at(0);
+    helped.file.expect_f1_to_open_at(0);
     its.person.presses("bnCancel");
-    dialog.leaves();
+    helped.dialog.leaves();
 }
 
 SCENARIO(HelpKey, AHelpFileThatIsNotThereIsTold) {

@@ -287,7 +287,6 @@ SCENARIO(ItemBrowser, HelpOpensAtItsTopic) {
     a_plant(its);
     const HelpFile file(its);
     const Browsing browsing(its);
-    its.person.hits(Key::f1);
-    file.expect_shown_at(197);
+    file.expect_f1_to_open_at(197);
     its.person.presses("bnCancel");
 }

@@ -41,15 +41,35 @@ inline void adds_width(Play& its) {
     its.person.is_at("dlgConfiguration");
 }
 
-inline void three_descriptors(Play& its) {
+inline Play& three_descriptors(Play& its) {
     its.host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     its.host.configuration->descriptors->has({.type = 7, .item = "(%Line1.Serial)", .group = ""});
     its.host.configuration->descriptors->has({.type = 5, .item = "Red", .group = "Colours"});
+    return its;
 }
 
 /// How they read in the list.
 inline const Lines three_rows = {"Part | Castings | Wheel", "Serial Number |  | (%Line1.Serial)",
                                  "User Defined (Subgroup) | Colours | Red"};
+
+/// The configuration dialog, open at the list of the three.
+class ListingDescriptors : public Configuring {
+public:
+    explicit ListingDescriptors(Play& its) : Configuring(three_descriptors(its)) { turns_to_descriptors(); }
+    /// As it loads, the first calls of this member come through and the next one fails.
+    ListingDescriptors(Play& its, const std::string& failing, int spared)
+        : Configuring(with_a_failing(its, "hlxOPCDescriptor." + failing, spared)) {
+        its.expect_report(CallLog::failure_number, "dlgConfiguration.Form_Load", ErrorLibrary::hlxER01);
+        its.host.calls.fail_on("");
+        turns_to_descriptors();
+    }
+
+private:
+    static Play& with_a_failing(Play& its, const std::string& member, int spared) {
+        its.host.calls.fail_on(member, spared);
+        return three_descriptors(its);
+    }
+};
 
 /// Gives a new descriptor of this kind its names, and confirms all of it but the names.
 inline void prepares_descriptor(Play& its, const std::string& kind) {

@@ -36,6 +36,18 @@ void fails_to_add(Play& its) {
     its.person.presses("bnOK");
 }
 
+/// She does, and is told so.
+void is_told_that_adding_fails(Play& its) {
+    fails_to_add(its);
+    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+}
+
+/// A host without error libraries, whose server has no groups to tell of at any tick.
+void nobody_to_tell_and_no_groups(Play& its) {
+    its.host.has_no_error_library();
+    its.host.connection->groups = nullptr;
+}
+
 /// A configuration that cannot be committed.
 void a_trigger_without_its_item(Play& its) {
     a_filled_configuration(its);
@@ -47,8 +59,7 @@ void a_trigger_without_its_item(Play& its) {
 SCENARIO(WithoutAnErrorLibrary, AFailingOkIsToldAndTheDialogStays) {
     its.host.has_no_error_library();
     Adding dialog(its);
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     its.person.is_at("dlgServerAdd");
     EXPECT_TRUE(its.host.servers->entries().empty());
     its.host.calls.fail_on("");
@@ -82,23 +93,20 @@ SCENARIO(WithoutAnErrorLibrary, WhatFailsAsADialogLoadsIsToldBeforeItOpens) {
 SCENARIO(WithoutAnErrorLibrary, TheSameErrorIsToldOnceInAShowingAndAgainInTheNext) {
     its.host.has_no_error_library();
     Adding dialog(its);
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     its.person.presses("bnOK");
     its.person.is_at("dlgServerAdd");
     dialog.cancels();
 
     dialog.add.show(its.host.servers);
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     dialog.cancels();
 }
 
 SCENARIO(WithoutAnErrorLibrary, AnotherPlaceIsToldAndSoIsAnotherErrorInTheSamePlace) {
     its.host.has_no_error_library();
     Adding dialog(its);
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     its.host.calls.fail_on("OPCServer.GetOPCServers()");
     its.person.presses("cmdRefreshList");
     its.person.answers(told_of_failure(its, "dlgServerAdd.cmdRefreshList_Click"));
@@ -116,8 +124,7 @@ SCENARIO(WithoutAnErrorLibrary, ADialogThatAnotherOpensBelongsToTheSameShowing) 
     Showing select(*its.stage, "ServerSelect");
     select.show(its.host.servers);
     its.person.presses("bnServer");
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     its.person.presses("bnCancel");
     its.person.is_at("dlgServerSelect");
     its.person.presses("bnServer");
@@ -141,8 +148,7 @@ SCENARIO(WithoutAnErrorLibrary, TheDialogBelowShowsWhatWasDoneBeforeTheFailure) 
 }
 
 SCENARIO(WithoutAnErrorLibrary, OfItsTimersADialogTellsOnceWhateverTheyRunInto) {
-    its.host.has_no_error_library();
-    its.host.connection->groups = nullptr;
+    nobody_to_tell_and_no_groups(its);
     a_trigger_without_its_item(its);
     Configuring dialog(its);
     its.person.waits_for_ticks(1);
@@ -157,8 +163,7 @@ SCENARIO(WithoutAnErrorLibrary, OfItsTimersADialogTellsOnceWhateverTheyRunInto) 
 }
 
 SCENARIO(WithoutAnErrorLibrary, ATimerTellsWhatAButtonHasNotTold) {
-    its.host.has_no_error_library();
-    its.host.connection->groups = nullptr;
+    nobody_to_tell_and_no_groups(its);
     a_trigger_without_its_item(its);
     Configuring dialog(its);
     its.person.presses("bnClose");
@@ -188,8 +193,7 @@ SCENARIO(WithoutAnErrorLibrary, TimersGoOnUnderTheMessageAndPutNoneOverIt) {
 }
 
 SCENARIO(WithoutAnErrorLibrary, ATimerPutsNothingOverAQuestion) {
-    its.host.has_no_error_library();
-    its.host.connection->groups = nullptr;
+    nobody_to_tell_and_no_groups(its);
     Configuring dialog(its);
     its.person.presses("bnClose");
     its.person.waits_for_ticks(2);
@@ -205,8 +209,7 @@ SCENARIO(WithoutAnErrorLibrary, ATimerPutsNothingOverAQuestion) {
 }
 
 SCENARIO(WithoutAnErrorLibrary, ATimersErrorIsToldOverTheDialogInFront) {
-    its.host.has_no_error_library();
-    its.host.connection->groups = nullptr;
+    nobody_to_tell_and_no_groups(its);
     Configuring dialog(its);
     dialog.turns_to_descriptors();
     its.person.presses("bnAddDesc");
@@ -245,8 +248,7 @@ SCENARIO(WithoutAnErrorLibrary, TheOtherOneDoesSoToo) {
 SCENARIO(WithoutAnErrorLibrary, AnErrorClassThatFailsIsNoBetterThanNone) {
     its.host.error_classes[ErrorLibrary::brxError6] = ErrorClass::fails;
     Adding dialog(its);
-    fails_to_add(its);
-    its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
+    is_told_that_adding_fails(its);
     dialog.cancels();
 }
 
