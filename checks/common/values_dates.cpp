@@ -135,6 +135,13 @@ TEST(ReadDate, CountsTheTimeAwayFromZeroBeforeTheZeroDay) {
     EXPECT_EQ(0.25, read_date("6:00", us, year)->days);
 }
 
+TEST(ReadDate, AColonDividesTimesWhateverTheUsersSeparatorIs) {
+    Locale locale = us;
+    locale.time_separator = "h";
+    EXPECT_EQ(0.25, read_date("6:00", locale, year)->days);
+    EXPECT_EQ(0.25, read_date("6h00", locale, year)->days);
+}
+
 TEST(ToDate, TakesANumberOfDaysForWhatIsNoDate) {
     EXPECT_EQ(36526, to_date("36526", us).days);
     EXPECT_EQ(36526.5, to_date("36526,5", de).days);

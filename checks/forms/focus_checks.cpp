@@ -131,6 +131,19 @@ TEST_F(Focus, TheFocusMovesOnFromAControlThatIsDisabled) {
     });
 }
 
+TEST_F(Focus, NothingHasTheFocusWhereNothingCanHaveIt) {
+    while_open([&] {
+        form.on_click = [&] {
+            for (Control* each : form.controls())
+                if (each != &form.button) each->set_enabled(false);
+            form.button.set_enabled(false);
+        };
+        form.button.user_focus();
+        form.button.user_click();
+        EXPECT_EQ(form.focused(), nullptr);
+    });
+}
+
 TEST_F(Focus, TheFocusServiceSelectsTheWholeText) {
     while_open([&] {
         form.list.user_focus();

@@ -183,6 +183,7 @@ TEST_F(ListViews, TypingFindsTheNextRowThatBeginsSoRoundTheEnd) {
         EXPECT_EQ(row_beginning_with(list, "app", 3), 1);
         EXPECT_EQ(row_beginning_with(list, "lum", 1), 0);
         EXPECT_EQ(row_beginning_with(list, "a", 5), 1);
+        EXPECT_EQ(row_beginning_with(list, "p", 0), 2) << "No row was selected.";
         list.clear();
         EXPECT_EQ(row_beginning_with(list, "a", 1), 0);
     });

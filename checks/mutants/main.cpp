@@ -23,6 +23,7 @@ constexpr const char* usage =
     "brx_mutants idle  TOP STATE                 the exceptions that leave nothing out\n"
     "brx_mutants guard TOP STATE TREE [NUMBER]   writes the sources with all edits compiled in, and one for "
     "real\n"
+    "brx_mutants plain TOP STATE TREE NUMBER     writes the source of one edit with that one made\n"
     "brx_mutants learn TOP STATE LOG             what a compiler does not take is not compiled in again\n"
     "brx_mutants draw  TOP STATE SEED HOW-MANY   numbers of edits, `made` behind those that cannot be "
     "compiled in\n"
@@ -58,6 +59,14 @@ void guard(const Catalogue& catalogue, const fs::path& tree, const Edit* real) {
     }
 }
 
+void make_plainly(const Catalogue& catalogue, const fs::path& tree, int number) {
+    const Edit& edit = *catalogue.edit(number);
+    const Source& source = catalogue.file_of(number).source;
+    std::string text(source.text());
+    write(tree / source.path(),
+          text.replace(edit.range.begin, edit.range.end - edit.range.begin, edit.replacement));
+}
+
 int run(const std::vector<std::string>& arguments) {
     const std::string command = arguments.at(0);
     if (command == "tests") {
@@ -80,6 +89,8 @@ int run(const std::vector<std::string>& arguments) {
     } else if (command == "guard") {
         guard(catalogue, arguments.at(3),
               arguments.size() > 4 ? catalogue.edit(std::stoi(arguments[4])) : nullptr);
+    } else if (command == "plain") {
+        make_plainly(catalogue, arguments.at(3), std::stoi(arguments.at(4)));
     } else if (command == "learn") {
         std::cout << learn_from(read(arguments.at(3)), catalogue, known) << '\n';
         known.save(state);

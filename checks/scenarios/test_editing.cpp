@@ -29,6 +29,15 @@ SCENARIO(TestDialog, AlwaysClosesTheValueAndKeepsItsText) {
     its.person.presses("bnCancel");
 }
 
+SCENARIO(TestDialog, AlwaysInPlaceOfAnotherOperatorIsKept) {
+    Testing testing(its, a_bound_test(its, 2));
+    its.person.picks("cboExpression", "Always");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_TRUE(testing.fields().item_trigger);
+    EXPECT_EQ(testing.fields().expression, 0);
+}
+
 SCENARIO(TestDialog, TheValueIsKeptAsTheItemsType) {
     struct Case {
         std::int16_t type;

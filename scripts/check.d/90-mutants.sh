@@ -14,7 +14,9 @@ objects=$home/build
 results=$state/results-$seed
 edits=$brx_build/linux/checks/mutants/brx_mutants
 program=$objects/checks/brx_checks
-export program state results edits
+export program state results edits top
+# For the check that reads them: in the compiled ones there are all edits.
+export BRX_SOURCES=$top/src
 
 # Files that stay as they are keep their times, so that little is compiled again.
 copy_sources() {
@@ -72,6 +74,16 @@ passes() {
         --gtest_brief=1 >"$results/$1.log" 2>&1
 }
 
+# read_well NUMBER: whether the check that reads the sources does with them as they are after that edit.
+read_well() {
+    local tree=$results/$1.tree status=0
+    mkdir -p "$tree" && cp -r "$top/src" "$tree"
+    "$edits" plain "$top" "$state" "$tree" "$1"
+    BRX_SOURCES=$tree/src passes "$1" 60 'ProcedureNames.*' || status=$?
+    rm -rf "$tree"
+    return "$status"
+}
+
 # try_edit NUMBER: what the checks that reach it say, and where they notice nothing what all of them say.
 try_edit() {
     local seconds filter outcome=unreached
@@ -80,10 +92,11 @@ try_edit() {
         passes "$1" "$seconds" "$filter" || outcome=noticed
         [ "$outcome" = unnoticed ] || break
     done < <("$edits" tests "$state/reach" "$1")
+    if [ "$outcome" = unnoticed ]; then read_well "$1" || outcome=noticed; fi
     if [ "$outcome" = unnoticed ]; then passes "$1" 300 "$all_checks" || outcome=noticed; fi
     say "$1 $outcome" >"$results/$1"
 }
-export -f try_edit passes say
+export -f try_edit passes read_well say
 
 # make_edit NUMBER: the same for one that cannot be compiled in.
 make_edit() {
