@@ -1,13 +1,41 @@
-# The target brx_headers: every header by itself, included twice. Headers of the platform's folders take part on
-# their platform only.
+# The target brx_headers: every header by itself, included twice. A header belongs to the nearest folder around it
+# that declares what it builds, and takes part where that builds something for this platform.
 
+# brx_building_folders(RESULT FOLDER): those from FOLDER down that have targets.
+function(brx_building_folders result folder)
+    get_property(all DIRECTORY "${folder}" PROPERTY SUBDIRECTORIES)
+    set(building)
+    foreach(each IN LISTS all)
+        brx_building_folders(below "${each}")
+        list(APPEND building ${below})
+    endforeach()
+    get_property(targets DIRECTORY "${folder}" PROPERTY BUILDSYSTEM_TARGETS)
+    if(targets)
+        list(APPEND building "${folder}")
+    endif()
+    set(${result} ${building} PARENT_SCOPE)
+endfunction()
+
+function(brx_declaring_folder result header)
+    cmake_path(GET header PARENT_PATH folder)
+    while(NOT EXISTS "${CMAKE_SOURCE_DIR}/${folder}/CMakeLists.txt")
+        cmake_path(GET folder PARENT_PATH folder)
+    endwhile()
+    set(${result} "${CMAKE_SOURCE_DIR}/${folder}" PARENT_SCOPE)
+endfunction()
+
+brx_building_folders(building "${CMAKE_SOURCE_DIR}")
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}" src/*.h sample/*.h checks/*.h)
-if(NOT WIN32)
-    list(FILTER headers EXCLUDE REGEX "(^|/)(com|win32|windows)/|^checks/(bench|conversions|server)/|^sample/(objects|tour|window)/|^checks/(leaks)/")
-endif()
+set(taking_part)
+foreach(header IN LISTS headers)
+    brx_declaring_folder(folder "${header}")
+    if(folder IN_LIST building)
+        list(APPEND taking_part "${header}")
+    endif()
+endforeach()
 
 set(sources)
-foreach(header IN LISTS headers)
+foreach(header IN LISTS taking_part)
     string(MAKE_C_IDENTIFIER "${header}" unit)
     set(source "${CMAKE_BINARY_DIR}/headers/${unit}.cpp")
     file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"@header@\"\n#include \"@header@\"\n" @ONLY)

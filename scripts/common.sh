@@ -17,7 +17,7 @@ have() { command -v "$1" >/dev/null 2>&1; }
 is_root() { [ "$(id -u)" -eq 0 ]; }
 
 # The product, below the build folder of a Windows preset.
-brx_dll=src/com/server/brxOpcDlgs6.dll
+brx_dll=src/dll/brxOpcDlgs6.dll
 
 # build PRESET [TARGET..]: configures and builds. Builds of the same preset wait for each other.
 build() {

@@ -1,6 +1,6 @@
 #include "bench/address_space.h"
 
-#include "com/adapters/opc_unused.h"
+#include "adapters/opc_unused.h"
 #include "com/dual.h"
 
 namespace brx::bench {

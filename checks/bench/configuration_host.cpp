@@ -3,7 +3,7 @@
 #include "bench/address_space.h"
 #include "bench/configuration_unused.h"
 
-#include "com/adapters/opc_unused.h"
+#include "adapters/opc_unused.h"
 #include "com/dual.h"
 
 #include <OPCAutomation.h>

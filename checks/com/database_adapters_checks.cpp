@@ -85,7 +85,7 @@ TEST_F(AdapterTest, PassServicesOn) {
 TEST_F(AdapterTest, LeaveOutTheArgumentsOfAMessageThatAScriptLeavesOut) {
     const auto messages = make<hlxMessage>();
     messages->answers["Show"] = std::int32_t{2};
-    const auto script_object = to_dispatch(messages);
+    const auto script_object = dispatch_of(messages);
     EXPECT_EQ(describe(invoke(script_object.get(), "Show", DISPATCH_METHOD | DISPATCH_PROPERTYGET,
                               {std::string("text"), std::int32_t{1}, std::string("title")})),
               "long 2");

@@ -1,5 +1,6 @@
-#include "com/adapters.h"
-#include "com/adapters/opc_unused.h"
+#include "adapters/opc_unused.h"
+#include "adapters/to_com.h"
+#include "com/adapters/from_com.h"
 #include "com/bstr.h"
 #include "com/counted.h"
 #include "com/describe.h"
@@ -122,7 +123,7 @@ TEST_F(AdapterTest, UseObjectsThatDenyBeingDispatchInterfaces) {
     group->items = make_com<StrictItems>();
     const auto items = from_com<OPCGroup>(group)->OPCItems();
     const auto item = items->Item(std::int32_t{1});
-    EXPECT_TRUE(to_dispatch(item));
+    EXPECT_TRUE(dispatch_of(item));
     EXPECT_EQ(resolve<OPCItem>(ObjectPtr(item)), item);
 }
 
@@ -169,7 +170,7 @@ TEST_F(AdapterTest, PassArraysExactlyAsOpcAutomationWantsThem) {
 TEST_F(AdapterTest, FindOutWhatAnObjectIs) {
     const auto group = make<OPCGroup>();
     group->answers["Name"] = std::string("Line 3");
-    const ObjectPtr object = from_dispatch(to_dispatch(group));
+    const ObjectPtr object = from_dispatch(dispatch_of(group));
     EXPECT_EQ(resolve<OPCGroup>(object)->Name(), "Line 3");
     EXPECT_EQ(outcome([&] { return ObjectPtr(resolve<OPCServer>(object)); }),
               describe(Error(error::type_mismatch)));
@@ -177,14 +178,14 @@ TEST_F(AdapterTest, FindOutWhatAnObjectIs) {
               describe(Error(error::type_mismatch)));
     EXPECT_EQ(resolve<OPCGroup>(ObjectPtr(resolve<OPCGroup>(object)))->Name(), "Line 3");
     EXPECT_EQ(from_dispatch(nullptr), nullptr);
-    EXPECT_EQ(to_dispatch(nullptr).get(), nullptr);
+    EXPECT_EQ(dispatch_of(nullptr).get(), nullptr);
     EXPECT_EQ(from_com<OPCGroup>(nullptr), nullptr);
     EXPECT_EQ(to_com<OPCGroup>(nullptr).get(), nullptr);
 }
 
 TEST_F(AdapterTest, GiveAHostItsOwnObjectsBack) {
     const auto original = to_com<OPCGroup>(make<OPCGroup>());
-    EXPECT_EQ(to_dispatch(from_dispatch(original)).get(), original.get());
+    EXPECT_EQ(dispatch_of(from_dispatch(original)).get(), original.get());
     EXPECT_EQ(to_com<OPCGroup>(from_com<OPCGroup>(original)).get(), original.get());
     const OwnedVariant value(Variant(ObjectPtr(from_com<OPCGroup>(original))));
     EXPECT_EQ(V_DISPATCH(&value.get()), original.get());
@@ -193,12 +194,12 @@ TEST_F(AdapterTest, GiveAHostItsOwnObjectsBack) {
 TEST_F(AdapterTest, GoThroughComAlsoWithOurOwnObjects) {
     const auto group = make<OPCGroup>();
     EXPECT_NE(from_com<OPCGroup>(to_com<OPCGroup>(group)), std::static_pointer_cast<OPCGroup>(group));
-    EXPECT_NE(from_dispatch(to_dispatch(group)), ObjectPtr(group));
+    EXPECT_NE(from_dispatch(dispatch_of(group)), ObjectPtr(group));
 }
 
 TEST_F(AdapterTest, PassAnObjectThatIsNothingInParticular) {
     const auto plain = std::make_shared<Object>();
-    const auto dispatch = to_dispatch(plain);
+    const auto dispatch = dispatch_of(plain);
     ASSERT_TRUE(dispatch);
     EXPECT_EQ(outcome([&] { return invoke(dispatch.get(), "Count", DISPATCH_PROPERTYGET, {}); }),
               describe(error_of(DISP_E_UNKNOWNNAME)));

@@ -32,7 +32,7 @@ protected:
     template <class Model>
     static std::string refusal(const std::shared_ptr<Model>& object, const std::string& member,
                                const std::vector<Variant>& arguments) {
-        return outcome([&] { return invoke(to_dispatch(object).get(), member, DISPATCH_METHOD, arguments); });
+        return outcome([&] { return invoke(dispatch_of(object).get(), member, DISPATCH_METHOD, arguments); });
     }
 };
 
@@ -133,38 +133,6 @@ TEST_F(OpcAdapterTest, PassGroupsOn) {
                  method("Remove", &OPCGroups::Remove, Variant(std::string("Line 3")))});
 }
 
-TEST_F(OpcAdapterTest, ReadTheNameOfTheGroupAtAPosition) {
-    const auto group = make<OPCGroup>();
-    group->answers["Name"] = unusual_text;
-    const auto groups = make<OPCGroups>();
-    groups->answers["Item"] = ObjectPtr(group);
-    const auto model = through(groups);
-    HeldText name;
-    const auto failing = [&] { return outcome([&] { return model->read_name(two, name), Variant(); }); };
-    EXPECT_TRUE(model->read_name(two, name));
-    EXPECT_EQ(name.text(), unusual_text);
-    EXPECT_THAT(groups->take_calls(), ElementsAre("Item (" + describe(Variant(two)) + ")"));
-    EXPECT_THAT(group->take_calls(), ElementsAre("Name"));
-    EXPECT_FALSE(model->read_name(two, name)) << "It is the same name.";
-    EXPECT_THAT(group->take_calls(), ElementsAre("Name"));
-    group->answers["Name"] = std::string("Other");
-    EXPECT_TRUE(model->read_name(two, name));
-    EXPECT_EQ(name.text(), "Other");
-    group->answers["Name"] = std::string();
-    EXPECT_TRUE(model->read_name(two, name));
-    EXPECT_EQ(name.text(), "");
-    const Error refused(-2147220501, "No name today", "Sim.1");
-    group->failure = refused;
-    EXPECT_EQ(failing(), describe(refused));
-    group->failure = std::nullopt;
-    groups->failure = refused;
-    EXPECT_EQ(failing(), describe(refused));
-    groups->failure = std::nullopt;
-    groups->answers["Item"] = ObjectPtr();
-    EXPECT_EQ(failing(), describe(Error(error::object_not_set)));
-    EXPECT_EQ(name.text(), "") << "A failure leaves it as it is.";
-}
-
 TEST_F(OpcAdapterTest, PassItemsOn) {
     const auto item = make<OPCItem>();
     item->answers = {{"ItemID", unusual_text}, {"CanonicalDataType", std::int16_t{11}}};
@@ -195,8 +163,8 @@ TEST_F(OpcAdapterTest, PassTheBrowserOn) {
     EXPECT_EQ(refusal(browser, "Item", {std::string("2")}), invalid_argument);
     EXPECT_EQ(refusal(browser, "ShowLeafs", {two}), invalid_argument);
     browser->take_calls();
-    invoke(to_dispatch(browser).get(), "ShowLeafs", DISPATCH_METHOD, {});
-    invoke(to_dispatch(browser).get(), "Item", DISPATCH_METHOD, {std::int16_t{2}});
+    invoke(dispatch_of(browser).get(), "ShowLeafs", DISPATCH_METHOD, {});
+    invoke(dispatch_of(browser).get(), "Item", DISPATCH_METHOD, {std::int16_t{2}});
     EXPECT_THAT(browser->take_calls(), ElementsAre("ShowLeafs (False)", "Item (long 2)"));
 }
 
@@ -274,7 +242,7 @@ TEST_F(LateBoundArraysTest, AddItems) {
     OwnedSafeArray clients(client_handles);
     OwnedSafeArray handles;
     OwnedSafeArray errors;
-    invoke_raw(to_dispatch(items).get(), "AddItems", DISPATCH_METHOD,
+    invoke_raw(dispatch_of(items).get(), "AddItems", DISPATCH_METHOD,
                {number(2), by_reference(VT_BSTR, ids), by_reference(VT_I4, clients),
                 by_reference(VT_I4, handles), by_reference(VT_I4, errors)});
     EXPECT_EQ(long_array(handles.get()), items->added.ServerHandles);
@@ -288,7 +256,7 @@ TEST_F(LateBoundArraysTest, TakeTheElementsFromIndexOneOn) {
     items->errors = {{0}, 1};
     OwnedSafeArray ids(StringArray{{"ignored", "Line.Speed", "too many"}, 0});
     OwnedSafeArray errors;
-    invoke_raw(to_dispatch(items).get(), "Validate", DISPATCH_METHOD,
+    invoke_raw(dispatch_of(items).get(), "Validate", DISPATCH_METHOD,
                {number(1), by_reference(VT_BSTR, ids), by_reference(VT_I4, errors)});
     EXPECT_THAT(items->take_calls(),
                 ElementsAre(testing::StartsWith("Validate (texts from 1: [text Line.Speed])")));
@@ -315,7 +283,7 @@ TEST_F(LateBoundArraysTest, RefuseArraysThatAreTooShortOrOfAnotherType) {
 
 TEST_F(LateBoundArraysTest, MoveAlongAPath) {
     OwnedSafeArray path(StringArray{{"Plant", "Line"}, 0});
-    invoke_raw(to_dispatch(browser).get(), "MoveTo", DISPATCH_METHOD, {by_reference(VT_BSTR, path)});
+    invoke_raw(dispatch_of(browser).get(), "MoveTo", DISPATCH_METHOD, {by_reference(VT_BSTR, path)});
     EXPECT_THAT(browser->take_calls(), ElementsAre("MoveTo (texts from 0: [text Plant] [text Line])"));
 }
 

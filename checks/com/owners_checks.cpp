@@ -1,4 +1,3 @@
-#include "com/adapters.h"
 #include "com/bstr.h"
 #include "com/counted.h"
 #include "com/describe.h"

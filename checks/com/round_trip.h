@@ -1,6 +1,7 @@
 #pragma once
 
-#include "com/adapters.h"
+#include "adapters/to_com.h"
+#include "com/adapters/from_com.h"
 #include "com/describe.h"
 #include "com/doubles.h"
 #include "com/late_bound.h"
@@ -93,7 +94,7 @@ void check_members(const std::shared_ptr<DoubleOf<Model>>& original,
         Error(error::type_mismatch), Error(35601, "No such \xC3\xA9lement", "Host.Servers"),
         Error(-2147220991, "Refused", "Host"), Error(-1073479673, "Unknown item", "Server")};
     const auto through = from_com<Model>(to_com<Model>(original));
-    const auto dispatch = to_dispatch(original);
+    const auto dispatch = dispatch_of(original);
     for (const auto& each : members) {
         SCOPED_TRACE(each.name);
         const auto compare = [&] {

@@ -9,6 +9,7 @@
 #include "forms/text_box.h"
 #include "forms/timer.h"
 
+#include <algorithm>
 #include <array>
 #include <sstream>
 
@@ -16,36 +17,10 @@ namespace brx::checks {
 
 namespace {
 
-const char* kind_text(Kind kind) {
-    switch (kind) {
-    case Kind::label:
-        return "label";
-    case Kind::text_box:
-        return "text box";
-    case Kind::button:
-        return "button";
-    case Kind::check_box:
-        return "check box";
-    case Kind::list_box:
-        return "list box";
-    case Kind::combo_box:
-        return "combo box";
-    case Kind::tree_view:
-        return "tree";
-    case Kind::list_view:
-        return "list view";
-    case Kind::tab_strip:
-        return "tab strip";
-    case Kind::date_picker:
-        return "date picker";
-    case Kind::frame:
-        return "frame";
-    case Kind::panel:
-        return "panel";
-    case Kind::timer:
-        return "timer";
-    }
-    return "?";
+std::string kind_text(const Control& control) {
+    std::string text = control.kind();
+    std::ranges::replace(text, '_', ' ');
+    return text;
 }
 
 std::string anchor_text(Anchor anchor) {
@@ -102,8 +77,8 @@ std::string design_text(const Form& form) {
     for (const Control* control : form.controls()) {
         const Place& place = control->place();
         const Control* const around = control->container().as_control();
-        text << (around ? around->name() + "/" : "") << control->name() << ": " << kind_text(control->kind());
-        if (control->kind() != Kind::timer)
+        text << (around ? around->name() + "/" : "") << control->name() << ": " << kind_text(*control);
+        if (!dynamic_cast<const Timer*>(control))
             text << ' ' << place.left << ',' << place.top << ' ' << place.width << 'x' << place.height
                  << " tab " << control->tab() << anchor_text(control->anchor())
                  << (control->visible() ? "" : " hidden");

@@ -11,7 +11,7 @@ TEST(Designs, OfItemBrowserKeepNamesPlacesTabsAndCaptions) {
 Label1: label 11,15 92x15 tab 1 'Server Name:'
 txtServer: text box 107,11 442x23 tab 2 wide display only
 Label2: label 11,45 265x15 tab 3 '&A. Groups:'
-TrView: tree 11,63 265x265 tab 4 high half-wide
+TrView: tree view 11,63 265x265 tab 4 high half-wide
 picTrView: panel 11,63 265x265 tab 0 high half-wide edge
 Label3: label 283,45 266x15 tab 5 middle '&B. Items:'
 lstItem: list box 283,63 266x265 tab 6 high middle half-wide

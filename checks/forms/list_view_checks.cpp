@@ -65,7 +65,7 @@ TEST_F(ListViews, CellsAreEmptyUntilTheyAreSetAndExistForEachColumn) {
         row.set_tag(42);
         EXPECT_EQ(list.row(2).tag(), 42);
         EXPECT_EQ(list.row(1).tag(), 0);
-        EXPECT_EQ(rows_of(list), (Notes{"Row a | ", "New | *red:7*", "Row c | "}));
+        EXPECT_EQ(marked_rows(list.read().rows), (Notes{"Row a | ", "New | *red:7*", "Row c | "}));
         list.add_column("State", 10);
         EXPECT_EQ(row.text(2), "");
     });

@@ -6,6 +6,7 @@
 #include "forms/list_view.h"
 #include "forms/tab_strip.h"
 #include "one_form.h"
+#include "screen.h"
 #include "stand_in.h"
 
 #include <gtest/gtest.h>

@@ -64,15 +64,15 @@ TEST_F(Trees, AnExpandHandlerMayReplaceOrRemoveWhatThereWasToShow) {
             tree.add_child(node, "plum", "Plum");
         };
         EXPECT_TRUE(tree.user_expand(tree.node("fruit")));
-        EXPECT_EQ(rows_of(tree), (Notes{"-Fruit", "  +Pear", "   Plum", " Spice"}));
+        EXPECT_EQ(tree.read().lines, (Notes{"-Fruit", "  +Pear", "   Plum", " Spice"}));
         form.on_expand = [&](TreeNode& node) { tree.remove(*node.child()); };
         tree.user_expand(tree.node("pear"));
         EXPECT_FALSE(tree.node("pear").expanded()) << "Nothing is left to show.";
-        EXPECT_EQ(rows_of(tree), (Notes{"-Fruit", "   Pear", "   Plum", " Spice"}));
+        EXPECT_EQ(tree.read().lines, (Notes{"-Fruit", "   Pear", "   Plum", " Spice"}));
         tree.user_collapse(tree.node("fruit"));
         form.on_expand = [&](TreeNode& node) { tree.remove(node); };
         tree.user_expand(tree.node("fruit"));
-        EXPECT_EQ(rows_of(tree), (Notes{" Spice"}));
+        EXPECT_EQ(tree.read().lines, (Notes{" Spice"}));
     });
 }
 
@@ -104,7 +104,7 @@ TEST_F(Trees, ClosingANodeMovesASelectionBelowItUpToItWithoutAnEvent) {
         EXPECT_TRUE(tree.user_collapse(tree.node("fruit"))) << "It is closed already.";
         EXPECT_EQ(selected(), "Spice");
         tree.user_expand(tree.node("fruit"));
-        EXPECT_EQ(rows_of(tree), (Notes{"-Fruit", "   Apple", "  -Pear", "     Core", " Spice"}))
+        EXPECT_EQ(tree.read().lines, (Notes{"-Fruit", "   Apple", "  -Pear", "     Core", " Spice"}))
             << "What was open within it is so still.";
         EXPECT_EQ(form.notes, (Notes{"Expand Fruit"}));
     });
@@ -140,11 +140,11 @@ TEST_F(Trees, WhatAPersonDoesNotSeeSheCannotReach) {
 
 TEST_F(Trees, RowsAreTheNodesInViewWithTheirSigns) {
     while_open([&] {
-        EXPECT_EQ(rows_of(tree), Notes{});
+        EXPECT_EQ(tree.read().lines, Notes{});
         add_food();
-        EXPECT_EQ(rows_of(tree), (Notes{"+Fruit", " Spice"}));
+        EXPECT_EQ(tree.read().lines, (Notes{"+Fruit", " Spice"}));
         tree.user_expand(tree.node("fruit"));
-        EXPECT_EQ(rows_of(tree), (Notes{"-Fruit", "   Apple", "  +Pear", " Spice"}));
+        EXPECT_EQ(tree.read().lines, (Notes{"-Fruit", "   Apple", "  +Pear", " Spice"}));
         EXPECT_EQ(row_of(tree, &tree.node("spice")), 3);
         EXPECT_EQ(row_of(tree, &tree.node("core")), -1);
         EXPECT_EQ(row_of(tree, nullptr), -1);

@@ -1,6 +1,6 @@
-#include "com/com_object.h"
-#include "com/inproc/registry.h"
-#include "com/server/com_object_factory.h"
+#include "adapters/to_com.h"
+#include "dll/com_object_factory.h"
+#include "dll/registry.h"
 #include "server/class_for_process.h"
 #include "server/dll.h"
 #include "server/script_object.h"
@@ -41,7 +41,7 @@ protected:
 
 TEST_F(ObjectFactoryTest, AClassOfTheHostIsFoundByItsPublishedIdentifier) {
     const auto offered = offering(CLSID_hlxHelp);
-    EXPECT_EQ(to_dispatch(factory.create("brxOpcAuto6.hlxHelp")).get(), &host_object);
+    EXPECT_EQ(dispatch_of(factory.create("brxOpcAuto6.hlxHelp")).get(), &host_object);
     EXPECT_EQ(error_of_creating("brxOpcAuto6.hlxMessage"), 429);
 }
 
@@ -52,7 +52,7 @@ TEST_F(ObjectFactoryTest, ARegisteredNameComesBeforeThePublishedIdentifier) {
     RegistryChange name(HKEY_LOCAL_MACHINE);
     name.write({L"Software\\Classes\\brxOpcAuto6.hlxHelp\\CLSID", L""},
                L"{0E7F5F0C-7A68-4C55-8F21-610B2B0E6A77}");
-    EXPECT_EQ(to_dispatch(factory.create("brxOpcAuto6.hlxHelp")).get(), &host_object);
+    EXPECT_EQ(dispatch_of(factory.create("brxOpcAuto6.hlxHelp")).get(), &host_object);
 }
 
 TEST_F(ObjectFactoryTest, EachPublishedClassOfTheHostHasItsOwnIdentifier) {

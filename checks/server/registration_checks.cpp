@@ -1,4 +1,4 @@
-#include "com/inproc/registry.h"
+#include "dll/registry.h"
 #include "server/dll_copy.h"
 #include "server/expected_registration.h"
 #include "server/registry_snapshot.h"

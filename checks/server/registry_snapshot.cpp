@@ -1,6 +1,6 @@
 #include "server/registry_snapshot.h"
 
-#include "com/inproc/registry.h"
+#include "dll/registry.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
-#include "com/inproc/registry.h"
-#include "com/server/com_error_libraries.h"
 #include "common/version.h"
+#include "dll/com_error_libraries.h"
+#include "dll/registry.h"
 #include "forms/turn.h"
 #include "server/debugger_output.h"
 #include "server/dll.h"

@@ -1,4 +1,4 @@
-#include "com/adapters.h"
+#include "adapters/to_com.h"
 #include "host/fake_host.h"
 #include "server/debugger_output.h"
 #include "server/dll.h"

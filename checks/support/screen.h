@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/engine.h"
+#include "forms/reading.h"
 
 #include <cstdint>
 #include <optional>
@@ -9,17 +10,15 @@
 
 namespace brx::checks {
 
-/// What a person sees of one control.
-struct Sight {
+/// What a person sees of one control. The lines are also those of a table, see `marked_rows`.
+struct Sight : Reading {
     bool exists = false;
-    std::string text; ///< caption, text, or the selected line's text
-    std::vector<std::string>
-        lines; ///< of a list; of a tree or a list view its rows, see `rows_of`; of a tab strip its captions
-    int selected = -1; ///< line, row or tab from 0, -1 for none; value of a check box
-    bool enabled = false;
-    bool visible = false;
     bool focused = false;
 };
+
+/// The rows of a table as a person reads them: the cells parted by " | ", a bold one between asterisks, a red
+/// text after "red:".
+std::vector<std::string> marked_rows(const std::vector<Reading::Row>& rows);
 
 enum class Key {
     enter,

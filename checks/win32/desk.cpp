@@ -1,6 +1,5 @@
 #include "desk.h"
 
-#include "forms/win32/describe.h"
 #include "forms/win32/wide.h"
 
 #include <atomic>
@@ -191,15 +190,6 @@ std::wstring Hands::text(HWND window) {
     text.resize(static_cast<std::size_t>(
         SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
     return text;
-}
-
-std::wstring describe_form(HWND window) {
-    const LRESULT needed = SendMessageW(window, describe_message(), 0, 0);
-    std::wstring answer(static_cast<std::size_t>(needed), L'?');
-    SendMessageW(window, describe_message(), answer.size(), reinterpret_cast<LPARAM>(answer.data()));
-    EXPECT_EQ(answer.back(), L'\0');
-    answer.pop_back();
-    return answer;
 }
 
 HostWindow::HostWindow(RECT place, DWORD style, DWORD ex_style, HWND owner)

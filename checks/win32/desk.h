@@ -78,9 +78,6 @@ private:
     const WindowThread& windows_;
 };
 
-/// What the form answers to "brx.Describe".
-std::wstring describe_form(HWND window);
-
 /// A host that has nothing and remembers what it is told.
 class BareHost : public ErrorLibraries, public ObjectFactory {
 public:

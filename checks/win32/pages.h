@@ -11,6 +11,7 @@
 #include "forms/list_view.h"
 #include "forms/tab_strip.h"
 #include "forms/text_box.h"
+#include "screen.h"
 #include "windows/native_table.h"
 
 #include <windows.h>

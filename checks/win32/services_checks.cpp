@@ -101,23 +101,27 @@ HCURSOR cursor_over(HWND window) {
 
 } // namespace
 
-TEST_F(ServicesTest, AFormDescribesWhatItsControlsHold) {
+TEST_F(ServicesTest, AFormTellsItsDescriptionToTheWindowThatAsks) {
     Office form(environment);
     show(form, [&](Hands& hands) {
         const HWND window = hands.form("Office");
-        EXPECT_EQ(from_wide(describe_form(window)), "Office\tform\t1\t1\t-1\t0\tThe\\tOffice\n"
-                                                    "Group\tframe\t0\t1\t-1\t0\tGroup\n"
-                                                    "Text\tlabel\t0\t1\t-1\t0\t&Text:\n"
-                                                    "Box\ttext_box\t0\t1\t-1\t0\tback\\\\slash\n"
-                                                    "Tick\tcheck_box\t0\t0\t2\t0\tTick\n"
-                                                    "List\tlist_box\t1\t1\t1\t2\ttwo \xF0\x9F\x98\x80\n"
-                                                    "Combo\tcombo_box\t1\t1\t-1\t0\t\n"
-                                                    "Area\tpanel\t1\t1\t0\t0\t\n"
-                                                    "Press\tbutton\t1\t1\t-1\t0\tPress\n"
-                                                    "Clock\ttimer\t1\t0\t-1\t0\t\n");
-        std::wstring small(8, L'?');
-        SendMessageW(window, describe_message(), 7, reinterpret_cast<LPARAM>(small.data()));
-        EXPECT_EQ(small, std::wstring(L"Office\0?", 8));
+        hands.run([&] {
+            EXPECT_EQ(from_wide(answer_of(window, -1)), brx::description_of(form, Reading::all_lines));
+            EXPECT_EQ(from_wide(answer_of(window, 1)), brx::description_of(form, 1));
+            EXPECT_NE(answer_of(window, 1), answer_of(window, 0));
+        });
+        EXPECT_EQ(from_wide(answer_of(window, -1)), brx::description_of(form, Reading::all_lines))
+            << "asked from another thread";
+    });
+}
+
+TEST_F(ServicesTest, AFormSaysWhetherTheWindowThatAskedTookItsDescription) {
+    Office form(environment);
+    show(form, [&](Hands& hands) {
+        const HWND window = hands.form("Office");
+        EXPECT_EQ(SendMessageW(window, describe_message(), 0, -1), 0) << "Nobody asks.";
+        const HWND deaf = hands.control("Office", "Text");
+        EXPECT_EQ(SendMessageW(window, describe_message(), reinterpret_cast<WPARAM>(deaf), -1), 0);
     });
 }
 
@@ -160,7 +164,7 @@ TEST_F(ServicesTest, AMessageBoxLiesOverTheFormAndEverythingElseIsDisabled) {
         EXPECT_FALSE(IsWindowEnabled(main.handle()));
         const int before = form.ticks;
         EXPECT_TRUE(Hands::eventually([&] { return form.ticks > before + 2; })) << "timers stand still";
-        EXPECT_EQ(describe_form(window).substr(0, 13), L"Office\tform\t0");
+        EXPECT_EQ(answer_of(window, 0).substr(0, 13), L"Office\tform\t0");
         PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
         EXPECT_EQ(hands.form("Office"), window);
         hands.run([&] { EXPECT_EQ(GetActiveWindow(), window); });

@@ -289,22 +289,4 @@ TEST_F(TreeTest, ATreeThatIsFilledWhileItIsHiddenStaysHidden) {
     });
 }
 
-TEST_F(TreeTest, AFormDescribesItsTreeRowByRow) {
-    Trees form(environment);
-    show_food(form, [&](Hands& hands, HWND tree) {
-        click_sign(hands, tree, 0);
-        click_text(hands, tree, 1);
-        EXPECT_EQ(describe_form(GetParent(tree)), L"Trees\tform\t1\t1\t-1\t0\tTrees\n"
-                                                  L"Tree\ttree_view\t1\t1\t1\t4\tApple\n"
-                                                  L"Tree\trow\t1\t1\t-1\t0\t-Fruit\n"
-                                                  L"Tree\trow\t1\t1\t-1\t0\t   Apple\n"
-                                                  L"Tree\trow\t1\t1\t-1\t0\t  +Pear\n"
-                                                  L"Tree\trow\t1\t1\t-1\t0\t Spice\n"
-                                                  L"Press\tbutton\t1\t1\t-1\t0\tPress\n");
-        run(hands, form, [&] { form.Tree.select(&form.Tree.node("core")); });
-        EXPECT_NE(describe_form(GetParent(tree)).find(L"tree_view\t1\t1\t-1\t4\t\n"), std::wstring::npos)
-            << "It is not in view.";
-    });
-}
-
 } // namespace brx::checks

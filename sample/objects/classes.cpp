@@ -1,6 +1,6 @@
 #include "objects/classes.h"
 
-#include "com/com_object.h"
+#include "adapters/to_com.h"
 #include "host/server_entry.h"
 #include "objects/error_object.h"
 #include "objects/host_object.h"
@@ -17,7 +17,7 @@ namespace brx::host {
 
 namespace {
 
-com_ptr<IDispatch> new_fresh_entry() { return to_dispatch(std::make_shared<FreshEntry>(site().source)); }
+com_ptr<IDispatch> new_fresh_entry() { return dispatch_of(std::make_shared<FreshEntry>(site().source)); }
 
 template <RecordKind kind> com_ptr<IDispatch> new_record() {
     return new_record_object(kind, Record::Level::record);

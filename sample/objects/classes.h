@@ -1,6 +1,6 @@
 #pragma once
 
-#include "com/inproc/class_factory.h"
+#include "dll/class_factory.h"
 
 #include <span>
 

@@ -1,6 +1,6 @@
 #include "com/failure.h"
-#include "com/inproc/class_factory.h"
 #include "com/module.h"
+#include "dll/class_factory.h"
 #include "objects/classes.h"
 #include "objects/registration.h"
 

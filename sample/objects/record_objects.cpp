@@ -1,6 +1,6 @@
 #include "objects/record_objects.h"
 
-#include "com/com_object.h"
+#include "adapters/to_com.h"
 #include "objects/database_object.h"
 #include "objects/picker.h"
 
@@ -35,11 +35,11 @@ private:
 } // namespace
 
 com_ptr<IDispatch> new_record_object(RecordKind kind, Record::Level level) {
-    return to_dispatch(std::make_shared<Record>(kind, level, connection_behind));
+    return dispatch_of(std::make_shared<Record>(kind, level, connection_behind));
 }
 
 com_ptr<IDispatch> new_selection_object(RecordKind kind) {
-    return to_dispatch(std::make_shared<Selection>(kind));
+    return dispatch_of(std::make_shared<Selection>(kind));
 }
 
 } // namespace brx::host

@@ -2,8 +2,8 @@
 
 #include "com/failure.h"
 #include "com/guid_text.h"
-#include "com/inproc/registry.h"
 #include "com/module.h"
+#include "dll/registry.h"
 #include "objects/classes.h"
 
 #include <string>

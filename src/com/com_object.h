@@ -26,7 +26,17 @@ ObjectPtr from_dispatch(com_ptr<IDispatch> object);
 /// A COM object viewed through an interface of the model; Nothing when it lacks it.
 ObjectPtr view_of(IUnknown* object, const std::type_info& interface_type);
 
-/// Some model object as a COM object: the original when it stands for one. None for Nothing.
-com_ptr<IDispatch> to_dispatch(const ObjectPtr& object);
+/// Makes the COM object that a model object shows itself as, by an interface of the model or, with
+/// typeid(Object), by the first that it has.
+using MakeDouble = com_ptr<IDispatch> (*)(const ObjectPtr& object, const std::type_info& interface_type);
+
+/// For programs whose model objects are their own. The component's stand for the host's, all of them, so that
+/// it needs none.
+void set_make_double(MakeDouble make_double) noexcept;
+
+/// A model object as the COM object that it stands for, otherwise as its double; error 13 where doubles are
+/// not made. None for Nothing.
+com_ptr<IDispatch> to_dispatch(const ObjectPtr& object,
+                               const std::type_info& interface_type = typeid(Object));
 
 } // namespace brx

@@ -70,7 +70,9 @@ template <> struct Wire<ObjectPtr> {
 template <class Model> struct Wire<std::shared_ptr<Model>> {
     using Raw = InterfaceOf<Model>*;
     using Owner = com_ptr<InterfaceOf<Model>>;
-    static Owner own(const std::shared_ptr<Model>& value) { return to_com<Model>(value); }
+    static Owner own(const std::shared_ptr<Model>& value) {
+        return to_dispatch(value, typeid(Model)).template as<InterfaceOf<Model>>();
+    }
     static std::shared_ptr<Model> model(Raw raw) { return from_com<Model>(Owner(raw)); }
 };
 

@@ -195,14 +195,9 @@ private:
 
     // Server information
     void Timer1_Timer();
-    /// A server can have a thousand groups: while a name stays the same, its row is not even looked up.
-    struct ListedGroup {
-        HeldText name;
-        bool is_shown = false;
-    };
     void show_value(std::optional<Variant>& shown, const char* key, const char* caption,
                     const Variant& value);
-    void show_group(std::int32_t n, ListedGroup& group);
+    void show_group(std::int32_t n, const std::string& name);
     bool UpdateServerInfo(const std::string& key, const std::string& caption, const std::string& value);
 
     CommonTools tools_;
@@ -213,7 +208,7 @@ private:
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
     std::array<std::optional<Variant>, 12> server_values_; ///< as the status shows them
-    std::vector<ListedGroup> groups_;                      ///< of the server, as the status shows them
+    std::vector<std::optional<std::string>> groups_; ///< names of the server's, as the status shows them
     std::optional<dlgDescriptorType> type_dialog_;
     std::optional<dlgDescriptorProperties> properties_dialog_;
     std::int32_t first_value_ = 0;

@@ -28,9 +28,7 @@ void dlgConfiguration::Timer1_Timer() {
         const OPCGroupsPtr groups = server->OPCGroups();
         const std::int32_t count = the(groups).Count();
         for (std::int32_t n = 1; n <= count; ++n) {
-            if (groups_.size() < static_cast<std::size_t>(n)) groups_.emplace_back();
-            ListedGroup& group = groups_[static_cast<std::size_t>(n) - 1];
-            if (groups->read_name(n, group.name) || !group.is_shown) show_group(n, group);
+            show_group(n, the(groups->Item(n)).Name());
         }
     });
 }
@@ -44,11 +42,15 @@ void dlgConfiguration::show_value(std::optional<Variant>& shown, const char* key
     if (UpdateServerInfo(key, caption, text)) shown = value;
 }
 
-void dlgConfiguration::show_group(std::int32_t n, ListedGroup& group) {
+/// A server can have a thousand groups: while a name stays the same, its row is not even looked up.
+void dlgConfiguration::show_group(std::int32_t n, const std::string& name) {
+    if (groups_.size() < static_cast<std::size_t>(n)) groups_.emplace_back();
+    std::optional<std::string>& shown = groups_[static_cast<std::size_t>(n) - 1];
+    if (shown == name) return;
+    shown.reset();
     const std::string number = std::to_string(n);
     // The first one goes without a number.
-    group.is_shown =
-        UpdateServerInfo("Group" + number, "Group " + (n == 1 ? std::string() : number), group.name.text());
+    if (UpdateServerInfo("Group" + number, "Group " + (n == 1 ? std::string() : number), name)) shown = name;
 }
 
 /// An unchanged value is not written again, so that the list does not flicker. Whether the list shows it now.

@@ -1,10 +1,5 @@
 #include "forms/accelerator.h"
 
-#include "forms/button.h"
-#include "forms/check_box.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-
 #include <algorithm>
 #include <cctype>
 
@@ -25,22 +20,8 @@ char mnemonic_of(const std::string& caption) {
 }
 
 bool answers_to(const Control& control, char character) {
-    switch (control.kind()) {
-    case Kind::label: {
-        const auto& label = dynamic_cast<const Label&>(control);
-        return label.mnemonic() && mnemonic_of(label.caption()) == character;
-    }
-    case Kind::button:
-        return mnemonic_of(dynamic_cast<const Button&>(control).caption()) == character;
-    case Kind::check_box:
-        return mnemonic_of(dynamic_cast<const CheckBox&>(control).caption()) == character;
-    case Kind::frame:
-        return mnemonic_of(dynamic_cast<const Frame&>(control).caption()) == character;
-    case Kind::tab_strip:
-        return tab_with(dynamic_cast<const TabStrip&>(control), character) != 0;
-    default:
-        return false;
-    }
+    if (const auto* strip = dynamic_cast<const TabStrip*>(&control)) return tab_with(*strip, character) != 0;
+    return mnemonic_of(control.accelerator_text()) == character;
 }
 
 } // namespace

@@ -22,10 +22,11 @@ public:
     Button(Container& container, const char* name, const ButtonDesign& design)
         : Control(container, name, look_of(design)), design_(design) {}
 
-    Kind kind() const override { return Kind::button; }
+    const char* kind() const override { return "button"; }
     bool focusable() const override { return true; }
 
     const std::string& caption() const { return design_.caption; }
+    std::string accelerator_text() const override { return caption(); }
     const std::string& tip() const { return design_.tip; }
     bool is_default() const { return design_.is_default; }
     bool is_cancel() const { return design_.is_cancel; }
@@ -33,6 +34,11 @@ public:
     /// A person pressed the button: by mouse, blank, Enter, Escape or accelerator.
     bool user_click() {
         return by_person([&] { fire(design_.Click); });
+    }
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::text)) into.text = caption();
     }
 
 private:

@@ -21,9 +21,10 @@ public:
     CheckBox(Container& container, const char* name, const CheckBoxDesign& design)
         : Control(container, name, look_of(design)), design_(design), value_(design.value) {}
 
-    Kind kind() const override { return Kind::check_box; }
+    const char* kind() const override { return "check_box"; }
     bool focusable() const override { return true; }
     const std::string& caption() const { return design_.caption; }
+    std::string accelerator_text() const override { return caption(); }
 
     int value() const { return value_; }
     void set_value(int value) {
@@ -40,6 +41,12 @@ public:
     void reset() override {
         Control::reset();
         value_ = design_.value;
+    }
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::text)) into.text = caption();
+        if (has(aspects, Aspect::value)) into.selected = value_;
     }
 
 private:

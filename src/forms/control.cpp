@@ -10,6 +10,25 @@ Control::Control(Container& container, const char* name, const Look& look)
     container.owner_form().controls_.push_back(this);
 }
 
+void Control::read(Aspect aspects, Reading& into, int most_lines) const {
+    if (has(aspects, Aspect::enabled)) into.enabled = takes_input();
+    if (has(aspects, Aspect::visible)) into.visible = shows();
+    if (has(aspects, Aspect::place)) into.place = place();
+    if (has(aspects, Aspect::colors)) {
+        into.back_color = back_color();
+        into.fore_color = fore_color();
+    }
+    read_content(aspects, into, most_lines);
+}
+
+Reading Control::read(int most_lines) const {
+    Reading all;
+    read(Aspect::everything, all, most_lines);
+    return all;
+}
+
+void Control::read_content(Aspect, Reading&, int) const {}
+
 void Control::set_place(const Place& place) {
     if (look_.place == place) return;
     look_.place = place;

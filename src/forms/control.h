@@ -2,6 +2,7 @@
 
 #include "forms/element.h"
 #include "forms/geometry.h"
+#include "forms/reading.h"
 
 #include <functional>
 #include <string>
@@ -9,23 +10,6 @@
 namespace brx {
 
 using Handler = std::function<void()>;
-
-/// The kinds of control, for engines to choose a peer by.
-enum class Kind {
-    label,
-    text_box,
-    button,
-    check_box,
-    list_box,
-    combo_box,
-    tree_view,
-    list_view,
-    tab_strip,
-    date_picker,
-    frame,
-    panel,
-    timer
-};
 
 /// What has controls in it: the form, a frame, a panel.
 class Container {
@@ -68,7 +52,8 @@ template <class Design> Look window_look_of(const Design& design) {
 /// person did, and refuse what a person could not do.
 class Control : public Element {
 public:
-    virtual Kind kind() const = 0;
+    /// The name of its class, in words: "text_box".
+    virtual const char* kind() const = 0;
     Form& form() override { return container_.owner_form(); }
     using Element::form;
     const std::string& name() const { return name_; }
@@ -98,6 +83,16 @@ public:
     /// Whether the focus can be on it now.
     bool can_focus() const { return focusable() && takes_input() && shows(); }
 
+    /// Reads these aspects again, of at most so many lines.
+    void read(Aspect aspects, Reading& into, int most_lines = Reading::all_lines) const;
+    /// The same of everything.
+    Reading read(int most_lines = Reading::all_lines) const;
+    /// An engine that reads everything again wants no journal of what changed.
+    virtual void forget_changes() {}
+
+    /// The text whose "&" marks the letter that leads here; "" where there is none.
+    virtual std::string accelerator_text() const { return {}; }
+
     /// Moves the focus here. Error 5 when it cannot be here.
     void set_focus();
     /// The same as the keyboard does it: the text of a box is selected as a whole.
@@ -124,6 +119,9 @@ protected:
 
     /// The focus came as from the keyboard.
     virtual void select_content() {}
+
+    /// What it shows besides what every control has.
+    virtual void read_content(Aspect aspects, Reading& into, int most_lines) const;
 
     static void fire(const Handler& handler) {
         if (handler) handler();

@@ -26,7 +26,7 @@ public:
     DatePicker(Container& container, const char* name, const DatePickerDesign& design)
         : Control(container, name, window_look_of(design)), design_(design) {}
 
-    Kind kind() const override { return Kind::date_picker; }
+    const char* kind() const override { return "date_picker"; }
     bool focusable() const override { return true; }
     DatePart part() const { return design_.part; }
 
@@ -41,6 +41,11 @@ public:
     bool user_set(Date value);
 
     void reset() override;
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::value)) into.text = text();
+    }
 
 private:
     DatePickerDesign design_;

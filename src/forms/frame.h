@@ -31,8 +31,14 @@ public:
     Frame(Container& container, const char* name, const FrameDesign& design)
         : ContainerControl(container, name, look_of(design)), caption_(design.caption) {}
 
-    Kind kind() const override { return Kind::frame; }
+    const char* kind() const override { return "frame"; }
     const std::string& caption() const { return caption_; }
+    std::string accelerator_text() const override { return caption_; }
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::text)) into.text = caption_;
+    }
 
 private:
     std::string caption_;
@@ -53,7 +59,7 @@ public:
     Panel(Container& container, const char* name, const PanelDesign& design)
         : ContainerControl(container, name, look_of(design)), edge_(design.edge) {}
 
-    Kind kind() const override { return Kind::panel; }
+    const char* kind() const override { return "panel"; }
     bool edge() const { return edge_; }
 
     /// Whether it covers the controls that it overlaps, those in it too, or lies behind them.
@@ -64,6 +70,11 @@ public:
     void reset() override {
         Control::reset();
         in_front_ = false;
+    }
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::order)) into.selected = in_front_ ? 1 : 0;
     }
 
 private:

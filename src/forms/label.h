@@ -23,8 +23,9 @@ public:
           design_(design),
           caption_(design.caption) {}
 
-    Kind kind() const override { return Kind::label; }
+    const char* kind() const override { return "label"; }
     bool mnemonic() const { return design_.mnemonic; }
+    std::string accelerator_text() const override { return mnemonic() ? caption_ : std::string(); }
 
     const std::string& caption() const { return caption_; }
     void set_caption(const std::string& caption) {
@@ -36,6 +37,11 @@ public:
     void reset() override {
         Control::reset();
         caption_ = design_.caption;
+    }
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::text)) into.text = caption_;
     }
 
 private:

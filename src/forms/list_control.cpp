@@ -50,4 +50,16 @@ void ListControl::select_text(std::string_view text) {
         if (line(index) == text) return select(index);
 }
 
+void ListControl::read_content(Aspect aspects, Reading& into, int most_lines) const {
+    if (has(aspects, Aspect::lines)) {
+        into.count = count();
+        into.lines.clear();
+        for (int index = 0; index < std::min(count(), most_lines); ++index) into.lines.push_back(text(index));
+    }
+    if (has(aspects, Aspect::lines | Aspect::selection)) {
+        into.selected = selected_;
+        into.text = text();
+    }
+}
+
 } // namespace brx

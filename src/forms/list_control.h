@@ -67,6 +67,7 @@ protected:
     ListControl(Container& container, const char* name, const ListDesign& design)
         : Control(container, name, window_look_of(design)), design_(design) {}
     void fire_click() const { fire(design_.Click); }
+    void read_content(Aspect aspects, Reading& into, int most_lines) const override;
 
 private:
     int checked(int index) const;
@@ -81,7 +82,7 @@ class ListBox : public ListControl {
 public:
     ListBox(Container& container, const char* name, const ListDesign& design)
         : ListControl(container, name, design) {}
-    Kind kind() const override { return Kind::list_box; }
+    const char* kind() const override { return "list_box"; }
     /// On the selected line it is a click all the same.
     bool user_press(int index) override {
         if (index < 0 || index != selected()) return user_select(index);
@@ -94,7 +95,7 @@ class ComboBox : public ListControl {
 public:
     ComboBox(Container& container, const char* name, const ListDesign& design)
         : ListControl(container, name, design) {}
-    Kind kind() const override { return Kind::combo_box; }
+    const char* kind() const override { return "combo_box"; }
 };
 
 } // namespace brx

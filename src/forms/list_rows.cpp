@@ -6,26 +6,6 @@
 
 namespace brx {
 
-std::vector<std::string> rows_of(const ListView& list) {
-    std::vector<std::string> rows;
-    rows.reserve(static_cast<std::size_t>(list.count()));
-    const auto columns = static_cast<int>(list.columns().size());
-    for (int position = 1; position <= list.count(); ++position) {
-        const ListRow& row = list.row(position);
-        std::string text;
-        for (int column = 0; column == 0 || column < columns; ++column) {
-            const CellLook look = row.look(column);
-            if (column > 0) text += " | ";
-            if (look.bold) text += '*';
-            if (look.fore_color == color::red) text += "red:";
-            text += row.text(column);
-            if (look.bold) text += '*';
-        }
-        rows.push_back(std::move(text));
-    }
-    return rows;
-}
-
 int row_beginning_with(const ListView& list, const std::string& text, int start) {
     const std::string wanted = to_upper(text);
     const int first = start < 1 || start > list.count() ? 1 : start;

@@ -3,13 +3,8 @@
 #include "forms/list_view.h"
 
 #include <string>
-#include <vector>
 
 namespace brx {
-
-/// A list view as a person reads it: a row each, the cells parted by " | ". A bold cell stands between
-/// asterisks; a red text begins with "red:".
-std::vector<std::string> rows_of(const ListView& list);
 
 /// The first row whose own text begins so, whatever the case, from `start` on and round the end; 0 for none.
 int row_beginning_with(const ListView& list, const std::string& text, int start);

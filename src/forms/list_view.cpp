@@ -151,4 +151,23 @@ void ListView::reset() {
     fresh_columns_ = fresh_rows_ = false;
 }
 
+void ListView::read_content(Aspect aspects, Reading& into, int most_lines) const {
+    if (has(aspects, Aspect::lines)) {
+        into.columns.clear();
+        for (const Column& column : columns_) into.columns.push_back(column.caption);
+        into.count = count();
+        into.rows.clear();
+        const int width = std::max(1, static_cast<int>(columns_.size()));
+        for (int position = 1; position <= std::min(count(), most_lines); ++position) {
+            Reading::Row& line = into.rows.emplace_back();
+            for (int at = 0; at < width; ++at)
+                line.push_back({row(position).text(at), row(position).look(at)});
+        }
+    }
+    if (has(aspects, Aspect::lines | Aspect::selection)) {
+        into.selected = selected_ - 1;
+        into.text = selected_ == 0 ? std::string() : row(selected_).text();
+    }
+}
+
 } // namespace brx

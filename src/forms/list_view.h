@@ -14,13 +14,6 @@ namespace brx {
 
 class ListView;
 
-/// How the text of one cell is written.
-struct CellLook {
-    bool bold = false;
-    Color fore_color = color::window_text;
-    bool operator==(const CellLook&) const = default;
-};
-
 /// One row of a list view, which owns it. It lives until it is removed. Column 0 is the row's own text, the
 /// columns from 1 on are its sub-items.
 class ListRow {
@@ -81,7 +74,7 @@ public:
 
     ListView(Container& container, const char* name, const ListViewDesign& design);
 
-    Kind kind() const override { return Kind::list_view; }
+    const char* kind() const override { return "list_view"; }
     bool focusable() const override { return true; }
 
     void add_column(const std::string& caption, int width);
@@ -126,7 +119,11 @@ public:
     };
     Changes take_changes();
 
+    void forget_changes() override { take_changes(); }
     void reset() override;
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int most_lines) const override;
 
 private:
     friend class ListRow;

@@ -2,6 +2,8 @@
 
 #include "common/error.h"
 
+#include <algorithm>
+
 namespace brx {
 
 const std::string& TabStrip::caption(int tab) const {
@@ -41,6 +43,18 @@ TabStrip* tab_strip_of(const Form& form) {
     for (Control* control : form.controls())
         if (auto* strip = dynamic_cast<TabStrip*>(control); strip && strip->can_focus()) return strip;
     return nullptr;
+}
+
+void TabStrip::read_content(Aspect aspects, Reading& into, int most_lines) const {
+    if (has(aspects, Aspect::lines)) {
+        into.count = count();
+        into.lines.clear();
+        for (int tab = 1; tab <= std::min(count(), most_lines); ++tab) into.lines.push_back(caption(tab));
+    }
+    if (has(aspects, Aspect::selection)) {
+        into.selected = selected_ - 1;
+        into.text = caption(selected_);
+    }
 }
 
 } // namespace brx

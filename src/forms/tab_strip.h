@@ -24,7 +24,7 @@ public:
     TabStrip(Container& container, const char* name, const TabStripDesign& design)
         : Control(container, name, look_of(design)), design_(design) {}
 
-    Kind kind() const override { return Kind::tab_strip; }
+    const char* kind() const override { return "tab_strip"; }
     bool focusable() const override { return true; }
 
     int count() const { return static_cast<int>(design_.captions.size()); }
@@ -42,6 +42,9 @@ public:
     bool user_turn(bool backwards);
 
     void reset() override;
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int most_lines) const override;
 
 private:
     TabStripDesign design_;

@@ -42,7 +42,7 @@ public:
           design_(design),
           text_(design.text) {}
 
-    Kind kind() const override { return Kind::text_box; }
+    const char* kind() const override { return "text_box"; }
     bool focusable() const override { return true; }
     bool display_only() const { return design_.display_only; }
     bool takes_enter() const { return design_.takes_enter; }
@@ -112,6 +112,9 @@ public:
 
 protected:
     void select_content() override { select_all(); }
+    void read_content(Aspect aspects, Reading& into, int) const override {
+        if (has(aspects, Aspect::text)) into.text = text_;
+    }
 
 private:
     TextBoxDesign design_;

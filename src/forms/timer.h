@@ -17,7 +17,7 @@ public:
         : Control(container, name, {.place = {}, .enabled = design.enabled, .visible = false}),
           design_(design) {}
 
-    Kind kind() const override { return Kind::timer; }
+    const char* kind() const override { return "timer"; }
     int interval() const { return design_.interval; }
 
     /// The interval has passed. False, and nothing happens, while other code of the thread runs.

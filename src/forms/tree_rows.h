@@ -2,16 +2,9 @@
 
 #include "forms/tree_view.h"
 
-#include <string>
-#include <vector>
-
 namespace brx {
 
 // A tree as a person reads it: the nodes in view, a row each, from the top down.
-
-/// Two blanks for each level, "+" before a closed node, "-" before an open one, a blank before one without
-/// children, and the text.
-std::vector<std::string> rows_of(const TreeView& tree);
 
 /// The node's row, counted from 0; -1 when it is not in view, or none.
 int row_of(const TreeView& tree, const TreeNode* node);

@@ -4,6 +4,15 @@
 
 namespace brx {
 
+namespace {
+
+std::string line_of(const TreeNode& node) {
+    const char sign = node.expanded() ? '-' : node.child() ? '+' : ' ';
+    return std::string(static_cast<std::size_t>(TreeView::depth(node)) * 2, ' ') + sign + node.text();
+}
+
+} // namespace
+
 TreeView::TreeView(Container& container, const char* name, const TreeViewDesign& design)
     : Control(container, name, window_look_of(design)), design_(design) {}
 
@@ -175,6 +184,20 @@ void TreeView::reset() {
     tree_look_ = {};
     drop_all();
     changes_.clear();
+}
+
+void TreeView::read_content(Aspect aspects, Reading& into, int most_lines) const {
+    if (!has(aspects, Aspect::lines | Aspect::selection)) return;
+    const bool lines_too = has(aspects, Aspect::lines);
+    if (lines_too) into.lines.clear();
+    into.text = selected_ ? selected_->text() : std::string();
+    into.selected = -1;
+    int row = 0;
+    for (const TreeNode* each = first_; each; each = next_in_view(*each), ++row) {
+        if (each == selected_) into.selected = row;
+        if (lines_too && row < most_lines) into.lines.push_back(line_of(*each));
+    }
+    into.count = row;
 }
 
 } // namespace brx

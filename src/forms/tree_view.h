@@ -82,7 +82,7 @@ class TreeView : public Control {
 public:
     TreeView(Container& container, const char* name, const TreeViewDesign& design);
 
-    Kind kind() const override { return Kind::tree_view; }
+    const char* kind() const override { return "tree_view"; }
     bool focusable() const override { return true; }
 
     /// Adds a node behind the others of its level. Error 35602 when the tree has the key.
@@ -139,7 +139,11 @@ public:
     /// The same node while it is there; null afterwards.
     TreeNode* find(int index) const;
 
+    void forget_changes() override { take_changes(); }
     void reset() override;
+
+protected:
+    void read_content(Aspect aspects, Reading& into, int most_lines) const override;
 
 private:
     struct TreeLook {

@@ -1,6 +1,6 @@
 #include "sample/windows/objects_stage.h"
 
-#include "com/com_object.h"
+#include "adapters/to_com.h"
 #include "common/model/database.h"
 
 #include <gmock/gmock.h>
@@ -44,7 +44,7 @@ TEST_F(SampleConfigurations, WhatIsWrittenIsThereAfterARestart) {
     put(configuration().get(), "PieceTriggerValue", std::int16_t{7});
     put(configuration().get(), "DeadBand", 2.5F);
     const auto added = call(get_object(configuration().get(), "Tests").get(), "Add");
-    const auto object = to_dispatch(std::get<ObjectPtr>(added));
+    const auto object = dispatch_of(std::get<ObjectPtr>(added));
     put(object.get(), "OPCItemID", std::string("Capper.Torque"));
     put(object.get(), "TriggerValue", true);
     put(object.get(), "Constant", 1.25);

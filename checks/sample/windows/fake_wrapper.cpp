@@ -1,6 +1,6 @@
 #include "sample/windows/fake_wrapper.h"
 
-#include "com/adapters/opc_unused.h"
+#include "adapters/opc_unused.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 

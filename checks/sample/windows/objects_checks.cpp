@@ -1,6 +1,6 @@
 #include "sample/windows/objects_stage.h"
 
-#include "com/com_object.h"
+#include "adapters/to_com.h"
 
 #include <gmock/gmock.h>
 
@@ -22,7 +22,7 @@ protected:
     com_ptr<IDispatch> added(const std::string& name, const std::string& node) {
         const Variant result = call(servers().get(), "Add", {name, node, true});
         const auto* const object = std::get_if<ObjectPtr>(&result);
-        return object ? to_dispatch(*object) : nullptr;
+        return object ? dispatch_of(*object) : nullptr;
     }
 };
 
@@ -80,7 +80,7 @@ TEST_F(SampleObjects, AGroupIsAddedToAServerAndRemovedAgain) {
     const auto groups = get_object(server.get(), "OPCGroups");
     EXPECT_EQ(get(groups.get(), "Count"), Variant(std::int32_t{1})); // that of the configuration
     const Variant added = call(groups.get(), "Add", {std::string("Weights")});
-    const auto group = to_dispatch(std::get<ObjectPtr>(added));
+    const auto group = dispatch_of(std::get<ObjectPtr>(added));
     EXPECT_EQ(get(group.get(), "Name"), Variant(std::string("Weights")));
     EXPECT_EQ(get(groups.get(), "Count"), Variant(std::int32_t{2}));
     call(groups.get(), "Remove", {std::string("Weights")});
@@ -148,7 +148,7 @@ TEST_F(SampleObjects, NothingIsLeftWhenAllReferencesAreGone) {
     {
         const auto server = get_object(host.get(), "Server", {std::string("Simulation.Packing.1")});
         const auto browser = call(server.get(), "CreateBrowser");
-        call(to_dispatch(std::get<ObjectPtr>(browser)).get(), "ShowBranches");
+        call(dispatch_of(std::get<ObjectPtr>(browser)).get(), "ShowBranches");
     }
     EXPECT_EQ(can_unload(), S_FALSE);
     host = nullptr;

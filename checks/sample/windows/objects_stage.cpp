@@ -1,6 +1,6 @@
 #include "sample/windows/objects_stage.h"
 
-#include "com/com_object.h"
+#include "adapters/to_com.h"
 #include "com/module.h"
 #include "common/values/text.h"
 
@@ -81,7 +81,7 @@ com_ptr<IDispatch> get_object(IDispatch* object, const std::string& property,
                               const std::vector<Variant>& arguments) {
     const Variant value = get(object, property, arguments);
     const auto* const found = std::get_if<ObjectPtr>(&value);
-    return found ? to_dispatch(*found) : nullptr;
+    return found ? dispatch_of(*found) : nullptr;
 }
 
 Error error_of_getting(IDispatch* object, const std::string& property,

@@ -20,15 +20,11 @@ Sight HeadlessScreen::look(const std::string& control) {
         const HeadlessWindow* window = engine_.windows().empty() ? nullptr : engine_.windows().back();
         const HeadlessPeer* peer = window ? window->find(control) : nullptr;
         if (!peer) return {};
-        const Shown& shown = peer->shown();
-        const bool ticked = peer->control().kind() == Kind::check_box;
-        return {.exists = true,
-                .text = shown.text,
-                .lines = shown.lines,
-                .selected = ticked ? shown.value : shown.selected,
-                .enabled = shown.enabled,
-                .visible = shown.visible,
-                .focused = window->focused() == &peer->control()};
+        Sight sight{peer->shown()};
+        if (!sight.rows.empty()) sight.lines = marked_rows(sight.rows);
+        sight.exists = true;
+        sight.focused = window->focused() == &peer->control();
+        return sight;
     });
 }
 

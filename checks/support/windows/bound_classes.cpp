@@ -67,7 +67,7 @@ bool LateBound::Show(const std::vector<ObjectPtr>& objects) {
     std::vector<com_ptr<IDispatch>> held;
     std::vector<VARIANT> variables;
     for (auto each = objects.rbegin(); each != objects.rend(); ++each) {
-        held.push_back(to_dispatch(*each));
+        held.push_back(dispatch_of(*each));
         variables.emplace_back();
         V_VT(&variables.back()) = VT_DISPATCH;
         V_DISPATCH(&variables.back()) = held.back().get();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "adapters/to_com.h"
 #include "com/bstr.h"
-#include "com/com_object.h"
 #include "com/com_ptr.h"
 #include "com/failure.h"
 #include "stage.h"
@@ -36,10 +36,10 @@ public:
         if constexpr (requires { object_->put_ItemID(value.get()); }) check(object_->put_ItemID(value.get()));
     }
     bool Show(const std::vector<ObjectPtr>& objects) override {
-        const com_ptr<IDispatch> argument = to_dispatch(objects.at(0));
+        const com_ptr<IDispatch> argument = dispatch_of(objects.at(0));
         VARIANT_BOOL result = VARIANT_FALSE;
         if constexpr (requires { object_->Show(argument.get(), argument.get(), &result); }) {
-            check(object_->Show(argument.get(), to_dispatch(objects.at(1)).get(), &result));
+            check(object_->Show(argument.get(), dispatch_of(objects.at(1)).get(), &result));
         } else if constexpr (requires(IDispatch * *reference) { object_->Show(reference, &result); }) {
             IDispatch* reference = argument.get();
             check(object_->Show(&reference, &result));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/reading.h"
+
 #include <windows.h>
 
 #include <string>
@@ -11,17 +13,14 @@ namespace brx::checks {
 struct Described {
     std::string name;
     std::string kind;
-    bool enabled = false;
-    bool visible = false;
-    int number = -1; ///< the selected line, row or tab, the value of a check box, whether a panel is in front
-    int lines = 0;
-    std::string text;
-    std::vector<std::string> rows;    ///< of a tree, a list view, a tab strip
-    std::vector<std::string> columns; ///< of a list view
+    Reading held;
 };
 
-/// The form first, then its controls. On the form's thread.
-std::vector<Described> described(HWND form);
+/// The whole answer; "" when there is none.
+std::wstring answer_of(HWND form, int most_lines);
+
+/// The form first, then its controls.
+std::vector<Described> described(HWND form, int most_lines);
 
 /// Where the windows show something else than the form and its controls hold, a line each. On the form's
 /// thread.

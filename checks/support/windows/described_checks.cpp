@@ -9,7 +9,8 @@ TEST_F(WindowsScreenTest, ADescriptionIsReadWithItsEscapesUndone) {
     ui.call([&] {
         dialog.description = L"dlgPlain\tform\t1\t1\t-1\t0\ttab\\t return\\r line\\n slash\\\\0 NUL\\0 end\n";
         using namespace std::string_literals;
-        EXPECT_EQ(described(window("dlgPlain")).front().text, "tab\t return\r line\n slash\\0 NUL\0 end"s);
+        EXPECT_EQ(described(window("dlgPlain"), 0).front().held.text,
+                  "tab\t return\r line\n slash\\0 NUL\0 end"s);
     });
 }
 
@@ -32,9 +33,12 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
                           L"lvwBox\tlist_view\t1\t1\t-1\t30\t\n"
                           L"lvwBox\tcolumn\t1\t1\t-1\t0\tName\n"
                           L"lvwBox\tcolumn\t1\t1\t-1\t0\tValue\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | Value 0\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 1 | Value 1\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\t*Row 2* | red:Value 2\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0\n"
+                          L"lvwBox\tcell\t1\t1\t-1\t0\tValue 0\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 1\n"
+                          L"lvwBox\tcell\t1\t1\t-1\t0\tValue 1\n"
+                          L"lvwBox\trow\t1\t1\t-1\t1\tRow 2\n"
+                          L"lvwBox\tcell\t1\t1\t255\t0\tValue 2\n"
                           L"tabBox\ttab_strip\t1\t1\t0\t3\t&One\n"
                           L"tabBox\trow\t1\t1\t-1\t0\t&One\n"
                           L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-21\n"
@@ -50,7 +54,8 @@ TEST_F(WindowsScreenTest, DifferencesBetweenWindowsAndControlsAreTold) {
                           L"treBox\trow\t1\t1\t-1\t0\t-Node 1\n"
                           L"lvwBox\tlist_view\t1\t1\t1\t31\tRow 1\n"
                           L"lvwBox\tcolumn\t1\t1\t-1\t0\tItem\n"
-                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0 | red:Value 0\n"
+                          L"lvwBox\trow\t1\t1\t-1\t0\tRow 0\n"
+                          L"lvwBox\tcell\t1\t1\t255\t0\tValue 0\n"
                           L"tabBox\ttab_strip\t1\t1\t1\t3\t&Two\n"
                           L"tabBox\trow\t1\t1\t-1\t0\tOne\n"
                           L"dtpDay\tdate_picker\t1\t1\t-1\t0\t2026-11-22\n"

@@ -1,7 +1,7 @@
 #include "windows/host_classes.h"
 
+#include "adapters/to_com.h"
 #include "com/bstr.h"
-#include "com/com_object.h"
 #include "com/failure.h"
 #include "com/guid_text.h"
 #include "win32/this_module.h"
@@ -72,7 +72,7 @@ void HostClasses::offer_if(bool has_it, const CLSID& clsid, const com_ptr<IClass
 
 /// Of the class of the host's that has this name.
 com_ptr<IClassFactory> HostClasses::factory_of(const char* name) {
-    return make_factory([this, name] { return to_dispatch(host_.create(name)); });
+    return make_factory([this, name] { return dispatch_of(host_.create(name)); });
 }
 
 void HostClasses::offer(const CLSID& clsid, const com_ptr<IClassFactory>& factory) {
@@ -89,7 +89,7 @@ void HostClasses::withdraw(const CLSID& clsid) {
 
 bool is_the_hosts_database(const hlxDatabasePtr& database) {
     // The component hands on the object that it was given, and none of its own around it.
-    const com_ptr<IDispatch> object = to_dispatch(database);
+    const com_ptr<IDispatch> object = dispatch_of(database);
     if (!object) return false;
     HMODULE maker = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,

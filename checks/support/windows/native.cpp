@@ -164,14 +164,14 @@ int count_lines(HWND control) {
     return messages ? static_cast<int>(std::max<LRESULT>(0, ask(control, messages->count))) : 0;
 }
 
-std::vector<std::string> lines_of(HWND control) {
+std::vector<std::string> lines_of(HWND control, int most) {
     const NativeKind kind = kind_of(control);
-    if (kind == NativeKind::tree) return tree_rows(control);
-    if (kind == NativeKind::table) return table_rows(control, row_count(control));
+    if (kind == NativeKind::tree) return tree_rows(control, static_cast<std::size_t>(most));
+    if (kind == NativeKind::table) return table_rows(control, most);
     if (kind == NativeKind::tabs) return tab_captions(control);
     std::vector<std::string> lines;
     const ListMessages* messages = list_messages_of(control);
-    for (int line = 0; line < count_lines(control); ++line)
+    for (int line = 0; line < std::min(count_lines(control), most); ++line)
         lines.push_back(line_of(control, *messages, static_cast<WPARAM>(line)));
     return lines;
 }

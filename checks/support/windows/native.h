@@ -71,7 +71,7 @@ bool takes_input(HWND window);
 /// The lines of a list, the rows of a tree or a table (see `tree_rows`, `table_rows`), the captions of tabs;
 /// none for other kinds of control.
 int count_lines(HWND control);
-std::vector<std::string> lines_of(HWND control);
+std::vector<std::string> lines_of(HWND control, int most = Reading::all_lines);
 
 /// What is to be seen of a control, but for its lines. `focused` is the window with the keyboard focus.
 Sight sight_of(HWND control, HWND focused);

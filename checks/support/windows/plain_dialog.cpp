@@ -47,11 +47,15 @@ void PlainDialog::run() {
 
 std::vector<std::string> PlainDialog::take_events() { return std::exchange(events_, {}); }
 
-INT_PTR PlainDialog::describe(WPARAM capacity, LPARAM buffer) const {
-    const std::wstring::size_type size = description.size() + 1;
-    if (buffer && capacity >= size)
-        std::copy_n(description.c_str(), size, reinterpret_cast<wchar_t*>(buffer));
-    SetWindowLongPtrW(handle_, DWLP_MSGRESULT, static_cast<LONG_PTR>(size));
+INT_PTR PlainDialog::describe(HWND asking) const {
+    std::wstring text = description;
+    COPYDATASTRUCT answer{};
+    answer.dwData = describe_message();
+    answer.cbData = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    answer.lpData = text.data();
+    const LRESULT taken = SendMessageW(asking, WM_COPYDATA, reinterpret_cast<WPARAM>(handle_),
+                                       reinterpret_cast<LPARAM>(&answer));
+    SetWindowLongPtrW(handle_, DWLP_MSGRESULT, taken);
     return TRUE;
 }
 
@@ -87,7 +91,7 @@ INT_PTR CALLBACK PlainDialog::procedure(HWND handle, UINT message, WPARAM wparam
         remove_name(handle, 0);
         return FALSE;
     default:
-        if (self && message == describe_message()) return self->describe(wparam, lparam);
+        if (self && message == describe_message()) return self->describe(reinterpret_cast<HWND>(wparam));
         if (message < first_step || message > last_step) return FALSE;
         if (message == last_step)
             self->note("end of chain");

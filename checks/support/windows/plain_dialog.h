@@ -39,7 +39,7 @@ private:
     static INT_PTR CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
     static LRESULT CALLBACK box_procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                                           DWORD_PTR self) noexcept;
-    INT_PTR describe(WPARAM capacity, LPARAM buffer) const;
+    INT_PTR describe(HWND asking) const;
     void make_controls();
     HWND add(const wchar_t* window_class, const wchar_t* text, DWORD style, RECT place, WORD id,
              const wchar_t* name);

@@ -48,15 +48,6 @@ public:
     OPCGroupPtr Item(const Variant& item_specifier) override {
         return get<OPCGroupPtr>(&Interface::Item, item_specifier);
     }
-    bool read_name(std::int32_t position, HeldText& name) override {
-        com_ptr<::IOPCGroup> group;
-        require(original()->Item(position_argument(position), group.out()));
-        if (!group) throw Error(error::object_not_set);
-        Bstr text;
-        if (const HRESULT result = group->get_Name(text.out()); FAILED(result))
-            check(result, group.get(), __uuidof(::IOPCGroup));
-        return name.hold(text.bytes(), [&](std::string& converted) { text.read(converted); });
-    }
     OPCGroupPtr Add(const std::optional<std::string>& name) override {
         return get<OPCGroupPtr>(&Interface::Add, name ? Variant(*name) : Variant(Missing{}));
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "common/model/object.h"
-#include "common/values/held_text.h"
 
 #include <cstdint>
 #include <optional>
@@ -63,9 +62,6 @@ public:
     virtual std::int32_t Count() = 0;
     /// By position (32-bit integer) or by name (text, exact case).
     virtual OPCGroupPtr Item(const Variant& item_specifier) = 0;
-    /// Reads the name of the group at a position: for a look at every group each second. False when it is the
-    /// one that was held.
-    virtual bool read_name(std::int32_t position, HeldText& name);
     /// A new group; the server makes up a name when it is omitted.
     virtual OPCGroupPtr Add(const std::optional<std::string>& name) = 0;
     virtual void RemoveAll() = 0;
@@ -81,11 +77,6 @@ public:
     virtual std::string Name() = 0;
     virtual OPCItemsPtr OPCItems() = 0;
 };
-
-inline bool OPCGroups::read_name(std::int32_t position, HeldText& name) {
-    const std::string read = the(Item(position)).Name();
-    return name.hold(read, [&](std::string& text) { text = read; });
-}
 
 /// What adding items gave, one element for each item in the order given.
 struct AddedItems {

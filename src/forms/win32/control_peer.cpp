@@ -71,9 +71,9 @@ void ControlPeer::move_to(const RECT& place) {
 }
 
 HBRUSH ControlPeer::set_colors(HDC dc) const {
-    // The system knows best how a disabled control looks, but leaves the background of a list to us.
+    // The system knows best how most disabled controls look.
     const bool enabled = IsWindowEnabled(handle_) != FALSE;
-    if (!enabled && control_.kind() != Kind::list_box) return nullptr;
+    if (!enabled && !colored_when_disabled()) return nullptr;
     Palette& palette = window_.palette();
     SetTextColor(dc, enabled ? Palette::rgb(control_.fore_color()) : GetSysColor(COLOR_GRAYTEXT));
     SetBkColor(dc, Palette::rgb(control_.back_color()));

@@ -53,6 +53,8 @@ protected:
     virtual void show(Aspect aspects);
     virtual LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam);
     virtual void move_to(const RECT& place);
+    /// Whether the background of a disabled one is left to us.
+    virtual bool colored_when_disabled() const { return false; }
 
     FormWindow& window() const { return window_; }
     void show_text(const std::string& text);

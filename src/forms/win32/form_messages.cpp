@@ -101,7 +101,7 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
         form_.unload();
         return FALSE;
     default:
-        if (message == describe_message()) return answer(describe(form_, wparam, lparam));
+        if (message == describe_message()) return answer(describe(form_, handle_, wparam, lparam));
         return FALSE;
     }
 }

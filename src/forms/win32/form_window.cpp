@@ -229,13 +229,13 @@ void FormWindow::focus_came_to(const ControlPeer& peer) noexcept {
 /// The button that Enter presses stands out: the one with the focus, or else the form's default button.
 void FormWindow::mark_default_button(HWND focused) const {
     const ControlPeer* at_focus = peer_of(focused);
-    const bool button_has_focus = at_focus && at_focus->control().kind() == Kind::button;
+    const bool button_has_focus = at_focus && dynamic_cast<const Button*>(&at_focus->control());
     for (const Control* control : form_.controls()) {
-        if (control->kind() != Kind::button || !control->peer()) continue;
-        const HWND button = static_cast<ControlPeer*>(control->peer())->handle();
+        const auto* const each = dynamic_cast<const Button*>(control);
+        if (!each || !each->peer()) continue;
+        const HWND button = static_cast<ControlPeer*>(each->peer())->handle();
         const bool marked = (SendMessageW(button, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
-        const bool wanted =
-            button_has_focus ? button == focused : static_cast<const Button*>(control)->is_default();
+        const bool wanted = button_has_focus ? button == focused : each->is_default();
         if (marked != wanted)
             SendMessageW(button, BM_SETSTYLE, wanted ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
     }

@@ -43,6 +43,7 @@ public:
 protected:
     void show_extent(int width) override;
     LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+    bool colored_when_disabled() const override { return true; }
 
 private:
     int line_at(int y) const;

@@ -11,43 +11,34 @@ namespace brx {
 
 namespace {
 
-template <class PeerType, class ControlType>
-std::unique_ptr<Peer> make(FormWindow& window, Control& control) {
-    return std::make_unique<PeerType>(window, dynamic_cast<ControlType&>(control));
+template <class ControlClass, class PeerClass> struct ShownBy {
+    using Control = ControlClass;
+    using Peer = PeerClass;
+};
+
+template <class... Pairs> std::unique_ptr<Peer> make_first(FormWindow& window, Control& control) {
+    std::unique_ptr<Peer> made;
+    const auto fits = [&]<class Pair>(const Pair*) {
+        if (auto* found = dynamic_cast<typename Pair::Control*>(&control))
+            made = std::make_unique<typename Pair::Peer>(window, *found);
+        return made != nullptr;
+    };
+    static_cast<void>((fits(static_cast<const Pairs*>(nullptr)) || ...));
+    return made;
 }
 
 } // namespace
 
 std::unique_ptr<Peer> make_peer(FormWindow& window, Control& control) {
-    switch (control.kind()) {
-    case Kind::label:
-        return make<LabelPeer, Label>(window, control);
-    case Kind::text_box:
-        return make<TextBoxPeer, TextBox>(window, control);
-    case Kind::button:
-        return make<ButtonPeer, Button>(window, control);
-    case Kind::check_box:
-        return make<CheckBoxPeer, CheckBox>(window, control);
-    case Kind::list_box:
-        return make<ListBoxPeer, ListBox>(window, control);
-    case Kind::combo_box:
-        return make<ComboBoxPeer, ComboBox>(window, control);
-    case Kind::tree_view:
-        return make<TreePeer, TreeView>(window, control);
-    case Kind::list_view:
-        return make<ListViewPeer, ListView>(window, control);
-    case Kind::tab_strip:
-        return make<TabPeer, TabStrip>(window, control);
-    case Kind::date_picker:
-        return make<DatePickerPeer, DatePicker>(window, control);
-    case Kind::frame:
-        return make<FramePeer, Frame>(window, control);
-    case Kind::panel:
-        return make<PanelPeer, Panel>(window, control);
-    case Kind::timer:
-        return make<TimerPeer, Timer>(window, control);
-    }
-    throw Error(error::internal);
+    auto made =
+        make_first<ShownBy<Label, LabelPeer>, ShownBy<TextBox, TextBoxPeer>, ShownBy<Button, ButtonPeer>,
+                   ShownBy<CheckBox, CheckBoxPeer>, ShownBy<ListBox, ListBoxPeer>,
+                   ShownBy<ComboBox, ComboBoxPeer>, ShownBy<TreeView, TreePeer>,
+                   ShownBy<ListView, ListViewPeer>, ShownBy<TabStrip, TabPeer>,
+                   ShownBy<DatePicker, DatePickerPeer>, ShownBy<Frame, FramePeer>, ShownBy<Panel, PanelPeer>,
+                   ShownBy<Timer, TimerPeer>>(window, control);
+    if (!made) throw Error(error::internal);
+    return made;
 }
 
 } // namespace brx

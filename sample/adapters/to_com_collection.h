@@ -1,0 +1,56 @@
+#pragma once
+
+#include "adapters/model_com.h"
+
+namespace brx {
+
+template <> class ToCom<hlxApplication> final : public ModelCom<hlxApplication> {
+public:
+    using ModelCom::ModelCom;
+    STDMETHODIMP Reserved1() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved2() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved3() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved5() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved7() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved8() override { return E_NOTIMPL; }
+    STDMETHODIMP get_Database(IDispatch** result) override { return give(result, &Model::Database); }
+};
+
+template <> class ToCom<hlxOPCServers> final : public ModelCom<hlxOPCServers> {
+public:
+    using ModelCom::ModelCom;
+    STDMETHODIMP get_Parent(IDispatch** result) override { return give(result, &Model::Parent); }
+    STDMETHODIMP Add(BSTR server_name, BSTR node, VARIANT_BOOL connect, _hlxOPCServer** result) override {
+        return give(result, &Model::Add, server_name, node, connect);
+    }
+    STDMETHODIMP get_LastError(BSTR* result) override { return give(result, &Model::LastError); }
+    STDMETHODIMP get_Item(VARIANT index, _hlxOPCServer** result) override {
+        return give(result, &Model::Item, index);
+    }
+    STDMETHODIMP get_Count(LONG* result) override { return give(result, &Model::Count); }
+};
+
+template <> class ToCom<hlxOPCServer> final : public ModelCom<hlxOPCServer> {
+public:
+    using ModelCom::ModelCom;
+    STDMETHODIMP get_ServerName(BSTR* result) override { return give(result, &Model::ServerName); }
+    STDMETHODIMP get_Node(BSTR* result) override { return give(result, &Model::Node); }
+    STDMETHODIMP Reserved3() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
+    STDMETHODIMP get_Parent(IDispatch** result) override { return give(result, &Model::Parent); }
+    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
+    STDMETHODIMP Reserved7() override { return E_NOTIMPL; }
+    STDMETHODIMP get_OPCServer(IDispatch** result) override { return give(result, &Model::OPCServer); }
+};
+
+template <> class ToCom<hlxOPCServerHolder> final : public ModelCom<hlxOPCServerHolder> {
+public:
+    using ModelCom::ModelCom;
+    STDMETHODIMP get_ServerEntry(_hlxOPCServer** result) override {
+        return give(result, &Model::ServerEntry);
+    }
+};
+
+} // namespace brx

@@ -1,0 +1,48 @@
+#include "dll/show.h"
+
+#include "com/com_ptr.h"
+#include "com/system_locale.h"
+#include "common/trap.h"
+#include "dll/com_error_libraries.h"
+#include "dll/com_object_factory.h"
+#include "forms/turn.h"
+#include "forms/win32/engine.h"
+
+namespace brx {
+
+namespace {
+
+/// What the dialogs of one Show run in.
+struct Surroundings {
+    Win32Engine engine;
+    ComErrorLibraries libraries;
+    ComObjectFactory objects;
+    Environment environment{engine, libraries, objects, Locale()};
+};
+
+/// The trap around what a public class needs before its own begins.
+class ShowProcedure : private Module {
+public:
+    using Module::Module;
+
+    template <class Body> void run(Body&& body) const noexcept { trap("Show", std::forward<Body>(body)); }
+};
+
+} // namespace
+
+HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
+             const std::function<bool(Environment&)>& dialog) noexcept {
+    const com_ptr<IUnknown> alive(&object);
+    // Until a dialog is open, windows of other dialogs on this thread are not to be worked with.
+    const CodeTurn code;
+    Surroundings here;
+    bool outcome = false;
+    ShowProcedure(class_name, here.environment.errors).run([&] {
+        here.environment.locale = system_locale();
+        outcome = dialog(here.environment);
+    });
+    if (result) *result = outcome ? VARIANT_TRUE : VARIANT_FALSE;
+    return S_OK;
+}
+
+} // namespace brx
