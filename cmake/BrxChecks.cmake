@@ -4,7 +4,8 @@
 # brx_check_part(TARGET PART part [SECONDS n]): the same for a program with a main of its own, which closes likewise.
 #   PART     which part of ./check runs it; default: native on Linux, windows on Windows
 #   SECONDS  its time limit, default 600
-# ./check finds the programs in ${CMAKE_BINARY_DIR}/check-programs, a file each: part, limit, program.
+# ./check finds the programs in ${CMAKE_BINARY_DIR}/check-programs, a file each: part, limit, program; CTest knows each
+# as a test, so that editors do.
 
 if(CMAKE_CROSSCOMPILING AND EXISTS /usr/src/googletest/CMakeLists.txt)
     # Debian's GoogleTest is built for Debian only; its source package is what the other targets use.
@@ -38,11 +39,17 @@ function(brx_check_part name)
     endif()
     file(GENERATE OUTPUT "${BRX_CHECK_PROGRAMS}/${name}"
         CONTENT "${arg_PART} ${arg_SECONDS} $<TARGET_FILE:${name}>\n")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_SECONDS} LABELS ${arg_PART})
+    if(WIN32)
+        set_tests_properties(${name} PROPERTIES RUN_SERIAL ON) # they share a screen
+    endif()
 endfunction()
 
 function(brx_check_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "PART;SECONDS" "SOURCES;LINK")
     add_executable(${name} ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES})
+    brx_optimized(${name})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/checks")
     target_link_libraries(${name} PRIVATE brx_check_main ${arg_LINK})
     if(BRX_TOGETHER AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)

@@ -1,3 +1,6 @@
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(BRX_MINGW_TRIPLE x86_64-w64-mingw32)
 include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")
+if(NOT CMAKE_HOST_WIN32)
+    set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../scripts/wine.sh" --seconds 1800)
+endif()

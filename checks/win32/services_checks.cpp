@@ -3,6 +3,7 @@
 #include "forms/busy_cursor.h"
 #include "forms/button.h"
 #include "forms/check_box.h"
+#include "forms/description.h"
 #include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list_control.h"
@@ -10,6 +11,7 @@
 #include "forms/timer.h"
 #include "forms/win32/describe.h"
 #include "forms/win32/wide.h"
+#include "windows/described.h"
 
 #include <algorithm>
 

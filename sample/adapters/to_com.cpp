@@ -62,8 +62,10 @@ com_ptr<IDispatch> make_double(const ObjectPtr& object, const std::type_info& ty
 
 } // namespace
 
+void give_doubles() { set_make_double(make_double); }
+
 com_ptr<IDispatch> dispatch_of(const ObjectPtr& object, const std::type_info& interface_type) {
-    set_make_double(make_double);
+    give_doubles();
     return to_dispatch(object, interface_type);
 }
 

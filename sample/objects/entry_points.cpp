@@ -1,3 +1,4 @@
+#include "adapters/to_com.h"
 #include "com/failure.h"
 #include "com/module.h"
 #include "dll/class_factory.h"
@@ -13,6 +14,7 @@
 STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) {
     if (!object) return E_POINTER;
     *object = nullptr;
+    brx::give_doubles();
     for (const brx::host::NamedClass& each : brx::host::classes()) {
         if (each.made.clsid != clsid) continue;
         HRESULT found = S_OK;

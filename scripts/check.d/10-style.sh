@@ -54,6 +54,22 @@ explained_texts() {
     [ -z "$missing" ] || { printf '%s' "$missing" && return 1; }
 }
 
+# arrows: folder and included folder, a line each, that are not in the table of docs/architecture.md.
+arrows() {
+    local room='s#^src/((forms/)?(win32|headless)|[a-z]+)(/[^:]*)?:\#include "((forms/)?(win32|headless)|[a-z]+)/.*#\1 \5#p'
+    comm -13 \
+        <(sed -nE 's/^\| ((`[a-z/0-9]+` ?)+)\|[^|]*\| (.*) \|$/\1|\3/p' docs/architecture.md | tr -d '`,' |
+            awk -F'|' '{ n = split($1, from, " "); sub("each other", $1, $2); m = split($2, to, " ")
+                         for (i = 1; i <= n; ++i) for (k = 1; k <= m; ++k) print from[i], to[k] }' | sort -u) \
+        <(files 'src/*.cpp' 'src/*.h' | xargs -r -d '\n' grep -HE '^#include "[a-z0-9/]+/' | sed -nE "$room" |
+            awk '$1 != $2' | sort -u) | sed 's/^/error: not drawn: /'
+}
+as_drawn() {
+    local found
+    found=$(arrows)
+    [ -z "$found" ] || { say "$found" && return 1; }
+}
+
 # The one program in the guide is the one that is built and run.
 shown_example() { diff <(sed -n '/^```cpp$/,/^```$/{//!p}' docs/embedding.md) sample/describe/main.cpp; }
 
@@ -63,6 +79,7 @@ rule "no file names another machine" no_addresses
 rule "the repository holds text" only_text
 rule "the guide explains every text that a person is shown" explained_texts
 rule "the guide shows the example as it is checked" shown_example
+rule "the folders include what the architecture draws" as_drawn
 rule "the scripts are sound" sound_scripts
 rule "gcc takes every header by itself" build linux brx_headers
 part_end

@@ -15,7 +15,7 @@ namespace brx::checks {
 namespace {
 
 constexpr std::size_t field_count = 7;
-constexpr int most_lines = 2'000;   ///< of a tree or table are compared, after each deed
+constexpr int most_rows = 2'000;    ///< of a tree or table are compared, after each deed
 constexpr int most_of_a_list = 100; ///< whose lines have to be asked for one by one
 
 std::string plain(const std::string& escaped) {
@@ -184,9 +184,9 @@ void compare_control(HWND form, HWND window, const Described& control, Differenc
         control.kind == "list_box" || control.kind == "combo_box" || control.kind == "tab_strip";
     if (is_table) compare_columns(control, column_captions(window), differences);
     if (is_list || is_table || is_tree)
-        compare_lines(name, "a row", lines_of(window, is_list ? most_of_a_list : most_lines),
+        compare_lines(name, "a row", lines_of(window, is_list ? most_of_a_list : most_rows),
                       is_table ? marked_rows(held.rows) : held.lines, differences);
-    if (is_list || is_table || (is_tree && held.count < most_lines))
+    if (is_list || is_table || (is_tree && held.count < most_rows))
         differences.compare(name, "the number of lines", count_lines(window), held.count);
     if (is_list || is_table || is_tree || control.kind == "check_box")
         differences.compare(name, "the selected line or value", shown.selected, held.selected);
@@ -224,7 +224,7 @@ std::vector<Described> described(HWND form, int most) {
 }
 
 std::string differences_in(HWND form) {
-    const std::vector<Described> all = described(form, most_lines);
+    const std::vector<Described> all = described(form, most_rows);
     const Described& whole = all.front();
     Differences differences(whole.name);
     differences.compare(whole.name, "the name", name_of(form), whole.name);
