@@ -97,6 +97,60 @@ TEST_F(ErrorReporting, AShowingWithinAnotherIsAPartOfIt) {
     EXPECT_EQ(told.size(), 4U);
 }
 
+TEST_F(ErrorReporting, WhatAFormReportsIsToldOnceInEachOfItsShowings) {
+    const ShowingScope whole;
+    const ShowingScope outer("Outer");
+    for (int times = 0; times < 2; ++times) {
+        const ShowingScope inner("Inner");
+        fails("Inner.OK");
+        fails("Inner.OK");
+        fails("Outer.Close");
+    }
+    fails("Outer.Close");
+    EXPECT_EQ(told, (Notes{"Error 5: What\r\n\r\nInner.OK", "Error 5: What\r\n\r\nOuter.Close",
+                           "Error 5: What\r\n\r\nInner.OK"}));
+}
+
+TEST_F(ErrorReporting, WhatNoFormReportsBelongsToTheFormThatWasShownLast) {
+    const ShowingScope whole;
+    fails("Tools.a");
+    fails("Tools.a");
+    EXPECT_EQ(told.size(), 1U) << "None is shown yet.";
+    const ShowingScope form_around("Form");
+    for (int times = 0; times < 2; ++times) {
+        const ShowingScope of_a_class;
+        fails("Tools.a");
+        fails("Tools.b");
+    }
+    EXPECT_EQ(told.size(), 3U);
+}
+
+TEST_F(ErrorReporting, AFormIsKnownByItsWholeName) {
+    const ShowingScope longer_name("Former");
+    for (int times = 0; times < 2; ++times) {
+        const ShowingScope beginning("Form");
+        fails("Former.a");
+    }
+    EXPECT_EQ(told.size(), 1U);
+}
+
+TEST_F(ErrorReporting, OfTimersIsToldOnceHoweverOftenAFormIsShown) {
+    const ShowingScope whole;
+    for (int times = 0; times < 2; ++times) {
+        const ShowingScope inner("Inner");
+        fails_in_a_timer("Inner.Timer1_Timer");
+        fails_in_a_timer("Outer.Timer1_Timer");
+    }
+    EXPECT_EQ(told.size(), 1U);
+}
+
+TEST_F(ErrorReporting, TheShowingOfAFormBeginsBeforeItLoads) {
+    const ShowingScope whole;
+    form.on_load = [&] { fails("OneForm.Form_Load"); };
+    for (int times = 0; times < 2; ++times) while_open([&] { fails("OneForm.Form_Load"); });
+    EXPECT_EQ(told.size(), 2U);
+}
+
 TEST_F(ErrorReporting, OutsideOfAnyShowingEverythingIsTold) {
     fails("A.a");
     fails("A.a");

@@ -225,16 +225,42 @@ TEST_F(Forms, F1AsksForTheHelpFileWhereNoDialogHasAndOpensItsContents) {
     });
 }
 
-TEST_F(Forms, AHelpFileThatIsNotThereIsTold) {
-    engine.has_help_files = false;
-    Message told;
+TEST_F(Forms, AHelpFileThatDoesNotOpenIsToldUnderTheComponentsNameAndReportedToNobody) {
+    std::vector<Message> told;
     engine.while_asking = [&](const Message& message) {
-        told = message;
+        EXPECT_TRUE(turn::is_message_box_open());
+        told.push_back(message);
         return message::ok;
     };
-    while_open([&] { EXPECT_TRUE(form.user_help()); });
-    EXPECT_EQ(told, (Message{"The help file C:\\Plant\\collection.chm cannot be found.", message::exclamation,
-                             ""}));
+    while_open([&] {
+        for (const HelpOutcome outcome : {HelpOutcome::missing, HelpOutcome::not_opened}) {
+            engine.help = outcome;
+            EXPECT_TRUE(form.user_help());
+        }
+    });
+    EXPECT_EQ(told, (std::vector<Message>{{"The help file C:\\Plant\\collection.chm cannot be found.",
+                                           message::exclamation, "brxOpcDlgs6"},
+                                          {"The help file C:\\Plant\\collection.chm cannot be opened.",
+                                           message::exclamation, "brxOpcDlgs6"}}));
+    EXPECT_TRUE(host.all_reports.empty());
+}
+
+TEST_F(Forms, WhereTheMessageServiceFailsTheSystemsBoxTellsOfTheHelpFile) {
+    host.message_service = std::make_shared<FakeMessageService>(host.calls);
+    host.calls.fail_on("hlxMessage.Show");
+    engine.help = HelpOutcome::missing;
+    int told = 0;
+    engine.while_asking = [&](const Message&) {
+        ++told;
+        return message::ok;
+    };
+    while_open([&] {
+        form.user_help();
+        EXPECT_EQ(told, 1);
+        engine.while_asking = [](const Message&) -> std::int32_t { throw Error(error::out_of_memory); };
+        form.user_help();
+    });
+    EXPECT_TRUE(host.all_reports.empty()) << "No procedure of the dialog has failed.";
 }
 
 TEST_F(Forms, F1DoesNothingWhereTheHostsHelpHasNoPath) {

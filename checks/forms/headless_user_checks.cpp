@@ -76,3 +76,23 @@ TEST_F(HeadlessUsers, TheSecondClickMissesWhatAMessageCameOver) {
     EXPECT_FALSE(twice);
     EXPECT_EQ(std::count(form.notes.begin(), form.notes.end(), "list_DblClick"), 0);
 }
+
+TEST_F(HeadlessUsers, ALetterTypedWhereNoCharactersAreTakenIsAnAccelerator) {
+    show([&] {
+        baton.hand_over_last([&] {
+            for (const char* from : {"button", "check"}) {
+                EXPECT_TRUE(user.focus(from));
+                EXPECT_TRUE(user.type("tx"));
+                EXPECT_EQ(form.focused(), &form.box) << from;
+                EXPECT_EQ(form.box.text(), "x") << "The text was selected.";
+            }
+            EXPECT_TRUE(user.focus("button"));
+            EXPECT_FALSE(user.type("z")) << "Nothing has this letter.";
+            EXPECT_TRUE(user.type("h"));
+            EXPECT_EQ(form.check.value(), 1);
+            EXPECT_TRUE(user.focus("list"));
+            EXPECT_FALSE(user.type("t")) << "A list looks for it among its lines.";
+            form.unload();
+        });
+    });
+}

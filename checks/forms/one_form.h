@@ -36,10 +36,10 @@ public:
     void repaint(Form& form) override { events.push_back("repaint " + form.name()); }
     void hourglass(Form&, bool on) override { events.emplace_back(on ? "hourglass on" : "hourglass off"); }
     std::int32_t message_box(const Message& message) override { return while_asking(message); }
-    bool has_help_files = true;
-    bool show_help(const std::string& help_file, std::int32_t topic) override {
-        if (has_help_files) events.push_back("help " + help_file + " " + std::to_string(topic));
-        return has_help_files;
+    HelpOutcome help = HelpOutcome::opened;
+    HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override {
+        if (help == HelpOutcome::opened) events.push_back("help " + help_file + " " + std::to_string(topic));
+        return help;
     }
 };
 

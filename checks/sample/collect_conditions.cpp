@@ -136,6 +136,17 @@ TEST_F(CollectTelling, SaysHowMuchThereIs) {
     weighs(2.5);
     weighs(4);
     EXPECT_EQ(done(), "1 subgroup, 1 of 2 pieces of the next, last value 4");
+    weighs(499.28716345);
+    EXPECT_EQ(done(), "2 subgroups, last value 499.2872");
+}
+
+TEST_F(CollectTelling, ShowsValuesWithSevenDigitsAtMost) {
+    const auto shown = [](const Variant& value) { return to_text(as_shown(value), Locale::us_english()); };
+    EXPECT_EQ(shown(499.28716345), "499.2872");
+    EXPECT_EQ(shown(-0.1), "-0.1");
+    EXPECT_EQ(shown(std::int32_t{123456789}), "123456789") << "It is no measured value.";
+    EXPECT_EQ(shown(std::string("499.28716345")), "499.28716345");
+    EXPECT_EQ(shown(1e300), "1E+300") << "No single is as large.";
 }
 
 } // namespace

@@ -115,7 +115,7 @@ TEST_F(CollectNewSettings, KeepWhatIsCompleteAndBreakOffWhatIsNot) {
     EXPECT_EQ(series().complete_subgroups(), 2);
 }
 
-TEST_F(CollectNewSettings, BeginATestAfreshThatHasAnotherItemOrIsSavedInAnotherWay) {
+TEST_F(CollectNewSettings, BeginATestAfreshThatHasAnotherItemOrCharacteristicOrIsSavedInAnotherWay) {
     values.values["Torque"] = 0.0;
     begin();
     weighs(1);
@@ -126,6 +126,11 @@ TEST_F(CollectNewSettings, BeginATestAfreshThatHasAnotherItemOrIsSavedInAnotherW
     becomes("Torque", 7.0);
     EXPECT_EQ(story(), "7");
     settings.tests[0].save_as = SaveAs::reversed;
+    take_over();
+    EXPECT_EQ(story(), "");
+    becomes("Torque", 8.0);
+    EXPECT_EQ(story(), "-8");
+    settings.tests[0].characteristic = 102;
     take_over();
     EXPECT_EQ(story(), "");
 }

@@ -48,6 +48,27 @@ TEST_F(StoreCollection, RunsAfreshFromTheCommandAndKeepsWhatItHasWhenItStops) {
     EXPECT_THAT(text(), StartsWith("Running: 0 subgroups"));
 }
 
+TEST_F(StoreCollection, ForgetsATestThatBecameAnotherCharacteristicsAlsoWhenItHasStopped) {
+    const auto becomes = [&](std::int32_t characteristic) {
+        const auto data = resolve<hlxTestData>(configuration->Tests()->Item(std::int32_t{1})->TestData());
+        data->set_ID(characteristic);
+        data->Save(host->database());
+        entry.configurations().settle(1);
+    };
+    collection().run();
+    pass(60);
+    EXPECT_EQ(subgroups(), 3);
+    becomes(103);
+    EXPECT_EQ(subgroups(), 0);
+    EXPECT_EQ(collection().series(2).complete_subgroups(), 3);
+    pass(60);
+    EXPECT_EQ(subgroups(), 3);
+    collection().stop();
+    becomes(104);
+    EXPECT_TRUE(collection().series(1).points().empty());
+    EXPECT_EQ(collection().series(2).complete_subgroups(), 6);
+}
+
 TEST_F(StoreCollection, KeepsWhatItsDescriptorsSay) {
     collection().run();
     pass(60);

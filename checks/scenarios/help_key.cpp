@@ -1,3 +1,4 @@
+#include "adding.h"
 #include "configuring.h"
 #include "describing.h"
 #include "help_file.h"
@@ -16,6 +17,12 @@ struct HelpedConfiguring {
     HelpFile file;
     Configuring dialog;
 };
+
+Message missing(const std::string& file) {
+    return {.text = "The help file " + file + " cannot be found.",
+            .style = message::exclamation,
+            .title = "brxOpcDlgs6"};
+}
 
 } // namespace
 
@@ -84,19 +91,29 @@ SCENARIO(HelpKey, OpensTheContentsInTheDescriptorDialogs) {
 SCENARIO(HelpKey, AHelpFileThatIsNotThereIsTold) {
     a_filled_configuration(its);
     its.host.help_service->path = "C:\\Plant\\collection.chm";
-    const Message missing = {.text = "The help file C:\\Plant\\collection.chm cannot be found.",
-                             .style = message::exclamation,
-                             .title = component_name};
     Configuring dialog(its);
     its.person.hits(Key::f1);
-    its.person.answers(missing);
+    its.person.answers(missing("C:\\Plant\\collection.chm"));
     its.person.is_at("dlgConfiguration");
     its.person.presses("bnAdd");
     its.person.is_at("dlgOPCTest");
     its.person.hits(Key::f1);
-    its.person.answers(missing);
+    its.person.answers(missing("C:\\Plant\\collection.chm"));
     its.person.presses("bnCancel");
     dialog.leaves();
+}
+
+SCENARIO(HelpKey, AHelpFileThatIsNotThereIsToldWhateverTheFormOfItsName) {
+    for (const char* name : {"brx no such help.chm", "help\\brx no such help.chm", "\\brx no such help.chm",
+                             "C:brx no such help.chm", "\\\\.\\brx no such help.chm", "brx no such help.hlp",
+                             "C:\\Plant\\collection.chm::/first.htm", "brx no such help.chm>main"}) {
+        its.host.help_service->path = name;
+        Adding dialog(its);
+        its.person.hits(Key::f1);
+        its.person.answers(missing(name));
+        its.person.is_at("dlgServerAdd");
+        dialog.cancels();
+    }
 }
 
 SCENARIO(HelpKey, DoesNothingWhereTheHostHasNoHelp) {
@@ -104,6 +121,6 @@ SCENARIO(HelpKey, DoesNothingWhereTheHostHasNoHelp) {
     Configuring dialog(its);
     its.person.hits(Key::f1);
     its.person.is_at("dlgConfiguration");
-    EXPECT_EQ(its.person.screen().help().value_or(""), "");
+    EXPECT_EQ(its.person.screen().help(), "");
     dialog.leaves();
 }

@@ -1,5 +1,4 @@
-#include "adding.h"
-#include "configuring.h"
+#include "told_errors.h"
 
 // A host that does not take reports: the person is told.
 
@@ -8,26 +7,7 @@ using namespace brx::checks;
 
 namespace {
 
-Message told(std::int32_t number, const std::string& description, const std::string& place) {
-    return {.text = "Error " + std::to_string(number) + ": " + description + "\r\n\r\n" + place,
-            .style = message::critical,
-            .title = "brxOpcDlgs6"};
-}
-
-/// Of the host's call that failed last.
-Message told_of_failure(const Play& its, const std::string& place) {
-    const std::vector<HostCall>& calls = its.host.calls.made();
-    std::size_t n = calls.size();
-    while (n > 0 && !calls[n - 1].failed) --n;
-    const std::string member = n == 0 ? "no call" : calls[n - 1].member;
-    return told(CallLog::failure_number, CallLog::failure_text(static_cast<int>(n), member), place);
-}
-
 const Message wrong_servers = told(error::type_mismatch, "Type mismatch", "ServerAdd.ResolvehlxOPCServers");
-const Message no_groups = told(error::object_not_set, "Object variable or With block variable not set",
-                               "dlgConfiguration.Timer1_Timer");
-const Message no_trigger_item =
-    told(error::subscript_out_of_range, "Subscript out of range", "dlgConfiguration.bnClose_Click");
 
 /// Chooses the server and presses OK, with a host that cannot add it.
 void fails_to_add(Play& its) {
@@ -40,18 +20,6 @@ void fails_to_add(Play& its) {
 void is_told_that_adding_fails(Play& its) {
     fails_to_add(its);
     its.person.answers(told_of_failure(its, "dlgServerAdd.ConnectServer"));
-}
-
-/// A host without error libraries, whose server has no groups to tell of at any tick.
-void nobody_to_tell_and_no_groups(Play& its) {
-    its.host.has_no_error_library();
-    its.host.connection->groups = nullptr;
-}
-
-/// A configuration that cannot be committed.
-void a_trigger_without_its_item(Play& its) {
-    a_filled_configuration(its);
-    its.host.configuration->fields.subgroup_trigger_item = "Gone";
 }
 
 } // namespace
@@ -119,20 +87,58 @@ SCENARIO(WithoutAnErrorLibrary, AnotherPlaceIsToldAndSoIsAnotherErrorInTheSamePl
     dialog.cancels();
 }
 
-SCENARIO(WithoutAnErrorLibrary, ADialogThatAnotherOpensBelongsToTheSameShowing) {
+SCENARIO(WithoutAnErrorLibrary, ADialogThatAnotherOpensAgainTellsAgain) {
     its.host.has_no_error_library();
     Showing select(*its.stage, "ServerSelect");
     select.show(its.host.servers);
-    its.person.presses("bnServer");
-    is_told_that_adding_fails(its);
-    its.person.presses("bnCancel");
-    its.person.is_at("dlgServerSelect");
-    its.person.presses("bnServer");
-    fails_to_add(its);
-    its.person.is_at("dlgServerAdd");
-    its.person.presses("bnCancel");
+    for (int times = 0; times < 2; ++times) {
+        its.person.presses("bnServer");
+        is_told_that_adding_fails(its);
+        its.person.presses("bnOK");
+        its.person.is_at("dlgServerAdd");
+        its.person.presses("bnCancel");
+        its.person.is_at("dlgServerSelect");
+    }
     its.person.presses("bnCancel");
     EXPECT_FALSE(select.result());
+}
+
+SCENARIO(WithoutAnErrorLibrary, AFailingOkIsToldInEachShowingOfTheTestWhatIsAroundItAndItsTimersOnce) {
+    nobody_to_tell_and_no_groups(its);
+    a_trigger_without_its_item(its);
+    Configuring dialog(its);
+    its.person.waits_for_ticks(1);
+    its.person.answers(no_groups);
+    its.person.presses("bnClose");
+    its.person.answers(no_trigger_item);
+    for (int times = 0; times < 2; ++times) {
+        its.person.double_clicks("lvwTest", its.person.line_of("lvwTest", 0));
+        its.person.is_at("dlgOPCTest");
+        its.host.calls.fail_on("hlxOPCTest.SaveAs=");
+        const std::size_t before = its.host.calls.made().size();
+        its.person.presses("bnOK");
+        its.person.answers(told_of_failure_after(its, before, "dlgOPCTest.TestChoices"));
+        its.host.calls.fail_on("");
+        its.person.waits_for_ticks(1);
+        its.person.presses("bnCancel");
+        its.person.is_at("dlgConfiguration");
+        its.person.presses("bnClose");
+        its.person.waits_for_ticks(1);
+        its.person.is_at("dlgConfiguration");
+    }
+    dialog.leaves();
+}
+
+SCENARIO(WithoutAnErrorLibrary, WhatFailsBeforeADialogOpensIsToldOnceInTheDialogThatWasToOpenIt) {
+    its.host.has_no_error_library();
+    a_filled_configuration(its);
+    Configuring dialog(its);
+    its.host.calls.fail_on("hlxOPCTests.Parent");
+    its.person.double_clicks("lvwTest", its.person.line_of("lvwTest", 0));
+    its.person.answers(told_of_failure(its, "TestConfiguration.Show"));
+    its.person.double_clicks("lvwTest", its.person.line_of("lvwTest", 0));
+    its.person.is_at("dlgConfiguration");
+    dialog.leaves();
 }
 
 SCENARIO(WithoutAnErrorLibrary, TheDialogBelowShowsWhatWasDoneBeforeTheFailure) {
@@ -145,80 +151,6 @@ SCENARIO(WithoutAnErrorLibrary, TheDialogBelowShowsWhatWasDoneBeforeTheFailure) 
     EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines());
     its.person.answers(told_of_failure(its, "dlgServerAdd.cmdRefreshList_Click"));
     dialog.cancels();
-}
-
-SCENARIO(WithoutAnErrorLibrary, OfItsTimersADialogTellsOnceWhateverTheyRunInto) {
-    nobody_to_tell_and_no_groups(its);
-    a_trigger_without_its_item(its);
-    Configuring dialog(its);
-    its.person.waits_for_ticks(1);
-    its.person.answers(no_groups);
-    its.person.waits_for_ticks(1);
-    its.host.calls.fail_on("OPCServer.Bandwidth");
-    its.person.waits_for_ticks(2);
-    its.person.is_at("dlgConfiguration");
-    its.person.presses("bnClose");
-    its.person.answers(no_trigger_item);
-    dialog.leaves();
-}
-
-SCENARIO(WithoutAnErrorLibrary, ATimerTellsWhatAButtonHasNotTold) {
-    nobody_to_tell_and_no_groups(its);
-    a_trigger_without_its_item(its);
-    Configuring dialog(its);
-    its.person.presses("bnClose");
-    its.person.answers(no_trigger_item);
-    its.person.waits_for_ticks(1);
-    its.person.answers(no_groups);
-    its.person.presses("bnClose");
-    its.person.waits_for_ticks(1);
-    its.person.is_at("dlgConfiguration");
-    dialog.leaves();
-}
-
-SCENARIO(WithoutAnErrorLibrary, TimersGoOnUnderTheMessageAndPutNoneOverIt) {
-    its.host.has_no_error_library();
-    a_trigger_without_its_item(its);
-    Configuring dialog(its);
-    its.person.presses("bnClose");
-    const int before = its.host.calls.count("OPCServer.Bandwidth");
-    its.host.connection->groups = nullptr;
-    its.person.waits_for_ticks(2);
-    EXPECT_EQ(its.host.calls.count("OPCServer.Bandwidth"), before + 2);
-    its.person.answers(no_trigger_item);
-    its.person.is_at("dlgConfiguration");
-    its.person.waits_for_ticks(1);
-    its.person.answers(no_groups);
-    dialog.leaves();
-}
-
-SCENARIO(WithoutAnErrorLibrary, ATimerPutsNothingOverAQuestion) {
-    nobody_to_tell_and_no_groups(its);
-    Configuring dialog(its);
-    its.person.presses("bnClose");
-    its.person.waits_for_ticks(2);
-    its.person.answers({.text = "Without a Test Characteristic this Configuration will be removed.  Are you "
-                                "sure you want to continue?",
-                        .style = message::question + message::ok_cancel,
-                        .title = "No Test Exists"},
-                       message::cancel);
-    its.person.is_at("dlgConfiguration");
-    its.person.waits_for_ticks(1);
-    its.person.answers(no_groups);
-    dialog.leaves();
-}
-
-SCENARIO(WithoutAnErrorLibrary, ATimersErrorIsToldOverTheDialogInFront) {
-    nobody_to_tell_and_no_groups(its);
-    Configuring dialog(its);
-    dialog.turns_to_descriptors();
-    its.person.presses("bnAddDesc");
-    its.person.is_at("dlgDescriptorType");
-    its.person.waits_for_ticks(1);
-    its.person.answers(no_groups);
-    its.person.is_at("dlgDescriptorType");
-    its.person.presses("bnCancel");
-    dialog.leaves();
 }
 
 SCENARIO(WithoutAnErrorLibrary, OneOfTheTwoLibrariesTakesOnlyItsOwnReports) {

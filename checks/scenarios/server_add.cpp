@@ -217,3 +217,19 @@ SCENARIO(AddingAServer, AnArrayFromZeroIsListedWhole) {
     EXPECT_EQ(its.person.lines_of("lstOPCServers"), (Lines{"Sim", "Sim.2"}));
     dialog.cancels();
 }
+
+SCENARIO(AddingAServer, AButtonLeavesLettersToTheDialogAndOneThatTwoShareOnlyGoesOn) {
+    Adding dialog(its);
+    its.person.goes_to("cmdRefreshList");
+    its.person.types("c"); // the list and "Cancel" have it
+    EXPECT_TRUE(its.person.has_focus("lstOPCServers"));
+    its.person.goes_to("bnCancel");
+    its.person.types("c");
+    its.person.is_at("dlgServerAdd");
+    EXPECT_TRUE(its.person.has_focus("lstOPCServers"));
+    its.person.goes_to("cmdRefreshList");
+    its.host.local_servers({"Late.Server"});
+    its.person.types("b");
+    EXPECT_EQ(its.person.lines_of("lstOPCServers"), Lines{"Late.Server"});
+    dialog.cancels();
+}

@@ -75,9 +75,8 @@ public:
     virtual bool close_box() = 0;
     virtual bool answer(std::int32_t button) = 0; ///< the message box, by one of its buttons
 
-    /// The help that was opened last, as "file at topic", "" for none; nothing where the platform does not
-    /// tell.
-    virtual std::optional<std::string> help() = 0;
+    /// The help that was opened last, as "file at topic", "" for none.
+    virtual std::string help() = 0;
 
     /// Lets the dialogs' timers tick `times` times.
     virtual void pass_ticks(int times) = 0;

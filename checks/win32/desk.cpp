@@ -237,9 +237,9 @@ void OnWindows::while_showing(const std::function<void()>& job, const Person& pe
     other.join();
 }
 
-bool OnWindows::note_help(HWND, const std::wstring& file, DWORD topic) {
+HelpOutcome OnWindows::note_help(HWND, const std::wstring& file, DWORD topic) {
     help_opened.push_back(from_wide(file) + " at " + std::to_string(topic));
-    return true;
+    return HelpOutcome::opened;
 }
 
 } // namespace brx::checks

@@ -124,7 +124,7 @@ protected:
     Environment environment{engine, host, host, Locale::us_english()};
 
 private:
-    bool note_help(HWND over, const std::wstring& file, DWORD topic);
+    HelpOutcome note_help(HWND over, const std::wstring& file, DWORD topic);
 };
 
 } // namespace brx::checks

@@ -10,25 +10,34 @@ namespace {
 
 class TipTest : public PagesTest {
 protected:
-    /// The tip of a control, "" for none.
-    static std::wstring tip_of(Hands& hands, HWND control) {
-        std::wstring text(300, L'\0');
+    /// The window that has the tip of a control, null for none.
+    static HWND tips_with(TTTOOLINFOW& tool) {
+        for (HWND each = GetTopWindow(nullptr); each; each = GetWindow(each, GW_HWNDNEXT)) {
+            wchar_t name[64] = L"";
+            GetClassNameW(each, name, 64);
+            if (GetWindow(each, GW_OWNER) == tool.hwnd && std::wstring(name) == TOOLTIPS_CLASSW &&
+                SendMessageW(each, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)))
+                return each;
+        }
+        return nullptr;
+    }
+    static TTTOOLINFOW tool_of(HWND control) {
         TTTOOLINFOW tool{};
         tool.cbSize = TTTOOLINFOW_V2_SIZE;
         tool.hwnd = GetParent(control);
         tool.uId = reinterpret_cast<UINT_PTR>(control);
-        hands.run([&] {
-            for (HWND each = GetTopWindow(nullptr); each; each = GetWindow(each, GW_HWNDNEXT)) {
-                wchar_t name[64] = L"";
-                GetClassNameW(each, name, 64);
-                if (GetWindow(each, GW_OWNER) != tool.hwnd || std::wstring(name) != TOOLTIPS_CLASSW) continue;
-                tool.lpszText = text.data();
-                if (SendMessageW(each, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool))) return;
-            }
-        });
+        return tool;
+    }
+    /// The tip of a control, "" for none.
+    static std::wstring tip_of(Hands& hands, HWND control) {
+        std::wstring text(300, L'\0');
+        TTTOOLINFOW tool = tool_of(control);
+        tool.lpszText = text.data();
+        hands.run([&] { tips_with(tool); });
         return text.c_str();
     }
-    static void point_at(Hands& hands, HWND list, int row, int column) {
+    /// With the mouse, at so many pixels behind the beginning of a cell.
+    static void point_at(Hands& hands, HWND list, int row, int column, int behind = 20) {
         hands.wait_until_idle(); // the mouse is somewhere as the form opens, too
         RECT place{};
         place.left = LVIR_BOUNDS;
@@ -36,9 +45,23 @@ protected:
         hands.run([&] {
             SendMessageW(list, LVM_GETSUBITEMRECT, static_cast<WPARAM>(row),
                          reinterpret_cast<LPARAM>(&place));
-            SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(place.left + 20, (place.top + place.bottom) / 2));
+            SendMessageW(list, WM_MOUSEMOVE, 0,
+                         MAKELPARAM(place.left + behind, (place.top + place.bottom) / 2));
         });
         hands.wait_until_idle();
+    }
+    /// Gives a column room for a text and so many pixels more.
+    static void fit_column(Hands& hands, HWND list, int column, const wchar_t* text, int more) {
+        hands.run([&] {
+            const HDC dc = GetDC(list);
+            const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(list, WM_GETFONT, 0, 0));
+            const HGDIOBJ before = SelectObject(dc, font);
+            SIZE size{};
+            GetTextExtentPoint32W(dc, text, static_cast<int>(wcslen(text)), &size);
+            SelectObject(dc, before);
+            ReleaseDC(list, dc);
+            SendMessageW(list, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), size.cx + more);
+        });
     }
 };
 
@@ -60,6 +83,10 @@ TEST_F(TipTest, AButtonTellsWhatItOpens) {
         hands.form("Browse");
         EXPECT_EQ(tip_of(hands, hands.control("Browse", "Pick")), L"Pick an item");
         EXPECT_EQ(tip_of(hands, hands.control("Browse", "OK")), L"");
+        TTTOOLINFOW tool = tool_of(hands.control("Browse", "Pick"));
+        LRESULT milliseconds = 0;
+        hands.run([&] { milliseconds = SendMessageW(tips_with(tool), TTM_GETDELAYTIME, TTDT_AUTOPOP, 0); });
+        EXPECT_EQ(milliseconds, 32'767) << "the longest that there is";
     });
 }
 
@@ -84,6 +111,54 @@ TEST_F(TipTest, ACellThatIsCutShowsItsWholeText) {
     });
 }
 
+TEST_F(TipTest, ACellOfWhichPartsAreOutOfViewShowsItsWholeText) {
+    Pages form(environment);
+    form.on_load = [&] {
+        form.add_rows(1);
+        form.List.row(1).set_text(1, "A longer value");
+        form.List.row(1).set_text(2, "Stopped");
+    };
+    show_page(form, "List", [&](Hands& hands, HWND list) {
+        const auto tip = [&](int column, int behind = 20) {
+            point_at(hands, list, 0, column, behind);
+            return from_wide(tip_of(hands, list));
+        };
+        const auto set_width = [&](int column, int width) {
+            hands.run([&] { SendMessageW(list, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), width); });
+        };
+        set_width(1, 100);
+        EXPECT_EQ(tip(1), "");
+        EXPECT_EQ(tip(2), "");
+        set_width(0, 350); // the list is 380 wide
+        EXPECT_EQ(tip(1, 10), "A longer value");
+        hands.run([&] { SendMessageW(list, LVM_SCROLL, 150, 0); });
+        EXPECT_EQ(tip(1), "");
+        EXPECT_EQ(tip(0, 170), "Row 1") << "Its beginning is out of view.";
+        EXPECT_EQ(tip(2), "");
+    });
+}
+
+TEST_F(TipTest, ACellNeedsRoomBesideItsTextAtTheScaleOfTheMonitor) {
+    Pages form(environment);
+    form.on_load = [&] {
+        form.add_rows(1);
+        for (const int column : {0, 1}) form.List.row(1).set_text(column, "12.5 mm");
+    };
+    show_page(form, "List", [&](Hands& hands, HWND list) {
+        for (const int dpi : {96, 192})
+            for (const int column : {0, 1}) {
+                set_scale(list, dpi);
+                hands.wait_until_idle();
+                fit_column(hands, list, column, L"12.5 mm", 12 * dpi / 96);
+                point_at(hands, list, 0, column);
+                EXPECT_EQ(tip_of(hands, list), L"") << dpi;
+                fit_column(hands, list, column, L"12.5 mm", 12 * dpi / 96 - 1);
+                point_at(hands, list, 0, column);
+                EXPECT_EQ(tip_of(hands, list), L"12.5 mm") << dpi;
+            }
+    });
+}
+
 TEST_F(TipTest, ACellThatHasRoomEnoughShowsNone) {
     Pages form(environment);
     form.on_load = [&] {
@@ -94,16 +169,15 @@ TEST_F(TipTest, ACellThatHasRoomEnoughShowsNone) {
     show_page(form, "List", [&](Hands& hands, HWND list) {
         point_at(hands, list, 0, 1);
         EXPECT_NE(tip_of(hands, list), L"");
-        hands.run([&] { SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 800); });
+        hands.run([&] {
+            SendMessageW(list, LVM_SETCOLUMNWIDTH, 0, 20);
+            SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 800);
+        });
         point_at(hands, list, 0, 1);
         EXPECT_EQ(tip_of(hands, list), L"");
         // The same text is wider in bold.
-        hands.run([&] {
-            SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 80);
-            const auto width = static_cast<LPARAM>(
-                SendMessageW(list, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(L"Stopped 12:30")));
-            SendMessageW(list, LVM_SETCOLUMNWIDTH, 2, width + 13);
-        });
+        hands.run([&] { SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, 80); });
+        fit_column(hands, list, 2, L"Stopped 12:30", 13);
         point_at(hands, list, 0, 2);
         EXPECT_EQ(tip_of(hands, list), L"");
         run(hands, form, [&] { form.List.row(1).set_look(2, {.bold = true}); });

@@ -30,7 +30,9 @@ void Collector::take_over(Settings settings) {
     Collector next(std::move(settings));
     for (const TestSettings& now : next.settings_.tests) {
         const TestSettings* before = test(now.id);
-        if (!before || before->item != now.item || before->save_as != now.save_as) continue;
+        if (!before || before->characteristic != now.characteristic || before->item != now.item ||
+            before->save_as != now.save_as)
+            continue;
         Series& kept = series_[now.id];
         kept.break_off();
         next.series_[now.id] = std::move(kept);

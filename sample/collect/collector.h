@@ -15,7 +15,7 @@ public:
     explicit Collector(Settings settings);
 
     /// Goes on with other settings. Complete subgroups stay, those that are not are broken off; a test with
-    /// another item or another way to save starts afresh.
+    /// another characteristic, item or way to save starts afresh.
     void take_over(Settings settings);
     /// To be called several times a second, with the local time: collects what is due.
     void tick(Values& values, Date now);

@@ -32,6 +32,7 @@ enum class SaveAs { actual, absolute, reversed, constant };
 
 struct TestSettings {
     std::int64_t id = 0;
+    std::int64_t characteristic = 0;
     std::string item;
     bool own_trigger = false; ///< it takes its own pieces, when its item changes
     Condition condition;

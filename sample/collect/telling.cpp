@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 
 namespace brx::collect {
 
@@ -14,11 +16,6 @@ std::string text_of(const Variant& value, const Locale& locale) {
     std::string text = "?";
     attempt([&] { text = to_text(value, locale); });
     return text;
-}
-
-/// With as many digits as singles have: what is measured has no more.
-std::string number_text(double number, const Locale& locale) {
-    return text_of(static_cast<float>(number), locale);
 }
 
 std::string counted(std::size_t count, const std::string& one, const std::string& many) {
@@ -97,6 +94,12 @@ std::string own_trigger_text(const Condition& condition, const Locale& locale) {
 
 } // namespace
 
+Variant as_shown(const Variant& value) {
+    const auto* const number = std::get_if<double>(&value);
+    const bool fits = number && std::abs(*number) <= std::numeric_limits<float>::max();
+    return fits ? Variant(static_cast<float>(*number)) : value;
+}
+
 std::string so_far(const Collector& collector, std::int64_t test, const Locale& locale) {
     const Series& series = collector.series(test);
     std::string text =
@@ -108,7 +111,7 @@ std::string so_far(const Collector& collector, std::int64_t test, const Locale& 
                 " of the next";
     const auto last = std::find_if(series.points().rbegin(), series.points().rend(),
                                    [](const Point& point) { return point.subgroup != 0; });
-    if (last != series.points().rend()) text += ", last value " + number_text(last->value, locale);
+    if (last != series.points().rend()) text += ", last value " + text_of(as_shown(last->value), locale);
     return text;
 }
 

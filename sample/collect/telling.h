@@ -13,6 +13,9 @@ std::string so_far(const Collector& collector, std::int64_t test, const Locale& 
 /// What begins subgroups and pieces of a test.
 std::string how_it_goes_on(const Settings& settings, const TestSettings& test, const Locale& locale);
 
+/// A value with as many digits as singles have: what is measured has no more.
+Variant as_shown(const Variant& value);
+
 /// When a test's own trigger fires, in a word or two.
 std::string trigger_in_short(const Condition& condition, const Locale& locale);
 

@@ -28,6 +28,7 @@ private:
 
 collect::TestSettings settings_of(CollectionTest& test) {
     return {.id = test.id(),
+            .characteristic = test.characteristic_id(),
             .item = test.OPCItemID(),
             .own_trigger = test.ItemTrigger(),
             .condition = {test.TriggerExpression(), test.TriggerValue()},
@@ -69,7 +70,8 @@ void Collection::run() {
 
 void Collection::take_over() {
     held_ = false;
-    if (running_) collector_->take_over(settings_of(configuration_));
+    // What has stopped shows nothing of a test that is another one now.
+    if (collector_) collector_->take_over(settings_of(configuration_));
 }
 
 std::string Collection::tick(ServerEntry& server, Date now) {

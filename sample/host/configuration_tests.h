@@ -48,6 +48,8 @@ public:
     std::string CharacteristicName() override;
 
     std::int64_t id() const { return stored_.id; }
+    /// 0 for none.
+    std::int64_t characteristic_id() const { return stored_.characteristic_id; }
     /// The item is in the group by this handle of the server's, or with 0 is not. Holds until the next time.
     void item_added(std::int32_t server_handle);
     void leave() { tests_.reset(); }

@@ -1,5 +1,6 @@
 #include "objects/host_object.h"
 
+#include "collect/telling.h"
 #include "com/com_object.h"
 #include "com/dual.h"
 #include "com/system_locale.h"
@@ -224,7 +225,9 @@ private:
         const auto configuration = configurations(position).at(number);
         const auto value = servers()->at(position).value_of(*configuration, item_id);
         std::string text;
-        attempt([&] { text = value ? to_text(*value, system_locale()) : std::string(); });
+        attempt([&] {
+            if (value) text = to_text(collect::as_shown(*value), system_locale());
+        });
         return text;
     }
 

@@ -46,8 +46,9 @@ void MainWindow::show_details() {
         shown_configuration_ = 0;
     }
     const long configuration = configurations_.selected();
+    const bool had_tests = tests_.count() != 0; // a new configuration gets its first while it is shown
     tests_.show(configuration != 0 ? model_->tests(server, configuration) : std::vector<TableLine>());
-    if (server != shown_server_ || configuration != shown_configuration_) tests_.select(1);
+    if (server != shown_server_ || configuration != shown_configuration_ || !had_tests) tests_.select(1);
     shown_server_ = server;
     shown_configuration_ = configuration;
     show_chart();

@@ -30,6 +30,13 @@ inline constexpr std::int32_t ok = 1;     ///< result: the OK button
 inline constexpr std::int32_t cancel = 2; ///< result: the Cancel button, Escape or the close box
 } // namespace message
 
+/// What came of opening the help.
+enum class HelpOutcome {
+    opened,
+    missing,    ///< there is no such file
+    not_opened, ///< there is, but no viewer takes it
+};
+
 /// Where forms run. An engine opens windows, pumps input and shows state; it holds no dialog logic.
 class FormEngine {
 public:
@@ -51,8 +58,8 @@ public:
     /// Shows the system's message box over the form in front and returns the button pressed.
     virtual std::int32_t message_box(const Message& message) = 0;
 
-    /// Opens the help file at the topic, with 0 at its contents. False when there is no such file.
-    virtual bool show_help(const std::string& help_file, std::int32_t topic) = 0;
+    /// Opens the help file at the topic, with 0 at its contents.
+    virtual HelpOutcome show_help(const std::string& help_file, std::int32_t topic) = 0;
 };
 
 } // namespace brx

@@ -18,7 +18,7 @@ struct Environment {
         : engine(on),
           objects(from),
           services(from, on),
-          errors(to, services, on),
+          errors(to, services),
           locale(std::move(user_locale)) {}
     Environment(const Environment&) = delete;
     Environment& operator=(const Environment&) = delete;

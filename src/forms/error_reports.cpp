@@ -21,13 +21,10 @@ void ErrorReports::Show(ErrorLibrary library, const ErrorReport& report) noexcep
 }
 
 void ErrorReports::tell(const ErrorReport& report) {
-    ShowingScope here; // of its own for an error that comes outside of any
-    here.tell_once(report, [&] {
+    ShowingScope::tell_once(report, [&] {
         if (Form* form = turn::top_form()) form->settle();
         const ModalTurn waiting(nullptr);
-        const Message message = error_message(report);
-        // The host's message service may be what fails.
-        if (!attempt([&] { services_.show_message(message); })) engine_.message_box(message);
+        services_.tell(error_message(report));
     });
 }
 

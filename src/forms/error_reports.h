@@ -23,8 +23,7 @@ public:
 /// box.
 class ErrorReports final : public ErrorReporter {
 public:
-    ErrorReports(ErrorLibraries& to, Services& services, FormEngine& engine)
-        : libraries_(to), services_(services), engine_(engine) {}
+    ErrorReports(ErrorLibraries& to, Services& services) : libraries_(to), services_(services) {}
 
     void Show(ErrorLibrary library, const ErrorReport& report) noexcept override;
 
@@ -33,7 +32,6 @@ private:
 
     ErrorLibraries& libraries_;
     Services& services_;
-    FormEngine& engine_;
 };
 
 /// What the person is told of an error: its number and description, and below them its place.

@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include "forms/button.h"
+#include "forms/showing.h"
 
 #include <algorithm>
 
@@ -28,6 +29,7 @@ void Form::set_caption(const std::string& caption) {
 void Form::show_modal() {
     // The form below shows what its handler has done so far while this one is in front of it.
     if (Form* below = turn::top_form()) below->settle();
+    const ShowingScope showing(design_.name);
     struct Unloading {
         Form& form;
         ~Unloading() {
@@ -143,7 +145,8 @@ bool Form::user_close() {
 
 bool Form::user_help() {
     if (!in_front()) return false;
-    run_event([&] { show_help(); });
+    // No procedure of the dialog's: nobody is reported to.
+    run_event([&] { attempt([&] { show_help(); }); });
     return true;
 }
 
@@ -151,8 +154,14 @@ void Form::show_help() {
     std::string file = environment_.help_file;
     // Not every dialog asks for it as it loads.
     if (file.empty()) attempt([&] { file = environment_.services.help_file(); });
-    if (file.empty() || environment_.engine.show_help(file, help_topic_)) return;
-    show_message({.text = "The help file " + file + " cannot be found.", .style = message::exclamation});
+    if (file.empty()) return;
+    const HelpOutcome outcome = environment_.engine.show_help(file, help_topic_);
+    if (outcome == HelpOutcome::opened) return;
+    const char* const why = outcome == HelpOutcome::missing ? " cannot be found." : " cannot be opened.";
+    settle();
+    const ModalTurn waiting(nullptr);
+    environment_.services.tell(
+        {.text = "The help file " + file + why, .style = message::exclamation, .title = component_name});
 }
 
 } // namespace brx

@@ -14,6 +14,10 @@ std::int32_t Services::show_message(const Message& message) {
     return engine_.message_box(message);
 }
 
+void Services::tell(const Message& message) {
+    if (!attempt([&] { show_message(message); })) engine_.message_box(message);
+}
+
 std::string Services::help_file() {
     if (!help_) help_ = create<hlxHelp>(objects_, class_name::hlxHelp);
     return help_->HelpFile();

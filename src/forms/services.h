@@ -19,6 +19,10 @@ public:
     /// pressed.
     std::int32_t show_message(const Message& message);
 
+    /// Tells the person something that must not be lost: the system's box does where the host's service
+    /// fails.
+    void tell(const Message& message);
+
     /// The path of the help file. Error 429 when the host has no help service.
     std::string help_file();
 

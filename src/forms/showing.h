@@ -9,30 +9,35 @@
 
 namespace brx {
 
-/// The Show of a public class, from its first line to its last. One that begins within another on its thread
-/// is a part of it, and so are the dialogs that both open: whoever works with them has been told of an error
-/// once it was told in any of them.
+/// The Show of a public class, or of a form, from its first line to its last. What a form reports is told
+/// once while it is shown, and again in its next showing. All that begins within another showing on its
+/// thread belongs to that one too: of what timers run into, whoever works with these dialogs is told once.
 class ShowingScope {
 public:
-    ShowingScope() noexcept;
+    /// `form` is the form's name, null for a public class.
+    explicit ShowingScope(const char* form = nullptr) noexcept;
     ~ShowingScope();
     ShowingScope(const ShowingScope&) = delete;
     ShowingScope& operator=(const ShowingScope&) = delete;
 
-    /// Tells the person of the error unless she has been told of it, or is being told of one. Of what timers
-    /// run into she is told only once, and never while another message waits for her.
-    template <class Tell> void tell_once(const ErrorReport& report, Tell&& tell) {
-        if (!whole_.begins_to_tell(report)) return;
+    /// Tells the person of the error unless she has been told of it, or is being told of one. Of timers she
+    /// is never told while another message waits for her.
+    template <class Tell> static void tell_once(const ErrorReport& report, Tell&& tell) {
+        const ShowingScope here; // of its own for an error that comes outside of any
+        if (!here.whole_.begins_to_tell(report)) return;
         struct Telling {
             bool& goes_on;
             ~Telling() { goes_on = false; }
-        } const telling{whole_.telling_};
+        } const telling{here.whole_.telling_};
         tell();
     }
 
 private:
     bool begins_to_tell(const ErrorReport& report);
+    static ShowingScope& showing_of(const ErrorReport& report);
 
+    const char* form_;
+    ShowingScope* outer_;
     ShowingScope& whole_; ///< the outermost one
     std::set<std::pair<std::int32_t, std::string>> told_;
     bool timer_told_ = false;

@@ -66,9 +66,10 @@ TEST_F(SampleConfigurations, TheGroupIsFilledFromTheStart) {
     const auto items = get_object(group.get(), "OPCItems");
     EXPECT_EQ(get(items.get(), "Count"), Variant(std::int32_t{4}));
     EXPECT_EQ(get(test(1).get(), "State"), Variant(std::int32_t{1}));
-    EXPECT_THAT(std::get<std::string>(
-                    get(host.get(), "ItemValue", {first, first, std::string("Filler.Head 1.Weight")})),
-                MatchesRegex("\\d\\d\\d\\.?\\d*"));
+    for (const char* item : {"Filler.Head 1.Weight", "Filler.Head 1.Volume"})
+        EXPECT_THAT(std::get<std::string>(get(host.get(), "ItemValue", {first, first, std::string(item)})),
+                    MatchesRegex("\\d\\d\\d\\.?\\d?\\d?\\d?\\d?"))
+            << item;
     EXPECT_EQ(get(host.get(), "ItemValue", {first, first, std::string("no such item")}),
               Variant(std::string()));
 }

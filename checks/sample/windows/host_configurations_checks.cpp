@@ -86,6 +86,55 @@ TEST(SampleProgramConfigurations, TheLogTellsWhetherTheDialogWasClosedOrLeft) {
     EXPECT_TRUE(ends("Configure: Filler head 2 closed, and its settings are kept.")) << host.last_log_line();
 }
 
+TEST(SampleProgramConfigurations, TheLogTellsThatItWasLeftWithSomeOfItsSettingsKept) {
+    const OpenHost host;
+    const OpenConfiguration dialog(host, L"bnConfigure");
+    dialog.type_over(L"txtName", L"Filler head 2");
+    dialog.type_over(L"txtSubgroupSize", L"99999999999"); // more than a host can be told
+    dialog.press(L"bnClose");
+    const HWND box = host.program().window(L"#32770", L"Unexpected Error");
+    EXPECT_NE(text_of_box(box).find("dlgConfiguration.bnClose_Click"), std::string::npos) << text_of_box(box);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(comes_true([&] { return dialog.is_open_to_input(); }));
+    dialog.leave();
+    EXPECT_TRUE(comes_true([&] {
+        return host.last_log_line().ends_with(
+            "Configure: Filler head 2 left after an error: some of its settings are kept.");
+    })) << host.last_log_line();
+}
+
+TEST(SampleProgramConfigurations, OfANewOneTheFirstTestIsSelected) {
+    const OpenHost host;
+    const auto opened = [&](const wchar_t* title) { return host.program().window(L"#32770", title); };
+    const auto press = [](HWND dialog, const wchar_t* button) {
+        PostMessageW(controls_of(dialog)[button], BM_CLICK, 0, 0);
+    };
+    const OpenConfiguration dialog(host, L"bnNewConfiguration");
+    dialog.press(L"bnAdd");
+    const HWND test = opened(L"OPC Test Configuration");
+    press(test, L"bnTest");
+    const HWND picker = host.program().window(nullptr, L"Select Characteristic");
+    PostMessageW(controls_of(picker)[L"lstRecords"], WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(controls_of(picker)[L"bnOK"]) != FALSE; }));
+    press(picker, L"bnOK");
+    EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(test) != FALSE; }));
+    press(test, L"bnItem");
+    const HWND browser = opened(L"Select Item");
+    for (const wchar_t each : std::wstring(L"Filler.Head 1.Weight"))
+        PostMessageW(controls_of(browser)[L"txtFullPath"], WM_CHAR, each, 1);
+    press(browser, L"bnOK");
+    EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(controls_of(test)[L"bnOK"]) != FALSE; }));
+    press(test, L"bnOK");
+    EXPECT_TRUE(comes_true([&] { return dialog.is_open_to_input(); }));
+    dialog.leave();
+    EXPECT_TRUE(comes_true([&] { return host.rows(L"lstTests") == 1; }));
+    EXPECT_TRUE(comes_true([&] {
+        return SendMessageW(host.control(L"lstTests"), LVM_GETNEXTITEM, static_cast<WPARAM>(-1),
+                            LVNI_SELECTED) == 0;
+    }));
+    EXPECT_TRUE(IsWindowEnabled(host.control(L"bnEditTest")));
+}
+
 TEST(SampleProgramConfigurations, OneThatIsClosedWithoutTestsIsRemovedOnceConfirmed) {
     OpenHost host;
     const OpenConfiguration dialog(host, L"bnConfigure");

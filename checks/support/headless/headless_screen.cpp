@@ -141,7 +141,7 @@ void HeadlessScreen::pass_ticks(int times) {
         });
 }
 
-std::optional<std::string> HeadlessScreen::help() {
+std::string HeadlessScreen::help() {
     return there([&] { return engine_.help_shown(); });
 }
 

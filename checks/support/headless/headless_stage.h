@@ -38,7 +38,7 @@ public:
     bool close_box() override;
     bool answer(std::int32_t button) override;
     void pass_ticks(int times) override;
-    std::optional<std::string> help() override;
+    std::string help() override;
 
 private:
     /// Looks on the forms' thread, at once when this is it.

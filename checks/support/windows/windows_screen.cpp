@@ -87,6 +87,10 @@ bool WindowsScreen::hourglass() {
     return asked([&] { return GetCursor() == LoadCursorW(nullptr, IDC_WAIT); });
 }
 
+std::string WindowsScreen::help() {
+    return asked([] { return WatchedHelp::shown(); });
+}
+
 bool WindowsScreen::press(const std::string& button) {
     return done([&] {
         const HWND window = reachable(button);

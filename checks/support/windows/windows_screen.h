@@ -3,6 +3,7 @@
 #include "screen.h"
 #include "windows/hands.h"
 #include "windows/ui_thread.h"
+#include "windows/watched_help.h"
 
 #include <functional>
 #include <string>
@@ -43,7 +44,7 @@ public:
     bool accelerator(char letter) override;
     bool close_box() override;
     bool answer(std::int32_t button) override;
-    std::optional<std::string> help() override { return std::nullopt; }
+    std::string help() override;
     void pass_ticks(int times) override;
 
     /// What was found wrong after any deed, or is so now; "" for nothing.
@@ -78,6 +79,7 @@ private:
     HWND focused_in_front() const;
 
     UiThread& ui_;
+    WatchedHelp help_;
     Compare compare_;
     std::string differences_;
 };

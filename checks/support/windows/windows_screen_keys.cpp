@@ -119,7 +119,8 @@ bool WindowsScreen::type(const std::string& text) {
         const HWND focused = focused_in_front();
         if (!focused) return false;
         const NativeKind kind = kind_of(focused);
-        return kind == NativeKind::text_box || kind == NativeKind::tree || kind == NativeKind::table;
+        return kind == NativeKind::text_box || kind == NativeKind::tree || kind == NativeKind::table ||
+               kind == NativeKind::push_button || kind == NativeKind::check_box;
     };
     return std::ranges::all_of(strokes_for(text),
                                [&](const Stroke& each) { return asked(takes_text) && stroke(each); });

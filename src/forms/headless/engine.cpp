@@ -29,10 +29,10 @@ std::int32_t HeadlessEngine::message_box(const Message& message) {
     return std::exchange(answer_, 0);
 }
 
-bool HeadlessEngine::show_help(const std::string& help_file, std::int32_t topic) {
-    if (!std::filesystem::exists(help_file)) return false;
+HelpOutcome HeadlessEngine::show_help(const std::string& help_file, std::int32_t topic) {
+    if (!std::filesystem::exists(help_file)) return HelpOutcome::missing;
     help_shown_ = help_file + " at " + std::to_string(topic);
-    return true;
+    return HelpOutcome::opened;
 }
 
 HeadlessWindow* HeadlessEngine::front() const {

@@ -21,7 +21,7 @@ public:
     void repaint(Form& form) override;
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
-    bool show_help(const std::string& help_file, std::int32_t topic) override;
+    HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
 
     /// The window that takes input; null when there is none or a message box lies over it.
     HeadlessWindow* front() const;

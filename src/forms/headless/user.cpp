@@ -100,7 +100,10 @@ bool HeadlessUser::type(const std::string& text) {
     if (as<ListView>(focused())) return search_table(text);
     for (const std::string& character : characters(text)) {
         auto* box = as<TextBox>(focused());
-        if (!box || !press_character(*box, character)) return false;
+        // What has no use for characters leaves letters to the form.
+        const bool leaves_it = as<Button>(focused()) || as<CheckBox>(focused());
+        const bool taken = box ? press_character(*box, character) : leaves_it && accelerator(character[0]);
+        if (!taken) return false;
     }
     return true;
 }

@@ -43,7 +43,9 @@ void give_focus_back(HWND window) {
 } // namespace
 
 Win32Engine::Win32Engine(HelpOpener open_help)
-    : open_help_(open_help ? std::move(open_help) : HelpOpener(open_help_file)) {}
+    : open_help_(open_help ? std::move(open_help) : [](HWND over, const std::wstring& file, DWORD topic) {
+          return open_help_file(over, file, topic, HelpViewers::of_the_system());
+      }) {}
 
 Win32Engine::~Win32Engine() = default;
 
@@ -118,7 +120,7 @@ std::int32_t Win32Engine::message_box(const Message& message) {
     return pressed;
 }
 
-bool Win32Engine::show_help(const std::string& help_file, std::int32_t topic) {
+HelpOutcome Win32Engine::show_help(const std::string& help_file, std::int32_t topic) {
     return open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
 }
 

@@ -16,8 +16,8 @@ class FormWindow;
 /// Forms as windows of the system, on the thread that shows them. An engine serves one thread.
 class Win32Engine : public FormEngine {
 public:
-    /// Opens a help file at a topic, over a window (or null). False when there is no such file.
-    using HelpOpener = std::function<bool(HWND over, const std::wstring& file, DWORD topic)>;
+    /// Opens a help file at a topic, over a window (or null).
+    using HelpOpener = std::function<HelpOutcome(HWND over, const std::wstring& file, DWORD topic)>;
 
     /// Help goes to the system's viewers when no opener is given.
     explicit Win32Engine(HelpOpener open_help = {});
@@ -27,7 +27,7 @@ public:
     void repaint(Form& form) override;
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
-    bool show_help(const std::string& help_file, std::int32_t topic) override;
+    HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
 
     /// Whether the form shows the hourglass.
     bool is_busy(const Form& form) const { return busy_.count(&form) != 0; }

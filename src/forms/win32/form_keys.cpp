@@ -11,6 +11,13 @@ namespace {
 
 bool is_key(const MSG& message) { return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST; }
 
+/// Whether the control with the focus has a use for it; otherwise a letter is an accelerator without Alt too.
+bool is_wanted(const MSG& character) {
+    const LRESULT wanted =
+        SendMessageW(character.hwnd, WM_GETDLGCODE, character.wParam, reinterpret_cast<LPARAM>(&character));
+    return (wanted & (DLGC_WANTCHARS | DLGC_WANTMESSAGE)) != 0;
+}
+
 bool is_held(int key) { return (GetKeyState(key) & 0x8000) != 0; }
 
 } // namespace
@@ -30,6 +37,9 @@ bool FormWindow::takes_key(const MSG& message) {
         case WM_KEYDOWN:
             if (message.wParam == VK_RETURN) finish_typing();
             taken = message.wParam == VK_TAB && is_held(VK_CONTROL) && turn_tabs();
+            break;
+        case WM_CHAR:
+            if (!is_wanted(message)) taken = take_accelerator(message.wParam);
             break;
         case WM_SYSCHAR:
             finish_typing();

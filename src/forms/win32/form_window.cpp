@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 
 namespace brx {
@@ -248,6 +249,8 @@ void FormWindow::set_tip(HWND control, const std::wstring& text) {
         tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, L"", WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                                 0, 0, 0, 0, handle_, nullptr, this_module(), nullptr);
         SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, scaled(600, dpi_));
+        // As long as the system lets it: a long text takes its time to read.
+        SendMessageW(tips_, TTM_SETDELAYTIME, TTDT_AUTOPOP, std::numeric_limits<SHORT>::max());
     }
     std::wstring shown = text;
     TTTOOLINFOW tool{};

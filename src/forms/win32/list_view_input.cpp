@@ -1,6 +1,7 @@
 // What a list asks for, and what a person does to it.
 
 #include "forms/list_rows.h"
+#include "forms/win32/dpi.h"
 #include "forms/win32/form_window.h"
 #include "forms/win32/list_view_peer.h"
 
@@ -16,8 +17,8 @@ namespace {
 /// How some systems ask for a row that begins with what is typed; not every compiler's headers name it.
 constexpr UINT find_beginning = 4;
 
-/// What lists leave free in a cell, left and right of its text together, at most.
-constexpr int around_text = 12;
+/// What lists leave free in a cell on each side of its text, at most, at 96 DPI.
+constexpr int beside_text = 6;
 
 } // namespace
 
@@ -139,14 +140,27 @@ void ListViewPeer::show_tip() {
     const ListRow* const row = row_at(hit.iItem);
     const bool on_cell = row && hit.iSubItem >= 0 && hit.iSubItem < static_cast<int>(widths_.size());
     std::wstring text = on_cell ? to_wide(row->text(hit.iSubItem)) : std::wstring();
-    if (on_cell) {
-        const HFONT font = row->look(hit.iSubItem).bold && bold_ ? bold_.get() : window().font();
-        const int room = static_cast<int>(send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(hit.iSubItem)));
-        if (TextMeasure(handle(), font).width(text.data(), text.size()) <= room - around_text) text.clear();
-    }
+    if (on_cell && !is_cut(*row, hit.iItem, hit.iSubItem, text)) text.clear();
     if (text == tip_) return;
     tip_ = text;
     window().set_tip(handle(), tip_);
+}
+
+/// Whether a cell's text does not fit into its column, or the column not into the list.
+bool ListViewPeer::is_cut(const ListRow& row, int index, int column, const std::wstring& text) const {
+    RECT cell{};
+    cell.left = LVIR_BOUNDS;
+    cell.top = column;
+    send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&cell));
+    // The bounds of the first cell are the row's.
+    cell.right = cell.left + static_cast<LONG>(send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+    RECT view{};
+    GetClientRect(handle(), &view);
+    const int beside = scaled(beside_text, window().dpi());
+    const HFONT font = row.look(column).bold && bold_ ? bold_.get() : window().font();
+    const LONG from = cell.left + beside;
+    const LONG to = from + TextMeasure(handle(), font).width(text.data(), text.size());
+    return from < view.left || to > std::min(cell.right - beside, view.right);
 }
 
 /// Enter is the list's own where it opens a row, and otherwise the dialog manager's.

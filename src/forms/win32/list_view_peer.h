@@ -31,6 +31,7 @@ private:
     void add_columns();
     void fit_columns();
     void show_tip();
+    bool is_cut(const ListRow& row, int index, int column, const std::wstring& text) const;
     void redraw(const std::vector<int>& positions);
     void show_selection();
     void make_bold_font();
