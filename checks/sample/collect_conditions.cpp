@@ -2,6 +2,7 @@
 #include "collect/telling.h"
 #include "collect/trigger.h"
 #include "common/values/calendar.h"
+#include "common/values/convert.h"
 #include "sample/collect_stage.h"
 
 #include <cmath>
