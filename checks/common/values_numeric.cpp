@@ -116,6 +116,8 @@ TEST(IsNumeric, TakesExponentsWithEAndD) {
 
 TEST(IsNumeric, TakesHexadecimalAndOctal) {
     EXPECT_EQ(255, to_double("&HFF", us));
+    EXPECT_EQ(0xABCDEF, to_double("&habcdef", us));
+    EXPECT_EQ(0xABCDEF, to_double("&HABCDEF", us));
     EXPECT_EQ(255, to_double("&hff", de));
     EXPECT_EQ(15, to_double(" &O17 ", us));
     EXPECT_EQ(15, to_double("&o17", us));

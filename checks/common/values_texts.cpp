@@ -1,5 +1,6 @@
 #include "common/values/text.h"
 #include "common/values/unicode.h"
+#include "common/values/utf16.h"
 
 #include <gtest/gtest.h>
 
@@ -127,6 +128,13 @@ TEST(CodePoints, BecomeReplacementsOutsideUnicode) {
     append_code_point(text, malformed_byte);
     EXPECT_EQ("\uFFFD\uFFFD", text);
     EXPECT_EQ(U"a\uFFFD€", to_code_points("a\xFF€"));
+    EXPECT_EQ(u"\uFFFD", utf16_of<char16_t>("\x80"));
+    EXPECT_EQ(u"\x7F", utf16_of<char16_t>("\x7F"));
+}
+
+TEST(CodePoints, WhiteSpaceIsWhatTheSystemSkips) {
+    for (const char32_t c : {U'\t', U'\n', U'\r', U' ', U'\u00A0', U'\u3000'}) EXPECT_TRUE(is_white_space(c));
+    for (const char32_t c : {U'\x08', U'\x0E', U'!', U'a', U'\u200B'}) EXPECT_FALSE(is_white_space(c));
 }
 
 } // namespace

@@ -56,6 +56,7 @@ TEST(Val, WrapsHexadecimalAndOctalLikeIntegersOfTheirSize) {
     EXPECT_EQ(32767, val("&H7FFF"));
     EXPECT_EQ(-32768, val("&H8000"));
     EXPECT_EQ(-1, val("&hFFFF"));
+    EXPECT_EQ(0xABCDEF, val("&habcdef"));
     EXPECT_EQ(65535, val("&HFFFF&"));
     EXPECT_EQ(65536, val("&H10000"));
     EXPECT_EQ(2147483647, val("&H7FFFFFFF"));

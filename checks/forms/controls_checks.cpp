@@ -10,6 +10,13 @@ namespace {
 struct Controls : testing::Test, OpenForm {};
 } // namespace
 
+TEST(Colors, OfTheSystemAreItsNumbersWithTheTopBitSet) {
+    EXPECT_EQ(color::window, 0x8000'0005U);
+    EXPECT_EQ(color::window_text, 0x8000'0008U);
+    EXPECT_EQ(color::button_face, 0x8000'000FU);
+    EXPECT_EQ(color::button_text, 0x8000'0012U);
+}
+
 TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {
     while_open([&] {
         form.box.set_text("new");

@@ -51,6 +51,17 @@ double overhead(int count, std::int32_t data_of_last) {
 
 } // namespace
 
+TEST(ListLines, ALineBehindOnesThatFillTheirRoomExactlyIsKeptToo) {
+    ListLines lines;
+    const std::string text = "1234567"; // and its length: 8 bytes, which fill all room that is ever asked for
+    for (int i = 0; i < 24'512; ++i) lines.insert(i, text, 0);
+    for (int i = 0; i < 10; ++i) lines.insert(lines.count(), i % 2 == 0 ? "" : "odd", 0);
+    for (int i = 0; i < lines.count(); ++i) {
+        const int behind = i - 24'512;
+        ASSERT_EQ(lines.text(i), behind < 0 ? text : behind % 2 == 0 ? "" : "odd") << i;
+    }
+}
+
 TEST(ListLines, KeepEveryTextExactly) {
     const std::vector<Line> expected = {
         {"", 0},

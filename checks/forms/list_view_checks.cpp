@@ -224,6 +224,12 @@ TEST_F(ListViews, AnEngineIsToldExactlyWhatReadsDifferently) {
         EXPECT_FALSE(changes.rows);
         EXPECT_EQ(changes.positions, Positions{}) << "They are told once.";
 
+        window.seen = Aspect::none;
+        list.add_column("More", 10);
+        list.flush();
+        EXPECT_EQ(window.seen, Aspect::lines);
+        EXPECT_TRUE(list.take_changes().columns);
+
         list.row(3).set_text(1, "z");
         list.remove(3);
         changes = list.take_changes();

@@ -92,7 +92,7 @@ try_edit() {
         passes "$1" "$seconds" "$filter" || outcome=noticed
         [ "$outcome" = unnoticed ] || break
     done < <("$edits" tests "$state/reach" "$1")
-    if [ "$outcome" = unnoticed ]; then read_well "$1" || outcome=noticed; fi
+    if [ "$outcome" != noticed ]; then read_well "$1" || outcome=noticed; fi
     if [ "$outcome" = unnoticed ]; then passes "$1" 300 "$all_checks" || outcome=noticed; fi
     say "$1 $outcome" >"$results/$1"
 }
