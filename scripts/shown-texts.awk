@@ -1,9 +1,10 @@
 # Prints the texts in C++ sources that a person can be shown: FILE:LINE, a tab, the text. These are the string literals of
 # two words and more, and those that are a message's text or title whatever they say, line by line. What controls are
-# called and what they are for is not among them.
+# called and what they are for is not among them, nor are paths.
 
 function is_shown(text, before) {
     if (before ~ /\.(caption|tip) *= *$/ || text ~ /^&/) return 0
+    if (text ~ /\\\\/) return 0
     if (before ~ /\.(text|title) *= *$/) return text ~ /[[:alpha:]]/
     return text ~ /[[:alpha:]][^[:alpha:]]* +[^[:alpha:]]*[[:alpha:]][[:alpha:]]/
 }

@@ -11,7 +11,8 @@ namespace brx {
 /// From now on a program's own model objects turn into COM objects wherever they go out: they have doubles.
 void give_doubles();
 
-/// Does so, and gives some model object as a COM object: the original when it stands for one. None for Nothing.
+/// Does so, and gives some model object as a COM object: the original when it stands for one. None for
+/// Nothing.
 com_ptr<IDispatch> dispatch_of(const ObjectPtr& object,
                                const std::type_info& interface_type = typeid(Object));
 
