@@ -66,7 +66,7 @@ std::wstring system_help_folder() {
 }
 
 /// The path of the file, "" when there is none. What is no name of a file is left to the viewer.
-std::wstring find(const std::wstring& name) {
+std::wstring find_file(const std::wstring& name) {
     const std::size_t separator = name.find_first_of(L"\\/");
     const std::size_t colon = name.find(L':');
     const bool rooted = separator == 0 || colon == 1;
@@ -99,7 +99,7 @@ HelpViewers HelpViewers::of_the_system() {
 
 HelpOutcome open_help_file(HWND over, const std::wstring& name, DWORD topic, const HelpViewers& viewers) {
     const std::size_t end = std::min({name.find(L"::"), name.find(L'>'), name.size()});
-    const std::wstring file = find(name.substr(0, end));
+    const std::wstring file = find_file(name.substr(0, end));
     if (file.empty()) return HelpOutcome::missing;
     const std::wstring whole = file + name.substr(end);
     const bool shown =
