@@ -52,10 +52,6 @@ public:
     }
     BSTR detach() noexcept { return std::exchange(string_, nullptr); }
     std::string text() const { return text_of(string_); }
-    /// What it consists of, the same for the same text.
-    std::string_view bytes() const {
-        return {reinterpret_cast<const char*>(string_), SysStringByteLen(string_)};
-    }
     /// The text into one that is there already.
     void read(std::string& result) const {
         write_utf8(result, std::wstring_view(string_, SysStringLen(string_)));
