@@ -11,6 +11,7 @@ namespace {
 std::wstring wanted; ///< the dialog's name
 HWND dialog;
 std::wstring description;
+const UINT question = RegisterWindowMessageW(L"brx.Describe");
 
 bool bears_the_name(HWND window) {
     wchar_t name[256] = L"";
@@ -28,6 +29,7 @@ BOOL CALLBACK look_at(HWND window, LPARAM) {
 LRESULT CALLBACK take_answer(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message != WM_COPYDATA) return DefWindowProcW(window, message, wparam, lparam);
     const auto* copied = reinterpret_cast<const COPYDATASTRUCT*>(lparam);
+    if (copied->dwData != question) return FALSE; // from somebody else
     description.assign(static_cast<const wchar_t*>(copied->lpData), copied->cbData / sizeof(wchar_t));
     return TRUE;
 }
@@ -46,9 +48,7 @@ int main(int count, char** arguments) {
     const HWND asking =
         CreateWindowW(kind.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     const LPARAM all_lines = -1;
-    if (SendMessageW(dialog, RegisterWindowMessageW(L"brx.Describe"), reinterpret_cast<WPARAM>(asking),
-                     all_lines) != 1)
-        return 1;
+    if (SendMessageW(dialog, question, reinterpret_cast<WPARAM>(asking), all_lines) != 1) return 1;
 
     std::string text(description.size() * 4, '\0');
     text.resize(static_cast<std::size_t>(
