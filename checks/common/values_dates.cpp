@@ -44,6 +44,7 @@ TEST(ReadDate, TakesSeveralSeparators) {
     EXPECT_EQ("2026-01-02", read(" 1 / 2 / 2026 "));
     EXPECT_EQ("", read("1.2.2026")) << "the full stop is one of times here";
     EXPECT_EQ("", read("1/2/"));
+    EXPECT_EQ("", read("1,2,2026,"));
     EXPECT_EQ("", read("/1/2"));
     EXPECT_EQ("", read("1/2/3/4"));
 }

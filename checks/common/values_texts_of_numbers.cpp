@@ -62,7 +62,9 @@ TEST(ToText, NamesWhatIsNoFiniteNumber) {
     const double endless = std::numeric_limits<double>::infinity();
     EXPECT_EQ("1.#INF", to_text(endless, us));
     EXPECT_EQ("-1.#INF", to_text(-endless, us));
-    EXPECT_EQ("1.#QNAN", to_text(std::numeric_limits<double>::quiet_NaN(), us));
+    const double none = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ("1.#QNAN", to_text(none, us));
+    EXPECT_EQ("-1.#IND", to_text(std::copysign(none, -1.0), us));
 }
 
 TEST(ToText, GivesCurrencyWithTheDecimalsItHas) {

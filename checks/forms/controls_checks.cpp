@@ -1,5 +1,6 @@
 #include "forms/list_tools.h"
 #include "one_form.h"
+#include "stand_in.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,27 @@ TEST(Colors, OfTheSystemAreItsNumbersWithTheTopBitSet) {
     EXPECT_EQ(color::window_text, 0x8000'0008U);
     EXPECT_EQ(color::button_face, 0x8000'000FU);
     EXPECT_EQ(color::button_text, 0x8000'0012U);
+}
+
+TEST(Lengths, InTwipsAreRoundedToPixelsAwayFromZero) {
+    EXPECT_EQ(twips(7), 0);
+    EXPECT_EQ(twips(8), 1);
+    EXPECT_EQ(twips(-7), 0);
+    EXPECT_EQ(twips(-8), -1);
+    EXPECT_EQ(twips(1440), 96);
+}
+
+TEST_F(Controls, ColoursAreToldToTheEngineAsColours) {
+    while_open([&] {
+        StandIn window(form.list);
+        form.list.set_back_color(color::red);
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::colors);
+        window.seen = Aspect::none;
+        form.list.set_fore_color(color::red);
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::colors);
+    });
 }
 
 TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {

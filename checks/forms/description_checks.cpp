@@ -28,6 +28,7 @@ TEST(Description, TellsWhatAFormAndItsControlsHold) {
         EXPECT_EQ(description_of(form, Reading::all_lines),
                   "OneForm\tform\t1\t1\t-1\t0\tOne form\n"
                   "frame\tframe\t0\t1\t-1\t0\tFrame\n"
+                  "panel\tpanel\t1\t1\t0\t0\t\n"
                   "label\tlabel\t0\t1\t-1\t0\t&Text:\n"
                   "box\ttext_box\t0\t1\t-1\t0\ttab\\t return\\r line\\n back\\\\slash\\0 end\n"
                   "list\tlist_box\t1\t1\t1\t2\ttwo \xF0\x9F\x98\x80\n"

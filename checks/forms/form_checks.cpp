@@ -77,6 +77,7 @@ TEST_F(Forms, AnInstanceThatIsShownAgainStartsFromItsDesign) {
         form.label.set_caption("changed");
         form.button.set_enabled(false);
         form.box.set_back_color(color::red);
+        form.panel.bring_to_front();
     });
     while_open([&] {
         EXPECT_EQ(form.caption(), "One form");
@@ -87,6 +88,7 @@ TEST_F(Forms, AnInstanceThatIsShownAgainStartsFromItsDesign) {
         EXPECT_EQ(form.label.caption(), "&Text:");
         EXPECT_TRUE(form.button.enabled());
         EXPECT_EQ(form.box.back_color(), color::window);
+        EXPECT_FALSE(form.panel.in_front());
     });
 }
 

@@ -66,6 +66,7 @@ public:
 
     // clang-format off
     Frame    frame {*this, "frame",  {.place = {0, 0, 200, 100}, .caption = "Frame"}};
+    Panel    panel {*this, "panel",  {.place = {200, 0, 50, 50}}};
     Label    label {frame, "label",  {.place = {0, 0, 50, 15}, .caption = "&Text:", .tab = 1}};
     TextBox  box   {frame, "box",    {.place = {60, 0, 90, 23}, .tab = 2, .text = "design",
                                       .Change = note("box_Change"),

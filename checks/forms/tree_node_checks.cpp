@@ -72,6 +72,16 @@ TEST_F(TreeNodes, RemovingANodeLinksItsNeighbours) {
     EXPECT_EQ(tree.node("d").previous(), nullptr);
 }
 
+TEST_F(TreeNodes, RemovingANodeElsewhereLeavesTheSelectionAlone) {
+    while_open([&] {
+        add_food();
+        tree.select(&tree.node("core"));
+        tree.remove(tree.node("spice"));
+        tree.remove(tree.node("apple"));
+        EXPECT_EQ(selected(), "Core");
+    });
+}
+
 TEST_F(TreeNodes, WhenTheSelectedNodeGoesANeighbourOrItsParentIsSelectedAndNothingFires) {
     while_open([&] {
         add_food();

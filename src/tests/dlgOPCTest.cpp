@@ -246,7 +246,7 @@ void dlgOPCTest::drop_added_item() {
     const OPCItemsPtr group_items = items_of(the(configuration()).OPCGroup());
     OPCItems& reached = the(group_items);
     added_new_item_ = false;
-    reached.Remove(std::exchange(server_handles_, LongArray{{0}}));
+    reached.Remove(server_handles_);
 }
 
 } // namespace brx
