@@ -24,6 +24,9 @@ class Names {
 public:
     explicit Names(const wchar_t* stem) : name_(std::wstring(stem) + L"0000000") {}
 
+    /// In characters.
+    static constexpr int length_of_leaf = 27;
+
     static Names of_leaves() { return Names(L"Line07.Station12.Tag"); }
     static Names of_branches() { return Names(L"Station"); }
     static Names of_sub_branches() { return Names(L"Machine"); }

@@ -4,8 +4,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
-
 namespace brx::bench {
 
 namespace {
@@ -71,21 +69,6 @@ int read_branch(OPCBrowser& browser) {
     return read_names(browser);
 }
 
-void fill_list(const PlainWindow& list, int count) {
-    Names names = Names::of_leaves();
-    // Reserved before the first line it would be given back, and a long list take many times as long.
-    const int reserve_at = std::min(count, 40'000);
-    list.send(WM_SETREDRAW, FALSE);
-    for (int i = 1; i <= count; ++i) {
-        if (i == reserve_at)
-            list.send(LB_INITSTORAGE, static_cast<WPARAM>(count - i + 1),
-                      static_cast<LPARAM>(count - i + 1) *
-                          static_cast<LPARAM>((names.of(i).size() + 1) * sizeof(wchar_t)));
-        list.send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(names.of(i).c_str()));
-    }
-    list.send(WM_SETREDRAW, TRUE);
-}
-
 HTREEITEM fill_tree(const PlainWindow& tree, HTREEITEM parent, Names names, int count) {
     HTREEITEM first = nullptr;
     TVINSERTSTRUCTW insert{};
@@ -106,15 +89,12 @@ HTREEITEM fill_tree(const PlainWindow& tree, HTREEITEM parent, Names names, int 
 
 } // namespace
 
-Opening open_list(const AddressSpace& space) {
+Opening read_list(const AddressSpace& space) {
     Opening result;
     const auto server = make_server(space);
     const Cost start = spent();
-    const PlainWindow list(WC_LISTBOXW, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL);
-    fill_list(list, read_leaves(*browser_of(*server.get()).get()));
-    list.show();
+    read_leaves(*browser_of(*server.get()).get());
     result.shown = spent() - start;
-    result.bytes = private_bytes();
     return result;
 }
 

@@ -5,13 +5,13 @@
 
 namespace brx::bench {
 
-// The least that can be done: the calls that the dialog has to make, the names thrown away; then the native
-// control filled with the same names in the cheapest way there is.
+// The least that can be done.
 
-/// The leaves of a flat space in a list box.
-Opening open_list(const AddressSpace& space);
+/// The calls by which the dialog learns the leaves of a flat space, the names thrown away.
+Opening read_list(const AddressSpace& space);
 
-/// The branches at the root in a tree view, and then those of the first branch.
+/// The same of the branches at the root and then of those of the first branch, and a tree view filled with
+/// them in the cheapest way there is.
 Opening open_tree(const AddressSpace& space);
 
 } // namespace brx::bench

@@ -29,7 +29,7 @@ private:
             opening_.shown = cost - start_;
             opening_.bytes = private_bytes();
             dialog_ = GetActiveWindow();
-            if (count(WC_LISTBOXW, LB_GETCOUNT) != space_.leaves) return close();
+            if (count(WC_LISTVIEWW, LVM_GETITEMCOUNT) != space_.leaves) return close();
             if (space_.branches > 0) return expand();
         } else {
             opening_.expanded = cost - start_;

@@ -3,22 +3,25 @@
 // is.
 //
 //   brx_bench                     prints the table
-//   brx_bench items|configuration prints the lines about one dialog
-//   brx_bench --bytes floor|dialog N
-//                                 prints the private bytes that N leaves take; a process of its own each
-//                                 time, for what was freed before would be taken again
+//   brx_bench items|configuration|openings
+//                                 prints the lines about one dialog, or about opening each of them
+//   brx_bench --open NAME         opens a dialog once, for a profiler
+//   brx_bench --bytes N           prints the private bytes that N leaves take in the dialog; a process of its
+//                                 own, for what was freed before would be taken again
 
 #include "bench/comparison.h"
 #include "bench/configuration_dialog.h"
 #include "bench/configuration_floor.h"
 #include "bench/floor.h"
 #include "bench/item_browser.h"
+#include "bench/openings.h"
 
 #include "com/module.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 
@@ -26,19 +29,17 @@ namespace {
 
 using namespace brx::bench;
 
-using Open = Opening (*)(const AddressSpace&);
-
 constexpr AddressSpace flat_space(int leaves) { return {.flat = true, .leaves = leaves}; }
 
-std::size_t bytes_of(Open open, int leaves) {
-    const std::size_t before = open(flat_space(1)).bytes;
-    return open(flat_space(leaves)).bytes - before;
+std::size_t bytes_of(int leaves) {
+    const std::size_t before = open_item_browser(flat_space(1)).bytes;
+    return open_item_browser(flat_space(leaves)).bytes - before;
 }
 
 /// Bytes for each leaf, as another process of this program tells.
-double bytes_per_leaf(const std::wstring& whose) {
+double bytes_per_leaf() {
     constexpr int leaves = 1'000'000;
-    const std::wstring command = brx::module_path() + L" --bytes " + whose + L" " + std::to_wstring(leaves);
+    const std::wstring command = brx::module_path() + L" --bytes " + std::to_wstring(leaves);
     FILE* answer = _wpopen(command.c_str(), L"r");
     double bytes = 0;
     if (!answer || std::fscanf(answer, "%lf", &bytes) != 1 || bytes <= 0)
@@ -71,21 +72,23 @@ private:
 
 void measure_items(Table& table) {
     table.measure(3, [] {
-        const Comparison small(open_list, open_item_browser, flat_space(100'000), flat_space(1), 15);
-        print_line("100,000 leaves shown", small.floor_shown(), small.dialog_shown(), 1.25);
-        const Comparison large(open_list, open_item_browser, flat_space(1'000'000), flat_space(1));
-        print_line("1,000,000 leaves shown", large.floor_shown(), large.dialog_shown(), 1.25);
+        const Comparison small(read_list, open_item_browser, flat_space(100'000), flat_space(1), 15);
+        print_line("100,000 leaves shown", small.floor_shown(), small.dialog_shown(), 3);
+        const Comparison large(read_list, open_item_browser, flat_space(1'000'000), flat_space(1));
+        print_line("1,000,000 leaves shown", large.floor_shown(), large.dialog_shown(), 3);
         print_line("1,000,000 leaves after 100,000", small.dialog_shown(), large.dialog_shown(), 11);
     });
     table.measure(2, [] {
         const AddressSpace least = {.branches = 1, .sub_branches = 1};
         const Comparison root(open_tree, open_item_browser, {.branches = 50'000, .sub_branches = 1}, least);
-        print_line("50,000 branches shown at the root", root.floor_shown(), root.dialog_shown(), 1.25);
+        print_line("50,000 branches shown at the root", root.floor_shown(), root.dialog_shown(), 1.1);
         const Comparison branch(open_tree, open_item_browser, {.branches = 1, .sub_branches = 10'000}, least);
-        print_line("a branch of 10,000 expanded", branch.floor_expanded(), branch.dialog_expanded(), 1.25);
+        print_line("a branch of 10,000 expanded", branch.floor_expanded(), branch.dialog_expanded(), 1.1);
     });
-    table.measure(
-        1, [] { print_line("memory for a leaf", bytes_per_leaf(L"floor"), bytes_per_leaf(L"dialog"), 1.5); });
+    table.measure(1, [] {
+        constexpr double text_and_place = Names::length_of_leaf * sizeof(wchar_t) + 8;
+        print_line("memory for a leaf", text_and_place, bytes_per_leaf(), 1);
+    });
 }
 
 void measure_configuration(Table& table) {
@@ -108,11 +111,30 @@ void measure_configuration(Table& table) {
         1, [&] { tick("the same, groups made when asked for", {.groups = 1'000, .fresh_groups = true}); });
 }
 
-int print_table(const std::string& subject) {
+/// From `Show` to the window that waits for input.
+void measure_openings(Table& table) {
+    for (const std::string& name : dialogs())
+        table.measure(1, [&] {
+            const Template made = template_of(name);
+            Series bare;
+            Series shown;
+            for (int round = 0; round < 15; ++round) {
+                bare.add(open_template(made).shown);
+                shown.add(open_dialog(name).shown);
+            }
+            print_line((name + " opened").c_str(), bare, shown, 1.2);
+        });
+}
+
+const std::map<std::string, void (*)(Table&)> subjects = {
+    {"items", measure_items}, {"configuration", measure_configuration}, {"openings", measure_openings}};
+
+/// Of one subject, or of all.
+int print_table(const std::string& wanted) {
     Table table;
     print_heading();
-    if (subject != "configuration") measure_items(table);
-    if (subject != "items") measure_configuration(table);
+    for (const auto& [subject, measure] : subjects)
+        if (wanted.empty() || wanted == subject) measure(table);
     return table.close();
 }
 
@@ -125,14 +147,16 @@ int main(int argc, char** argv) {
     try {
         if (arguments.empty()) {
             status = print_table({});
-        } else if (arguments.size() == 1 && (arguments[0] == "items" || arguments[0] == "configuration")) {
+        } else if (arguments.size() == 1 && subjects.contains(arguments[0])) {
             status = print_table(arguments[0]);
-        } else if (arguments.size() == 3 && arguments[0] == "--bytes") {
-            const Open open = arguments[1] == "floor" ? open_list : open_item_browser;
-            std::printf("%zu\n", bytes_of(open, std::stoi(arguments[2])));
+        } else if (arguments.size() == 2 && arguments[0] == "--open") {
+            std::printf("%.1f ms\n", open_dialog(arguments[1]).shown.elapsed);
+            status = EXIT_SUCCESS;
+        } else if (arguments.size() == 2 && arguments[0] == "--bytes") {
+            std::printf("%zu\n", bytes_of(std::stoi(arguments[1])));
             status = EXIT_SUCCESS;
         } else {
-            std::fprintf(stderr, "brx_bench [items|configuration|--bytes floor|dialog N]\n");
+            std::fprintf(stderr, "brx_bench [items|configuration|openings|--open NAME|--bytes N]\n");
         }
     } catch (const std::exception& error) {
         std::fprintf(stderr, "brx_bench: %s\n", error.what());

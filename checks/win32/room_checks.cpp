@@ -267,9 +267,6 @@ TEST_F(RoomTest, AListIsDrawnInItsOwnColorAlsoWhileItIsDisabled) {
                 form.List.set_back_color(color::button_face);
             });
         });
-        const Paint paint = paint_of(hands, list, WM_CTLCOLORLISTBOX);
-        EXPECT_EQ(paint.background, GetSysColor(COLOR_BTNFACE));
-        EXPECT_EQ(paint.text, GetSysColor(COLOR_GRAYTEXT));
         EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_BTNFACE)), 0);
         hands.run([&] {
             form.run_event([&] {
@@ -277,7 +274,6 @@ TEST_F(RoomTest, AListIsDrawnInItsOwnColorAlsoWhileItIsDisabled) {
                 form.List.set_back_color(color::window);
             });
         });
-        EXPECT_EQ(paint_of(hands, list, WM_CTLCOLORLISTBOX).background, GetSysColor(COLOR_WINDOW));
         EXPECT_EQ(points_unlike(hands, list, GetSysColor(COLOR_WINDOW)), 0);
     });
 }

@@ -248,8 +248,8 @@ TEST_F(ServicesTest, RepaintingShowsALineWhileTheHandlerGoesOn) {
             EXPECT_FALSE(GetUpdateRect(child, nullptr, FALSE));
             wchar_t name[16] = L"";
             GetClassNameW(child, name, 16);
-            if (std::wstring(name) != L"ListBox") continue;
-            EXPECT_EQ(SendMessageW(child, LB_GETCOUNT, 0, 0), 1);
+            if (std::wstring(name) != WC_LISTVIEWW) continue;
+            EXPECT_EQ(SendMessageW(child, LVM_GETITEMCOUNT, 0, 0), 1);
             looked = true;
         }
     };

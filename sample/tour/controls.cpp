@@ -17,6 +17,21 @@ bool is_combo_box(HWND window) {
     return std::wstring(name) == L"ComboBox";
 }
 
+Lines lines_of_combo_box(HWND list) {
+    Lines lines;
+    const LRESULT count = ask(list, CB_GETCOUNT);
+    for (LRESULT i = 0; i < count; ++i) {
+        const auto index = static_cast<WPARAM>(i);
+        const LRESULT length = ask(list, CB_GETLBTEXTLEN, index);
+        if (length < 0) break; // the list has grown shorter meanwhile
+        std::wstring line(static_cast<std::size_t>(length) + 1, L'\0');
+        ask(list, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(line.data()));
+        line.resize(static_cast<std::size_t>(length));
+        lines.push_back(line);
+    }
+    return lines;
+}
+
 } // namespace
 
 std::wstring text_of(HWND window) {
@@ -26,19 +41,10 @@ std::wstring text_of(HWND window) {
     return text;
 }
 
-Lines lines_of(HWND list) {
-    const bool combo = is_combo_box(list);
+Lines lines_of(const Program& program, HWND list) {
+    if (is_combo_box(list)) return lines_of_combo_box(list);
     Lines lines;
-    const LRESULT count = ask(list, combo ? CB_GETCOUNT : LB_GETCOUNT);
-    for (LRESULT i = 0; i < count; ++i) {
-        const auto index = static_cast<WPARAM>(i);
-        const LRESULT length = ask(list, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index);
-        if (length < 0) break; // the list has grown shorter meanwhile
-        std::wstring line(static_cast<std::size_t>(length) + 1, L'\0');
-        ask(list, combo ? CB_GETLBTEXT : LB_GETTEXT, index, reinterpret_cast<LPARAM>(line.data()));
-        line.resize(static_cast<std::size_t>(length));
-        lines.push_back(line);
-    }
+    for (int row = 0; row < rows_of(list); ++row) lines.push_back(cell_of(program, list, row, 0));
     return lines;
 }
 
@@ -87,9 +93,12 @@ void hit(HWND control, WPARAM key) {
     PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }
 
-void click_line(HWND list, int line, bool twice) {
-    const auto height = static_cast<LONG>(ask(list, LB_GETITEMHEIGHT));
-    const POINT place{20, line * height + height / 2};
+void click_line(const Program& program, HWND list, int line, bool twice) {
+    ask(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(line));
+    const Lent<RECT> there(program, {LVIR_BOUNDS, 0, 0, 0});
+    ask(list, LVM_GETITEMRECT, static_cast<WPARAM>(line), there.address());
+    const RECT bounds = there.read();
+    const POINT place{20, (bounds.top + bounds.bottom) / 2};
     click(list, place);
     if (!twice) return;
     const LPARAM at = MAKELPARAM(place.x, place.y);

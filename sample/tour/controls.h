@@ -15,7 +15,7 @@ using Lines = std::vector<std::wstring>;
 
 std::wstring text_of(HWND window);
 /// The lines of a list box or a combo box.
-Lines lines_of(HWND list);
+Lines lines_of(const Program& program, HWND list);
 /// The text of a message box.
 std::wstring message_of(HWND box);
 /// How many rows a list view has, and which one is selected, from 0; -1 for none.
@@ -29,7 +29,7 @@ void press(HWND button);
 void type(HWND box, const std::wstring& text);
 void hit(HWND control, WPARAM key);
 /// Clicks on a line of a list box, or double-clicks.
-void click_line(HWND list, int line, bool twice = false);
+void click_line(const Program& program, HWND list, int line, bool twice = false);
 /// Clicks on a tab, counted from 1.
 void click_tab(const Program& program, HWND tab_strip, int tab);
 /// Types into the fields of a date or time picker, from the first one on.

@@ -29,7 +29,7 @@ void Visit::click_on(const std::wstring& list, const std::wstring& line, bool tw
     const Lines all = lines(list);
     const auto found = std::ranges::find(all, line);
     if (found == all.end()) throw Disappointment{L"There is no line " + line};
-    click_line(program_.control(list), static_cast<int>(found - all.begin()), twice);
+    click_line(program_, program_.control(list), static_cast<int>(found - all.begin()), twice);
 }
 
 void Visit::fill_in(const std::wstring& box, const std::wstring& text) const {

@@ -37,7 +37,7 @@ public:
 private:
     // What she reads in the window in front.
     bool at(const std::wstring& name) const { return program_.front_name() == name; }
-    Lines lines(const std::wstring& list) const { return lines_of(program_.control(list)); }
+    Lines lines(const std::wstring& list) const { return lines_of(program_, program_.control(list)); }
     std::wstring reads(const std::wstring& control) const { return text_of(program_.control(control)); }
     Tree tree() const { return {program_, program_.control(L"TrView")}; }
     bool is_visible(const std::wstring& control) const { return IsWindowVisible(program_.control(control)); }

@@ -1,6 +1,7 @@
 #include "forms/list_control.h"
 
 #include "common/error.h"
+#include "forms/list_rows.h"
 
 #include <algorithm>
 
@@ -48,6 +49,10 @@ void ListControl::reset() {
 void ListControl::select_text(std::string_view text) {
     for (int index = 0; index < count(); ++index)
         if (line(index) == text) return select(index);
+}
+
+int ListBox::line_beginning_with(std::string_view text, int start) const {
+    return text_beginning_with(text, start, count(), [this](int index) { return line(index); });
 }
 
 void ListControl::read_content(Aspect aspects, Reading& into, int most_lines) const {

@@ -88,6 +88,14 @@ public:
         if (index < 0 || index != selected()) return user_select(index);
         return by_person([this] { fire_click(); });
     }
+    /// The first line that begins so, whatever the case, from `start` on and round the end; -1 for none.
+    int line_beginning_with(std::string_view text, int start) const;
+    /// A person typed a character: the next line that begins with it is chosen. The blank searches nothing.
+    bool user_search(std::string_view character) {
+        if (character == " ") return true;
+        const int found = line_beginning_with(character, selected() + 1);
+        return found >= 0 && user_select(found);
+    }
 };
 
 /// A drop-down list: a person chooses a line and cannot type.

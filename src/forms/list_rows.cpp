@@ -6,14 +6,20 @@
 
 namespace brx {
 
-int row_beginning_with(const ListView& list, const std::string& text, int start) {
-    const std::string wanted = to_upper(text);
-    const int first = start < 1 || start > list.count() ? 1 : start;
-    for (int i = 0; i < list.count(); ++i) {
-        const int position = (first - 1 + i) % list.count() + 1;
-        if (to_upper(list.row(position).text()).starts_with(wanted)) return position;
+int text_beginning_with(std::string_view wanted, int start, int count,
+                        const std::function<std::string_view(int)>& text_of) {
+    const std::string beginning = to_upper(wanted);
+    const int first = start < 0 || start >= count ? 0 : start;
+    for (int i = 0; i < count; ++i) {
+        const int index = (first + i) % count;
+        if (to_upper(text_of(index)).starts_with(beginning)) return index;
     }
-    return 0;
+    return -1;
+}
+
+int row_beginning_with(const ListView& list, const std::string& text, int start) {
+    const auto text_of = [&](int index) -> std::string_view { return list.row(index + 1).text(); };
+    return text_beginning_with(text, start - 1, list.count(), text_of) + 1;
 }
 
 int row_from_keyboard(const ListView& list, int rows) {

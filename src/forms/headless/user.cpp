@@ -6,6 +6,7 @@
 #include "forms/check_box.h"
 #include "forms/date_picker.h"
 #include "forms/headless/user_parts.h"
+#include "forms/list_control.h"
 #include "forms/list_view.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
@@ -102,7 +103,9 @@ bool HeadlessUser::type(const std::string& text) {
         auto* box = as<TextBox>(focused());
         // What has no use for characters leaves letters to the form.
         const bool leaves_it = as<Button>(focused()) || as<CheckBox>(focused());
-        const bool taken = box ? press_character(*box, character) : leaves_it && accelerator(character[0]);
+        const bool taken = as<ListBox>(focused()) ? search_list(character)
+                           : box                  ? press_character(*box, character)
+                                                  : leaves_it && accelerator(character[0]);
         if (!taken) return false;
     }
     return true;
@@ -186,6 +189,7 @@ bool HeadlessUser::space() {
     if (auto* button = as<Button>(focused())) return button->user_click();
     if (auto* box = as<CheckBox>(focused())) return box->user_toggle();
     if (auto* table = as<ListView>(focused()); table && table->selected() == 0) return move(0);
+    if (auto* list = as<ListBox>(focused())) return list->selected() >= 0 || move(0);
     return type(" ");
 }
 

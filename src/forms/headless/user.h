@@ -53,6 +53,7 @@ private:
     Control* focused() const;
     bool search_tree(const std::string& text);
     bool search_table(const std::string& text);
+    bool search_list(const std::string& character);
     bool press_character(TextBox& box, const std::string& character);
 
     HeadlessEngine& engine_;

@@ -93,6 +93,12 @@ bool HeadlessUser::search_table(const std::string& text) {
     return found != 0 && table.user_select(found);
 }
 
+/// A list box goes by one character at a time.
+bool HeadlessUser::search_list(const std::string& character) {
+    auto& list = *as<ListBox>(focused());
+    return list.user_search(character);
+}
+
 bool HeadlessUser::left() {
     if (auto* strip = as<TabStrip>(focused()))
         return strip->selected() == 1 || strip->user_select(strip->selected() - 1);

@@ -6,13 +6,7 @@
 #include "forms/win32/window_name.h"
 #include "win32/this_module.h"
 
-#include <commctrl.h>
-
 namespace brx {
-
-namespace {
-constexpr UINT_PTR subclass_id = 1;
-}
 
 ControlPeer::ControlPeer(FormWindow& window, Control& control, const NativeControl& native)
     : Peer(control), window_(window), control_(control) {
@@ -20,18 +14,19 @@ ControlPeer::ControlPeer(FormWindow& window, Control& control, const NativeContr
     handle_ = CreateWindowExW(native.ex_style, native.window_class, L"",
                               WS_CHILD | WS_CLIPSIBLINGS | native.style, 0, 0, 0, 0, window.handle(),
                               reinterpret_cast<HMENU>(window.next_id()), this_module(), nullptr);
-    if (handle_) native_procedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
-    if (!handle_ || !set_window_name(handle_, control.name()) ||
-        !SetWindowSubclass(handle_, procedure, subclass_id, reinterpret_cast<DWORD_PTR>(this)))
+    if (!handle_ || !set_window_name(handle_, control.name())) {
+        if (handle_) DestroyWindow(handle_);
         throw Error(error::out_of_memory);
+    }
+    SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    native_procedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     send(WM_SETFONT, reinterpret_cast<WPARAM>(window.font()), FALSE);
 }
 
 ControlPeer::~ControlPeer() {
-    if (!handle_) return;
-    RemoveWindowSubclass(handle_, procedure, subclass_id);
-    remove_window_name(handle_);
-    DestroyWindow(handle_);
+    closing_ = true;
+    if (handle_) DestroyWindow(handle_);
 }
 
 void ControlPeer::refresh(Aspect aspects) {
@@ -81,18 +76,17 @@ HBRUSH ControlPeer::set_colors(HDC dc) const {
 }
 
 LRESULT ControlPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    return DefSubclassProc(handle_, message, wparam, lparam);
+    return send_directly(message, wparam, lparam);
 }
 
-LRESULT CALLBACK ControlPeer::procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                        DWORD_PTR data) noexcept {
-    auto& self = *reinterpret_cast<ControlPeer*>(data);
+LRESULT CALLBACK ControlPeer::procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+    auto& self = *reinterpret_cast<ControlPeer*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
     if (message == WM_NCDESTROY) {
         remove_window_name(handle);
-        RemoveWindowSubclass(handle, procedure, subclass_id);
         self.handle_ = nullptr;
-        return DefSubclassProc(handle, message, wparam, lparam);
     }
+    if (!self.handle_ || self.closing_)
+        return CallWindowProcW(self.native_procedure_, handle, message, wparam, lparam);
     LRESULT result = 0;
     attempt([&] { result = self.handle_message(message, wparam, lparam); });
     if (message == WM_SETFOCUS) self.window_.focus_came_to(self);

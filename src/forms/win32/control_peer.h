@@ -67,13 +67,15 @@ protected:
     }
 
 private:
-    static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR id,
-                                      DWORD_PTR self) noexcept;
+    /// Not the common controls' way to put one before a window's own, by which each message asks for a
+    /// property of the window three times: on some systems that is a question to another process.
+    static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
 
     FormWindow& window_;
     Control& control_;
     HWND handle_ = nullptr;
     WNDPROC native_procedure_ = DefWindowProcW;
+    bool closing_ = false;
 };
 
 /// The peer that suits the control's kind.

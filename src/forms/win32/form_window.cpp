@@ -179,6 +179,7 @@ void FormWindow::give_font_to_controls() {
 }
 
 void FormWindow::redraw_area_of(HWND window) const {
+    if (!IsWindowVisible(handle_)) return;
     RECT area{};
     GetWindowRect(window, &area);
     MapWindowPoints(nullptr, handle_, reinterpret_cast<POINT*>(&area), 2);

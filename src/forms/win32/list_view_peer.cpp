@@ -1,67 +1,28 @@
 #include "forms/win32/list_view_peer.h"
 
 #include "common/error.h"
-#include "forms/win32/common_controls.h"
+#include "forms/list_rows.h"
 #include "forms/win32/form_window.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace brx {
 
-namespace {
-
-constexpr DWORD list_style =
-    LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER;
-constexpr LPARAM extended_style = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
-constexpr UINT selected_and_focused = LVIS_SELECTED | LVIS_FOCUSED;
-
-LVITEMW state_of(UINT state, UINT mask) {
-    LVITEMW item{};
-    item.state = state;
-    item.stateMask = mask;
-    return item;
-}
-
-} // namespace
-
 ListViewPeer::ListViewPeer(FormWindow& window, ListView& list)
-    : ControlPeer(window, list, {common_control(WC_LISTVIEWW), list_style | WS_TABSTOP, WS_EX_CLIENTEDGE}),
-      list_(list) {
-    send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, extended_style);
+    : RowsPeer(window, list, LVS_NOSORTHEADER), list_(list) {
     make_bold_font();
-}
-
-void ListViewPeer::show(Aspect aspects) {
-    ControlPeer::show(aspects); // first, for a list scrolls to its selection within the place it has
-    if (has(aspects, Aspect::place)) fit_columns();
-    if (has(aspects, Aspect::colors)) show_colors();
-    if (has(aspects, Aspect::lines)) show_rows();
-    if (has(aspects, Aspect::lines | Aspect::place)) show_tip();
-    if (has(aspects, Aspect::selection) && shown_selection_ != list_.selected()) show_selection();
-}
-
-void ListViewPeer::show_colors() {
-    // On its own it follows the system's colours for windows, also while it is disabled.
-    const bool usual = list_.back_color() == color::window && list_.fore_color() == color::window_text;
-    if (usual && !own_colors_) return;
-    own_colors_ = true;
-    const auto back = static_cast<LPARAM>(Palette::rgb(list_.back_color()));
-    send(LVM_SETBKCOLOR, 0, back);
-    send(LVM_SETTEXTBKCOLOR, 0, back);
-    send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(Palette::rgb(list_.fore_color())));
 }
 
 void ListViewPeer::show_rows() {
     const ListView::Changes changes = list_.take_changes();
     if (changes.columns || widths_.size() < list_.columns().size()) add_columns();
-    if (changes.rows || shown_count_ != list_.count()) {
-        shown_count_ = list_.count();
-        send(LVM_SETITEMCOUNT, static_cast<WPARAM>(shown_count_), LVSICF_NOSCROLL);
-        show_selection(); // it went by numbers, and other rows have them now
-        InvalidateRect(handle(), nullptr, FALSE);
-    } else {
-        redraw(changes.positions);
+    if (changes.rows || shown_count() != list_.count()) return show_all_rows();
+    const std::vector<int>& positions = changes.positions;
+    for (auto first = positions.begin(); first != positions.end();) {
+        auto last = first;
+        while (last + 1 != positions.end() && *(last + 1) == *last + 1) ++last;
+        redraw(*first - 1, *last - 1);
+        first = last + 1;
     }
 }
 
@@ -99,32 +60,44 @@ void ListViewPeer::fit_columns() {
     shown_by_ = by;
 }
 
-void ListViewPeer::redraw(const std::vector<int>& positions) {
-    for (auto first = positions.begin(); first != positions.end();) {
-        auto last = first;
-        while (last + 1 != positions.end() && *(last + 1) == *last + 1) ++last;
-        send(LVM_REDRAWITEMS, static_cast<WPARAM>(*first - 1), *last - 1);
-        first = last + 1;
+/// On a row or beside the rows.
+void ListViewPeer::press(int row, bool twice) {
+    if (!window().report([&] { return select_row(row); })) return;
+    if (twice) open_row();
+}
+
+void ListViewPeer::open_row() {
+    window().report([&] { return list_.user_double_click(); });
+}
+
+int ListViewPeer::row_beginning_with(const std::string& text, int start) const {
+    return brx::row_beginning_with(list_, text, start + 1) - 1;
+}
+
+LRESULT ListViewPeer::paint(NMLVCUSTOMDRAW& drawing) const {
+    NMCUSTOMDRAW& part = drawing.nmcd;
+    switch (part.dwDrawStage) {
+    case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+        return CDRF_NOTIFYSUBITEMDRAW;
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+        const auto row = static_cast<int>(part.dwItemSpec);
+        if (!in_range(row, drawing.iSubItem)) return CDRF_DODEFAULT;
+        const CellLook look = list_.row(row + 1).look(drawing.iSubItem);
+        // Of the selected row the system changes only the font: its background has a colour for text.
+        const bool colored = look.fore_color != color::window_text && !Palette::high_contrast();
+        drawing.clrText = Palette::rgb(colored ? look.fore_color : list_.fore_color());
+        SelectObject(part.hdc, font_of(row, drawing.iSubItem));
+        return CDRF_NEWFONT;
+    }
+    default:
+        return CDRF_DODEFAULT;
     }
 }
 
-void ListViewPeer::show_selection() {
-    shown_selection_ = list_.selected();
-    LVITEMW nothing = state_of(0, selected_and_focused);
-    const auto set = [&](int index, LVITEMW& state) {
-        send(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&state));
-    };
-    const int wanted = list_.selected() - 1;
-    const int before = selected_index();
-    if (before != wanted || wanted < 0) set(-1, nothing);
-    if (wanted >= 0) {
-        LVITEMW both = state_of(selected_and_focused, selected_and_focused);
-        set(wanted, both);
-        send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
-    } else if (list_.focus_row() > 0) {
-        LVITEMW focused = state_of(LVIS_FOCUSED, LVIS_FOCUSED);
-        set(list_.focus_row() - 1, focused);
-    }
+HFONT ListViewPeer::font_of(int row, int column) const {
+    return list_.row(row + 1).look(column).bold && bold_ ? bold_.get() : window().font();
 }
 
 void ListViewPeer::make_bold_font() {
@@ -137,14 +110,6 @@ void ListViewPeer::make_bold_font() {
 void ListViewPeer::font_changed() {
     make_bold_font();
     ControlPeer::font_changed();
-}
-
-const ListRow* ListViewPeer::row_at(int index) const {
-    return index >= 0 && index < list_.count() ? &list_.row(index + 1) : nullptr;
-}
-
-int ListViewPeer::selected_index() const {
-    return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
 } // namespace brx

@@ -1,5 +1,6 @@
+#include "forms/win32/combo_box_peer.h"
 #include "forms/win32/date_picker_peer.h"
-#include "forms/win32/list_peer.h"
+#include "forms/win32/list_box_peer.h"
 #include "forms/win32/list_view_peer.h"
 #include "forms/win32/simple_peers.h"
 #include "forms/win32/tab_peer.h"

@@ -10,16 +10,16 @@ namespace brx {
 namespace {
 
 /// Answers whether to go on to the next window.
-using Look = std::function<bool(HWND)>;
+using Visit = std::function<bool(HWND)>;
 
 BOOL CALLBACK look_at(HWND window, LPARAM look) noexcept {
     BOOL go_on = FALSE;
-    attempt([&] { go_on = (*reinterpret_cast<const Look*>(look))(window); });
+    attempt([&] { go_on = (*reinterpret_cast<const Visit*>(look))(window); });
     return go_on;
 }
 
 /// Looks at the thread's top-level windows, uppermost first.
-void for_each_thread_window(const Look& look) {
+void for_each_thread_window(const Visit& look) {
     EnumThreadWindows(GetCurrentThreadId(), look_at, reinterpret_cast<LPARAM>(&look));
 }
 
