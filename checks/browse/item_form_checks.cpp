@@ -58,6 +58,13 @@ TEST_F(ItemForm, KeysAndTagsAreTheWholePath) {
     });
 }
 
+TEST_F(ItemForm, TheBrowserGetsAPathThatCountsFrom0) {
+    while_open([&] {
+        EXPECT_TRUE(tree().user_expand(tree().node("Line1")));
+        EXPECT_EQ(host.browser->lower_bound, 0);
+    });
+}
+
 TEST_F(ItemForm, AnUnreadBranchHasOnePlaceholderWithoutAKey) {
     while_open([&] {
         const TreeNode* under_root = tree().node("Line1").child();

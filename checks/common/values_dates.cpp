@@ -2,6 +2,8 @@
 
 #include "common/values/calendar.h"
 
+#include <array>
+#include <ctime>
 #include <limits>
 
 namespace brx {
@@ -62,6 +64,13 @@ TEST(ReadDate, TakesNamesOfMonthsAndDaysInAnyLetterCase) {
     EXPECT_EQ("", read("5 March 2026", de));
     EXPECT_EQ("", read("5 Marchx 2026"));
     EXPECT_EQ("", read("March"));
+}
+
+TEST(ReadDate, TakesTheLongestNameThatFits) {
+    Locale locale = us;
+    locale.months[0] = "Ju";
+    EXPECT_EQ("2026-06-05", read("5 June 2026", locale));
+    EXPECT_EQ("2026-01-05", read("5 Ju 2026", locale));
 }
 
 TEST(ReadDate, FillsUpWhatIsLeftOut) {
@@ -156,6 +165,10 @@ TEST(ToDate, TakesANumberOfDaysForWhatIsNoDate) {
 }
 
 TEST(ToDate, AddsTheCurrentYear) {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 8> digits{};
+    std::strftime(digits.data(), digits.size(), "%Y", std::localtime(&now));
+    EXPECT_EQ(std::to_string(current_year()), digits.data());
     const Date date = to_date("January 5", us);
     EXPECT_EQ(day_number(current_year(), 1, 5), static_cast<int>(date.days));
 }

@@ -38,9 +38,18 @@ TEST(Vartype, NamesEveryKind) {
 }
 
 TEST(IsNumericOfAVariant, IsTrueForNumbersBooleansAndEmpty) {
-    const Variant numeric[] = {
-        empty,       std::int16_t{1}, std::int32_t{1},         1.0F, 1.0, Currency{1}, true,
-        text("1.5"), byte_number(),   Opaque{14, nullptr, "1"}};
+    const Variant numeric[] = {empty,
+                               std::int16_t{1},
+                               std::int32_t{1},
+                               1.0F,
+                               1.0,
+                               Currency{1},
+                               true,
+                               text("1.5"),
+                               byte_number(),
+                               Opaque{14, nullptr, "1"},
+                               Opaque{16, nullptr, "1"},
+                               Opaque{23, nullptr, "1"}};
     for (const Variant& value : numeric) EXPECT_TRUE(is_numeric(value, us)) << vartype(value);
     const Variant other[] = {null,
                              missing,

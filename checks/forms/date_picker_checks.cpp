@@ -41,6 +41,18 @@ TEST_F(DatePickers, TextIsTheDateOrTheTimeOfDay) {
     });
 }
 
+TEST_F(DatePickers, AnotherValueIsReadAgainAsAValue) {
+    while_open([&] {
+        Reading seen;
+        day.set_value(date(2026, 11, 21));
+        day.read(Aspect::value, seen);
+        EXPECT_EQ(seen.text, "2026-11-21");
+        seen = {};
+        day.read(Aspect::colors, seen);
+        EXPECT_EQ(seen.text, "");
+    });
+}
+
 TEST_F(DatePickers, ValuesGoFrom1601To9999) {
     while_open([&] {
         day.set_value(date(1601, 1, 1));

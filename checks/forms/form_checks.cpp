@@ -78,6 +78,8 @@ TEST_F(Forms, AnInstanceThatIsShownAgainStartsFromItsDesign) {
         form.button.set_enabled(false);
         form.box.set_back_color(color::red);
         form.panel.bring_to_front();
+        for (Control* control : form.controls())
+            if (control != &form.timer) control->set_visible(false);
     });
     while_open([&] {
         EXPECT_EQ(form.caption(), "One form");
@@ -89,6 +91,7 @@ TEST_F(Forms, AnInstanceThatIsShownAgainStartsFromItsDesign) {
         EXPECT_TRUE(form.button.enabled());
         EXPECT_EQ(form.box.back_color(), color::window);
         EXPECT_FALSE(form.panel.in_front());
+        for (const Control* control : form.controls()) EXPECT_TRUE(control->visible()) << control->name();
     });
 }
 
@@ -121,6 +124,15 @@ TEST_F(Forms, PeersAreBroughtUpToDateOnceWhenAHandlerReturns) {
         };
         form.button.user_click();
         EXPECT_EQ(peer.refreshed, (std::vector<Aspect>{Aspect::lines | Aspect::selection}));
+    });
+}
+
+TEST_F(Forms, AnotherCaptionIsShown) {
+    while_open([&] {
+        NotingPeer peer(form);
+        form.on_click = [&] { form.set_caption("Another"); };
+        form.button.user_click();
+        EXPECT_EQ(peer.refreshed, (std::vector<Aspect>{Aspect::text}));
     });
 }
 
@@ -165,9 +177,13 @@ TEST_F(Forms, AValueThatIsAlreadyThereIsNotShownAgain) {
             form.box.set_text("design");
             form.box.set_enabled(true);
             form.box.set_back_color(color::window);
+            form.box.set_fore_color(color::window_text);
+            form.set_caption("One form");
         };
+        NotingPeer whole(form);
         form.button.user_click();
         EXPECT_TRUE(peer.refreshed.empty());
+        EXPECT_TRUE(whole.refreshed.empty());
     });
 }
 

@@ -41,6 +41,32 @@ TEST_F(ServerForms, EachHasItsOwnHelpTopic) {
     EXPECT_EQ(topics, (std::vector<std::int32_t>{193, 195, 198}));
 }
 
+TEST_F(ServerForms, ComingToTheNodeSelectsItsWholeText) {
+    dlgServerAdd add(environment);
+    add.set_servers(host.servers);
+    engine.while_open = [&](Form& form) {
+        const ModalTurn waiting(&form);
+        auto& node = *find<TextBox>(form, "txtNode");
+        EXPECT_TRUE(node.user_text("PC7"));
+        EXPECT_TRUE(find<ListBox>(form, "lstOPCServers")->user_focus());
+        EXPECT_FALSE(node.all_selected());
+        EXPECT_TRUE(node.user_focus());
+        EXPECT_TRUE(node.all_selected());
+    };
+    add.show_modal();
+    EXPECT_TRUE(host.reports.empty());
+}
+
+TEST_F(ServerForms, AnOutcomeThatAnOwnerSetsIsToldUntilTheNextShowing) {
+    dlgServerAdd add(environment);
+    add.set_servers(host.servers);
+    add.set_OKPressed(true);
+    EXPECT_TRUE(add.OKPressed());
+    engine.while_open = [&](Form&) { EXPECT_FALSE(add.OKPressed()); };
+    add.show_modal();
+    EXPECT_FALSE(add.OKPressed());
+}
+
 TEST_F(ServerForms, InformationWithoutAServerStaysEmptyAndReportsNothing) {
     dlgServerInformation information(environment);
     engine.while_open = [&](Form& form) {

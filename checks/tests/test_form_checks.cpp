@@ -48,6 +48,28 @@ struct TestForm : testing::Test {
 
 } // namespace
 
+TEST_F(TestForm, TellsWhatItsOwnerGaveIt) {
+    form.set_OKPressed(true);
+    form.set_TestId(7);
+    form.set_TestName("Length");
+    form.set_TestGroupID(3);
+    form.set_TestGroupName("Sizes");
+    form.set_ItemTrigger(true);
+    form.set_TriggerExpression(2);
+    form.set_TriggerValue(std::int32_t{5});
+    form.set_ClientHandle(9);
+    EXPECT_TRUE(form.OKPressed());
+    EXPECT_EQ(form.TestId(), 7);
+    EXPECT_EQ(form.TestName(), "Length");
+    EXPECT_EQ(form.TestGroupID(), 3);
+    EXPECT_EQ(form.TestGroupName(), "Sizes");
+    EXPECT_EQ(form.TestOPCItemID(), "Line1.Speed");
+    EXPECT_TRUE(form.ItemTrigger());
+    EXPECT_EQ(form.TriggerExpression(), 2);
+    EXPECT_EQ(form.TriggerValue(), Variant(std::int32_t{5}));
+    EXPECT_EQ(form.ClientHandle(), 9);
+}
+
 TEST_F(TestForm, AConstantThatIsNoNumberIsWrittenRedAndStaysSo) {
     while_open([&] {
         constant().user_text("1");

@@ -63,6 +63,7 @@ void FakeBrowser::MoveTo(const StringArray& branches) {
     std::string names;
     for (const std::string& name : branches.elements) names += (names.empty() ? "" : "|") + name;
     note("MoveTo", "(" + names + ")");
+    lower_bound = branches.lower_bound;
     here_ = &root;
     path_.clear();
     for (const std::string& name : branches.elements) {

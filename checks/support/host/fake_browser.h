@@ -33,6 +33,8 @@ public:
     std::int32_t organization = 1;
     /// What Count answers instead of the truth.
     std::optional<std::int32_t> claimed_count;
+    /// Of the path that MoveTo was given last.
+    std::int32_t lower_bound = -1;
     /// These members fail, whoever calls them.
     std::set<std::string> failing;
     /// Runs before each call, with the member's name.
