@@ -22,6 +22,11 @@ void Person::must(bool done, const std::string& deed) {
     give_up("She could not " + deed + "; in front is: " + (front.empty() ? "nothing" : front));
 }
 
+void Person::does(bool done, const std::string& deed) {
+    must(done, deed);
+    afterwards();
+}
+
 void Person::is_at(const std::string& form) {
     must(screen_.front() == form, "see " + (form.empty() ? "nothing" : form) + " in front");
 }
@@ -44,7 +49,7 @@ bool Person::can_press(const std::string& button) {
     return sight.enabled && sight.visible;
 }
 
-void Person::presses(const std::string& button) { must(screen_.press(button), "press " + button); }
+void Person::presses(const std::string& button) { does(screen_.press(button), "press " + button); }
 
 int Person::find_line(const std::string& list, const std::string& line) {
     const Lines lines = lines_of(list);
@@ -54,11 +59,11 @@ int Person::find_line(const std::string& list, const std::string& line) {
 }
 
 void Person::picks(const std::string& list, const std::string& line) {
-    must(screen_.choose(list, find_line(list, line)), "pick \"" + line + "\" in " + list);
+    does(screen_.choose(list, find_line(list, line)), "pick \"" + line + "\" in " + list);
 }
 
 void Person::double_clicks(const std::string& list, const std::string& line) {
-    must(screen_.double_click(list, find_line(list, line)), "double-click \"" + line + "\" in " + list);
+    does(screen_.double_click(list, find_line(list, line)), "double-click \"" + line + "\" in " + list);
 }
 
 /// The first row whose text, without what shows its level and sign, is this.
@@ -76,24 +81,24 @@ int Person::find_node(const std::string& tree, const std::string& node) {
 }
 
 void Person::clicks_node(const std::string& tree, const std::string& node) {
-    must(screen_.choose(tree, find_node(tree, node)), "click \"" + node + "\" in " + tree);
+    does(screen_.choose(tree, find_node(tree, node)), "click \"" + node + "\" in " + tree);
 }
 
 void Person::expands(const std::string& tree, const std::string& node) {
-    must(screen_.expand(tree, find_node(tree, node)), "expand \"" + node + "\" in " + tree);
+    does(screen_.expand(tree, find_node(tree, node)), "expand \"" + node + "\" in " + tree);
 }
 
 void Person::collapses(const std::string& tree, const std::string& node) {
-    must(screen_.collapse(tree, find_node(tree, node)), "collapse \"" + node + "\" in " + tree);
+    does(screen_.collapse(tree, find_node(tree, node)), "collapse \"" + node + "\" in " + tree);
 }
 
-void Person::ticks(const std::string& check_box) { must(screen_.toggle(check_box), "tick " + check_box); }
+void Person::ticks(const std::string& check_box) { does(screen_.toggle(check_box), "tick " + check_box); }
 
 void Person::sets(const std::string& picker, const std::string& date) {
-    must(screen_.set_date(picker, date), "set " + picker + " to " + date);
+    does(screen_.set_date(picker, date), "set " + picker + " to " + date);
 }
 
-void Person::goes_to(const std::string& control) { must(screen_.focus(control), "go to " + control); }
+void Person::goes_to(const std::string& control) { does(screen_.focus(control), "go to " + control); }
 
 void Person::enters(const std::string& box, const std::string& text) {
     goes_to(box);
@@ -108,22 +113,22 @@ void Person::replaces(const std::string& box, const std::string& text) {
     types(text);
 }
 
-void Person::types(const std::string& text) { must(screen_.type(text), "type \"" + text + "\""); }
+void Person::types(const std::string& text) { does(screen_.type(text), "type \"" + text + "\""); }
 
-void Person::pastes(const std::string& text) { must(screen_.paste(text), "paste \"" + text + "\""); }
+void Person::pastes(const std::string& text) { does(screen_.paste(text), "paste \"" + text + "\""); }
 
 void Person::pastes_by_key(const std::string& text) {
     must(screen_.copy(text), "copy \"" + text + "\"");
     hits(Key::control_v);
 }
 
-void Person::hits(Key key) { must(screen_.key(key), "hit key " + std::to_string(static_cast<int>(key))); }
+void Person::hits(Key key) { does(screen_.key(key), "hit key " + std::to_string(static_cast<int>(key))); }
 
 void Person::uses_accelerator(char letter) {
-    must(screen_.accelerator(letter), std::string("use Alt+") + letter);
+    does(screen_.accelerator(letter), std::string("use Alt+") + letter);
 }
 
-void Person::closes_the_window() { must(screen_.close_box(), "close the window"); }
+void Person::closes_the_window() { does(screen_.close_box(), "close the window"); }
 
 void Person::answers(const Message& expected, std::int32_t button) {
     const auto box = screen_.message();
@@ -131,7 +136,7 @@ void Person::answers(const Message& expected, std::int32_t button) {
     EXPECT_EQ(box->text, expected.text);
     EXPECT_EQ(box->title, expected.title);
     EXPECT_EQ(box->style, expected.style);
-    must(screen_.answer(button), "answer the message");
+    does(screen_.answer(button), "answer the message");
 }
 
 } // namespace brx::checks

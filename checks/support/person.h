@@ -2,6 +2,7 @@
 
 #include "screen.h"
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -20,6 +21,9 @@ class Person {
 public:
     explicit Person(Screen& screen) : screen_(screen) {}
     Screen& screen() { return screen_; }
+
+    /// Runs after each thing that she did.
+    std::function<void()> afterwards = [] {};
 
     /// The window in front must be this form ("" for none).
     void is_at(const std::string& form);
@@ -62,6 +66,7 @@ public:
 
 private:
     void must(bool done, const std::string& deed);
+    void does(bool done, const std::string& deed);
     int find_node(const std::string& tree, const std::string& node);
     int find_line(const std::string& list, const std::string& line);
 
