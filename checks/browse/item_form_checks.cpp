@@ -22,7 +22,7 @@ struct ItemForm : testing::Test {
 
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     dlgItemSelect form{environment};
 
     template <class Which> Which& find(const std::string& name) { return control_of<Which>(form, name); }

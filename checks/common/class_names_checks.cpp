@@ -21,7 +21,7 @@ struct NoScreen : testing::Test {
 
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
 
     std::string place_of_report() {
         std::string places;

@@ -44,7 +44,7 @@ struct Database : hlxDatabase {};
 struct Tools : testing::Test {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     CommonTools tools{environment.errors};
 
     void expect_mismatch(const std::string& location) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/error.h"
+#include "common/locales.h"
 #include "common/values/convert.h"
 
 #include <gtest/gtest.h>
@@ -23,8 +24,8 @@ template <class Body> std::int32_t error_number(Body&& body) {
 #define EXPECT_ERROR(number, expression)                                                                     \
     EXPECT_EQ(number, error_number([&] { static_cast<void>(expression); })) << #expression
 
-inline const Locale& us = Locale::us_english();
-inline const Locale& de = Locale::german();
-inline const Locale& fr = Locale::french();
+inline const Locale us;
+inline const Locale& de = checks::locale_of_germany();
+inline const Locale& fr = checks::locale_of_france();
 
 } // namespace brx

@@ -1,4 +1,5 @@
 #include "classes/ConfigurationSetup.h"
+#include "common/locales.h"
 #include "configuration_form.h"
 
 #include <utility>
@@ -120,7 +121,7 @@ TEST_F(ConfigurationForm, TheDateIsCommittedAsItsTextsTellIt) {
 }
 
 TEST_F(ConfigurationForm, WhereTheCommaSeparatesDecimalsTheDeadBandIsReadUpToIt) {
-    environment.locale = Locale::german();
+    environment.locale = locale_of_germany();
     host.configuration->fields.dead_band = 2.5F;
     while_open([&] {
         EXPECT_EQ(box("txtDeadband").text(), "2,5");

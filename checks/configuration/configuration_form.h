@@ -20,7 +20,7 @@ struct ConfigurationForm : testing::Test {
 
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     dlgConfiguration form{environment};
 
     template <class Which> Which& find(const std::string& name) { return control_of<Which>(form, name); }

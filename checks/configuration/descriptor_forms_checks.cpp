@@ -30,7 +30,7 @@ Captions captions_of(const Form& form) {
 struct DescriptorForms : testing::Test {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
 };
 
 } // namespace

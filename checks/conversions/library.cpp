@@ -2,6 +2,7 @@
 
 #include "com/system_locale.h"
 #include "common/error.h"
+#include "common/locales.h"
 #include "common/values/convert.h"
 #include "conversions/generator.h"
 #include "conversions/reasons.h"
@@ -100,9 +101,9 @@ void compare_amounts(Comparison& comparison, const ComparedLocale& where) {
 } // namespace
 
 const std::vector<ComparedLocale>& compared_locales() {
-    static const std::vector<ComparedLocale> locales = {{"en-US", 0x0409, Locale::us_english()},
-                                                        {"de-DE", 0x0407, Locale::german()},
-                                                        {"fr-FR", 0x040C, Locale::french()}};
+    static const std::vector<ComparedLocale> locales = {{"en-US", 0x0409, Locale{}},
+                                                        {"de-DE", 0x0407, checks::locale_of_germany()},
+                                                        {"fr-FR", 0x040C, checks::locale_of_france()}};
     return locales;
 }
 

@@ -11,7 +11,7 @@ namespace brx::checks {
 template <class Dialog> std::string design_of() {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment(engine, host, host, Locale::us_english());
+    Environment environment(engine, host, host, Locale{});
     const Dialog dialog(environment);
     return design_text(dialog);
 }

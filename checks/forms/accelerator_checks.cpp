@@ -35,7 +35,7 @@ public:
 struct Accelerators : testing::Test {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     Letters form{environment};
 
     void while_open(const std::function<void()>& story) {

@@ -27,7 +27,7 @@ using Tips = std::map<std::string, std::string>;
 TEST(ButtonTips, AButtonOfDotsSaysInWordsWhatItOpens) {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     EXPECT_EQ(tips_of(dlgOPCTest(environment)), (Tips{{"bnTest", "Choose a test from the database"},
                                                       {"bnItem", "Browse the server for an item"}}));
     EXPECT_EQ(tips_of(dlgEvaluation(environment)), (Tips{{"bnItem", "Browse the server for an item"}}));

@@ -16,7 +16,7 @@ struct HeadlessUsers : testing::Test {
     FakeHost host;
     Baton baton;
     HeadlessEngine engine{baton};
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     OneForm form{environment};
     HeadlessUser user{engine};
 

@@ -105,7 +105,7 @@ private:
 struct OpenForm {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     OneForm form{environment};
 
     void while_open(const std::function<void()>& story) {

@@ -51,7 +51,7 @@ private:
 struct OnePage {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     PageForm form{environment};
 
     void while_open(const std::function<void()>& story) {

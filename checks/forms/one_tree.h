@@ -29,7 +29,7 @@ public:
 struct OneTree {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     TreeForm form{environment};
     TreeView& tree = form.tree;
 

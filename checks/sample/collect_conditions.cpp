@@ -73,8 +73,8 @@ TEST(CollectIntervals, AreAsLongAsTheirUnit) {
 
 class CollectTelling : public CollectCheck {
 protected:
-    std::string plan() const { return how_it_goes_on(settings, settings.tests[0], Locale::us_english()); }
-    std::string done() const { return so_far(*collector, 1, Locale::us_english()); }
+    std::string plan() const { return how_it_goes_on(settings, settings.tests[0], Locale{}); }
+    std::string done() const { return so_far(*collector, 1, Locale{}); }
 };
 
 TEST_F(CollectTelling, SaysHowTheNextSampleComes) {
@@ -111,7 +111,7 @@ TEST_F(CollectTelling, SaysInWordsWhatAComparisonWithNoValueComesTo) {
             settings.tests[0].own_trigger = true;
             settings.tests[0].condition = condition;
             EXPECT_EQ(plan(), std::string("Subgroup: ") + meaning.period + ".  Piece: " + meaning.own + ".");
-            EXPECT_EQ(trigger_in_short(condition, Locale::us_english()), meaning.in_short);
+            EXPECT_EQ(trigger_in_short(condition, Locale{}), meaning.in_short);
             EXPECT_EQ(holds(condition, std::string()), meaning.holds_for_empty) << meaning.operation;
             for (const Variant& value : {Variant(-5.0), Variant(std::string("x")), Variant(false)})
                 EXPECT_EQ(holds(condition, value), meaning.holds_for_others) << meaning.operation;
@@ -120,7 +120,7 @@ TEST_F(CollectTelling, SaysInWordsWhatAComparisonWithNoValueComesTo) {
 
 TEST_F(CollectTelling, SaysShortlyWhenATestsOwnTriggerFires) {
     const auto in_short = [](int operation, Variant value) {
-        return trigger_in_short({operation, std::move(value)}, Locale::us_english());
+        return trigger_in_short({operation, std::move(value)}, Locale{});
     };
     EXPECT_EQ(in_short(0, 12.0), "Always");
     EXPECT_EQ(in_short(2, 0.25), "> 0.25");
@@ -142,7 +142,7 @@ TEST_F(CollectTelling, SaysHowMuchThereIs) {
 }
 
 TEST_F(CollectTelling, ShowsValuesWithSevenDigitsAtMost) {
-    const auto shown = [](const Variant& value) { return to_text(as_shown(value), Locale::us_english()); };
+    const auto shown = [](const Variant& value) { return to_text(as_shown(value), Locale{}); };
     EXPECT_EQ(shown(499.28716345), "499.2872");
     EXPECT_EQ(shown(-0.1), "-0.1");
     EXPECT_EQ(shown(std::int32_t{123456789}), "123456789") << "It is no measured value.";

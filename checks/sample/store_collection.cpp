@@ -21,7 +21,7 @@ protected:
             host->servers()->collect(clock->now());
         }
     }
-    std::string text() const { return collection().text(1, Locale::us_english()); }
+    std::string text() const { return collection().text(1, Locale{}); }
     std::string last_log_line() const { return log.line(log.count()); }
     Collection& collection() const { return configuration->collection(); }
     std::int32_t subgroups() const { return collection().series(1).complete_subgroups(); }
@@ -129,7 +129,7 @@ TEST_F(StoreCollection, OfATestThatWasAddedBeginsWhenTheDialogHasClosed) {
     collection().run();
     const auto added = configuration->Tests()->Add();
     added->set_OPCItemID("Capper.Torque");
-    EXPECT_THAT(collection().text(3, Locale::us_english()), StartsWith("Not running."));
+    EXPECT_THAT(collection().text(3, Locale{}), StartsWith("Not running."));
     entry.configurations().settle(1);
     pass(60);
     EXPECT_EQ(collection().series(3).complete_subgroups(), 3);
@@ -139,16 +139,14 @@ TEST_F(StoreCollection, OfATestThatWasRemovedIsNothing) {
     collection().run();
     pass(60);
     configuration->Tests()->Remove(1);
-    EXPECT_EQ(collection().text(2, Locale::us_english()), "");
-    EXPECT_EQ(collection().text(0, Locale::us_english()), "");
+    EXPECT_EQ(collection().text(2, Locale{}), "");
+    EXPECT_EQ(collection().text(0, Locale{}), "");
     EXPECT_TRUE(collection().series(2).points().empty());
     EXPECT_EQ(collection().series(1).complete_subgroups(), 3);
 }
 
 TEST_F(StoreCollection, TellsATestsOwnTriggerWhenItIsOn) {
-    const auto trigger = [&](std::int32_t test) {
-        return collection().trigger_text(test, Locale::us_english());
-    };
+    const auto trigger = [&](std::int32_t test) { return collection().trigger_text(test, Locale{}); };
     const auto test = configuration->Tests()->Item(std::int32_t{2});
     test->set_ItemTrigger(false);
     test->set_TriggerExpression(2);

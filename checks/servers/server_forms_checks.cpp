@@ -15,7 +15,7 @@ namespace {
 struct ServerForms : testing::Test {
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
 
     template <class Which> Which* find(Form& form, const std::string& name) {
         for (Control* control : form.controls())

@@ -1,3 +1,4 @@
+#include "common/locales.h"
 #include "forms/one_form.h"
 #include "tests/dlgEvaluation.h"
 #include "tests/dlgOPCTest.h"
@@ -186,5 +187,6 @@ TEST_P(LimitTest, TheConstantIsADoubleOrIsReportedAndChangesNothing) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(USEnglish, LimitTest, testing::Values(&Locale::us_english()));
-INSTANTIATE_TEST_SUITE_P(German, LimitTest, testing::Values(&Locale::german()));
+const Locale us_english;
+INSTANTIATE_TEST_SUITE_P(USEnglish, LimitTest, testing::Values(&us_english));
+INSTANTIATE_TEST_SUITE_P(German, LimitTest, testing::Values(&locale_of_germany()));

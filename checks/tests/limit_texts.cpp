@@ -129,7 +129,7 @@ const std::vector<LimitText> german = {
 
 std::vector<LimitText> limit_texts(const Locale& locale) {
     std::vector<LimitText> texts = everywhere;
-    if (locale == Locale::us_english()) {
+    if (locale == Locale{}) {
         texts.insert(texts.end(), american.begin(), american.end());
         return texts;
     }

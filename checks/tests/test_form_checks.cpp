@@ -27,7 +27,7 @@ struct TestForm : testing::Test {
 
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     std::shared_ptr<FakeTest> test = host.has_test(7, "Length");
     dlgOPCTest form{environment};
     std::vector<Message> messages;

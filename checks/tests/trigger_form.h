@@ -27,7 +27,7 @@ struct TriggerForm : testing::Test {
 
     FakeHost host;
     ScriptedEngine engine;
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
     dlgEvaluation form{environment};
     std::vector<Message> messages;
 

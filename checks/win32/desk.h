@@ -121,7 +121,7 @@ protected:
     std::vector<std::string> help_opened; ///< "file at topic"
     Win32Engine engine{
         [this](HWND over, const std::wstring& file, DWORD topic) { return note_help(over, file, topic); }};
-    Environment environment{engine, host, host, Locale::us_english()};
+    Environment environment{engine, host, host, Locale{}};
 
 private:
     HelpOutcome note_help(HWND over, const std::wstring& file, DWORD topic);

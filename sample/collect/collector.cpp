@@ -84,7 +84,7 @@ std::string Collector::told(const std::string& text) const {
     const std::string item = referred_item(text);
     if (item.empty()) return text;
     std::string said;
-    if (const auto value = feed_.value(item)) attempt([&] { said = to_text(*value, Locale::us_english()); });
+    if (const auto value = feed_.value(item)) attempt([&] { said = to_text(*value, Locale{}); });
     return said;
 }
 

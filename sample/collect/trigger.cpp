@@ -10,7 +10,10 @@ namespace brx::collect {
 namespace {
 
 /// The values are the machine's, so that they do not follow anybody's settings.
-const Locale& neutral() { return Locale::us_english(); }
+const Locale& neutral() {
+    static const Locale plain;
+    return plain;
+}
 
 /// Unordered for what cannot be compared.
 std::partial_ordering compared(const Variant& value, const Variant& with) {

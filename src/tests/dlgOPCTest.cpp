@@ -1,12 +1,12 @@
 #include "tests/dlgOPCTest.h"
 
-#include "classes/LeafSelect.h"
 #include "common/group_items.h"
 #include "common/values/convert.h"
+#include "common/write_back.h"
+#include "forms/focus.h"
 #include "forms/setup_form.h"
 
 #include <optional>
-#include <utility>
 
 namespace brx {
 
@@ -98,129 +98,186 @@ void dlgOPCTest::EditSet() {
     });
 }
 
-void dlgOPCTest::bnTest_Click() {
-    trap("bnTest_Click", [&] {
-        const auto picker = create<hlxSelection>(environment().objects, class_name::hlxTestSelection);
-        if (!picker->Show(database_, test_id_, test_group_id_)) return allow_confirming();
-        const hlxTestDataPtr picked = ResolveTestDat(picker->Record());
-        if (!picked) return;
-        const std::int32_t id = picked->ID();
-        if (is_duplicate(id)) {
-            show_message({.text = "DUPLICATE TEST!  Unable to add duplicate tests to a group.",
-                          .style = message::exclamation,
-                          .title = "Add Error"});
-            return;
-        }
-        // All of it or, when something fails, nothing.
-        const std::int32_t group_id = picked->GroupID();
-        const hlxRecordPtr group = GetTestGrp(group_id);
-        if (!group) return;
-        std::string group_name = group->Name();
-        test_name_ = picked->Name();
-        test_id_ = id;
-        test_group_id_ = group_id;
-        test_group_name_ = std::move(group_name);
-        txtTest.set_text(test_name_);
-        test_chosen_ = true;
-        allow_confirming();
-    });
-}
-
-/// The test that is being edited counts as well.
-bool dlgOPCTest::is_duplicate(std::int32_t id) {
-    const hlxOPCTestsPtr tests = the(test_).Parent();
-    const std::int32_t count = the(tests).Count();
-    for (std::int32_t i = 1; i <= count; ++i)
-        if (resolve<hlxTestData>(the(tests->Item(i)).TestData())->ID() == id) return true;
-    return false;
-}
-
-hlxRecordPtr dlgOPCTest::GetTestGrp(std::int32_t id) {
-    hlxRecordPtr group;
-    trap("GetTestGrp", [&] {
-        const auto record = create<hlxRecord>(environment().objects, class_name::hlxTestGroup);
-        record->set_ID(id);
-        record->set_SearchFlag(1);
-        record->Load(database_);
-        group = record;
-    });
-    return group;
-}
-
-hlxTestDataPtr dlgOPCTest::ResolveTestDat(const ObjectPtr& object) {
-    hlxTestDataPtr data;
-    trap("ResolveTestDat", [&] { data = resolve<hlxTestData>(object); });
-    return data;
-}
-
 void dlgOPCTest::allow_confirming() {
     const bool complete = all_read_ && !item_id_.empty() && !test_name_.empty();
     bnOK.set_enabled(complete);
     chkItemTrigger.set_enabled(complete);
 }
 
-void dlgOPCTest::bnItem_Click() {
-    trap("bnItem_Click", [&] {
-        const hlxOPCConfigurationPtr around = configuration();
-        const hlxOPCServerPtr entry = the(the(around).Server()).ServerEntry();
-        const ObjectPtr server = the(entry).OPCServer();
-        const ObjectPtr group = around->OPCGroup();
-        if (!server) {
-            const std::string node = entry->Node();
-            const std::string name = entry->ServerName();
-            show_message({.text = "The OPCServer is disconnected or does not exist.\r\nServer Node: " + node +
-                                  "\r\nServer Name: " + name,
-                          .style = message::exclamation,
-                          .title = "Server Error"});
-            return;
-        }
-        if (!group) {
-            show_message(
-                {.text = "The OPCGroup is Invalid.", .style = message::exclamation, .title = "Server Error"});
-            return;
-        }
-        LeafSelect browser(environment());
-        browser.set_ItemID(txtItem.text());
-        if (!browser.Show(server, group)) return;
-        const OPCItemsPtr group_items = items_of(group);
-        const bool already_there = holds_item(the(group_items), browser.ItemID());
-        item_id_ = browser.ItemID();
-        txtItem.set_text(item_id_);
-        if (!already_there) take_item(*group_items, server);
-        allow_confirming();
+void dlgOPCTest::chkItemTrigger_Click() {
+    trap("chkItemTrigger_Click", [&] { ShowEvalType(chkItemTrigger.value()); });
+}
+
+void dlgOPCTest::ShowEvalType(int state) {
+    trap("ShowEvalType", [&] {
+        const bool on = state != 0;
+        cboExpression.set_enabled(on);
+        lblExpression.set_enabled(on);
+        txtValue.set_enabled(on);
+        lblValue.set_enabled(on);
     });
 }
 
-/// Adds the item to the group. One that cannot be added is not kept as the test's.
-void dlgOPCTest::take_item(OPCItems& items, const ObjectPtr& server) {
-    const auto forget_item = [&] {
-        txtItem.set_text("");
-        item_id_.clear();
-        allow_confirming();
-    };
-    try {
-        const StringArray ids{{item_id_}};
-        const ShortArray types{{0}};
-        const StringArray paths{{""}};
-        items.Validate(ids, types, paths);
-        const AddedItems added = items.AddItems(ids, LongArray{{test_id_}}, types, paths);
-        const std::int32_t error = added.Errors.at(1);
-        if (error == 0) {
-            server_handles_ = LongArray{{added.ServerHandles.at(1)}};
-            client_handle_ = server_handles_.at(1);
-            added_new_item_ = true;
-            return;
+void dlgOPCTest::cboExpression_Change() {
+    trap("cboExpression_Change", [&] { follow_operator(); });
+}
+
+void dlgOPCTest::cboExpression_Click() {
+    trap("cboExpression_Click", [&] { follow_operator(); });
+}
+
+void dlgOPCTest::follow_operator() {
+    const bool compares = cboExpression.selected() >= 1;
+    txtValue.set_enabled(compares);
+    txtValue.set_back_color(compares ? color::window : color::button_face);
+}
+
+/// Looks at the background and sets the text's colour.
+void dlgOPCTest::txtConstant_Change() {
+    trap("txtConstant_Change", [&] {
+        if (txtConstant.text().empty() || is_numeric(txtConstant.text(), environment().locale)) {
+            if (txtConstant.back_color() == color::red) txtConstant.set_fore_color(color::window);
+        } else {
+            if (txtConstant.back_color() == color::window) txtConstant.set_fore_color(color::red);
         }
-        server_handles_ = LongArray{{0}};
-        added_new_item_ = false;
-        tell_refusal(server, error, item_id_, [&](const std::string& text) {
-            show_message({.text = text, .style = message::critical});
-        });
+    });
+}
+
+void dlgOPCTest::bnOK_Click() {
+    trap("bnOK_Click", [&] {
+        if (item_id_.empty() || test_name_.empty()) {
+            show_message({.text = "INVALID SELECTION!\r\n\r\nPlease select a Test and OPC Item.",
+                          .style = message::information});
+            return hlxFocus::select_text(test_name_.empty() ? txtTest : txtItem);
+        }
+        item_trigger_ = chkItemTrigger.value() == 1;
+        if (item_trigger_) GetItemDataType();
+        if (!TestChoices()) return;
+        ok_pressed_ = true;
+        unload();
+    });
+}
+
+void dlgOPCTest::GetItemDataType() {
+    const auto failure = failure_of(
+        [&] { data_type_ = canonical_data_type(the(items_of(the(configuration()).OPCGroup())), item_id_); });
+    if (!failure) return;
+    std::string text;
+    attempt([&] { text = resolve<OPCServer>(server())->GetErrorString(failure->number()); });
+    show_message({.text = text, .style = message::exclamation, .title = "Error Getting Data Type"});
+    data_type_ = data_type::variant;
+}
+
+void dlgOPCTest::StoreTriggerExpression() {
+    if (cboExpression.selected() >= 0) expression_ = static_cast<std::int16_t>(cboExpression.selected());
+}
+
+bool dlgOPCTest::TestValue() {
+    std::string text;
+    const auto unread = failure_of([&] { text = txtValue.text(); });
+    if (unread) {
+        // The sentence ends there.
+        show_message({.text = "Invalid value for this Item.  Value must be ",
+                      .style = message::information,
+                      .title = "Invalid Value"});
+        return false;
+    }
+    if (text.empty() && cboExpression.selected() == trigger_operator::always) return true;
+    const auto failure = failure_of([&] {
+        const Locale& locale = environment().locale;
+        switch (data_type_) {
+        case data_type::int16:
+            value_ = to_int16(text, locale);
+            break;
+        case data_type::int32:
+            value_ = to_int32(text, locale);
+            break;
+        case data_type::single:
+            value_ = to_single(text, locale);
+            break;
+        case data_type::real:
+            value_ = to_double(text, locale);
+            break;
+        case data_type::boolean:
+            value_ = to_boolean(text, locale);
+            break;
+        default:
+            value_ = text;
+        }
+    });
+    // The former value is kept, and what was typed is no obstacle.
+    if (failure)
+        show_message({.text = "Invalid Value for this OPC Item. (" + std::to_string(failure->number()) + ")",
+                      .style = message::information,
+                      .title = "Invalid Value"});
+    return true;
+}
+
+bool dlgOPCTest::TestChoices() {
+    bool written = false;
+    trap("TestChoices", [&] {
+        if (!item_trigger_) {
+            expression_ = trigger_operator::always;
+        } else if (cboExpression.selected() < 0) {
+            show_message({.text = "An Expression must be selected before continuing.",
+                          .style = message::exclamation,
+                          .title = "Expression Error"});
+            return cboExpression.set_focus();
+        } else if (!TestValue()) {
+            show_message({.text = "A Value must be entered to continue!",
+                          .style = message::information,
+                          .title = "Value Error"});
+            return hlxFocus::select_text(txtValue);
+        } else {
+            StoreTriggerExpression();
+        }
+        if (txtConstant.back_color() == color::red) {
+            show_message({.text = "INVALID CONSTANT!\r\n\r\nConstant must be a valid numeric value.",
+                          .style = message::critical});
+            return hlxFocus::select_text(txtConstant);
+        }
+        // Before anything is written: a text that is no number must not leave half of the test changed.
+        write_test(entered_constant());
+        written = true;
+    });
+    return written;
+}
+
+/// The person is led to a constant that is no number.
+double dlgOPCTest::entered_constant() {
+    const std::string& text = txtConstant.text();
+    try {
+        return text.empty() ? 0.0 : to_double(text, environment().locale);
     } catch (...) {
-        forget_item();
+        hlxFocus::select_text(txtConstant);
         throw;
     }
-    forget_item();
+}
+
+/// When the host fails half-way, a test that existed gets back what it held when the dialog read it; a new
+/// one is its owner's to remove. The trigger's operator and value are read of a test with a trigger only: one
+/// without has no use for what was written there. The record's characteristic is never read.
+void dlgOPCTest::write_test(double constant) {
+    hlxOPCTest& test = the(test_);
+    WriteBack writes;
+    writes.replace(test, &hlxOPCTest::set_ItemTrigger, former_.item_trigger, item_trigger_);
+    if (item_trigger_) writes.replace(test, &hlxOPCTest::set_TriggerValue, former_.trigger_value, value_);
+    writes.replace(test, &hlxOPCTest::set_ClientHandle, former_.client_handle, client_handle_);
+    writes.replace(test, &hlxOPCTest::set_TriggerExpression, former_.trigger_expression, expression_);
+    writes.replace(test, &hlxOPCTest::set_OPCItemID, former_.item_id, item_id_);
+    writes.replace(test, &hlxOPCTest::set_State, former_.state, test_state::edited);
+    if (test_chosen_) write_characteristic(the(ResolveTestDat(test.TestData())));
+    writes.replace(test, &hlxOPCTest::set_Constant, former_.constant, constant);
+    writes.replace(test, &hlxOPCTest::set_SaveAs, former_.save_as,
+                   static_cast<std::int16_t>(cboSaveAs.selected()));
+    writes.keep();
+}
+
+void dlgOPCTest::write_characteristic(hlxTestData& data) {
+    data.set_ID(test_id_);
+    data.set_Flag(0);
+    data.set_Mode(1);
+    data.Save(database_);
 }
 
 void dlgOPCTest::bnCancel_Click() {
@@ -237,16 +294,6 @@ void dlgOPCTest::bnCancel_Click() {
         item_id_.clear();
         unload();
     });
-}
-
-/// A handle goes back to the server once: after a failure nobody knows whether it is still good, and a stale
-/// one can bring the server down. An item whose group cannot be reached waits for the next time.
-void dlgOPCTest::drop_added_item() {
-    if (!added_new_item_ || server_handles_.at(1) == 0) return;
-    const OPCItemsPtr group_items = items_of(the(configuration()).OPCGroup());
-    OPCItems& reached = the(group_items);
-    added_new_item_ = false;
-    reached.Remove(server_handles_);
 }
 
 } // namespace brx

@@ -50,7 +50,7 @@ private:
 
 } // namespace
 
-HeadlessStage::HeadlessStage(FakeHost& host) : environment_(engine_, host, host, Locale::us_english()) {
+HeadlessStage::HeadlessStage(FakeHost& host) : environment_(engine_, host, host, Locale{}) {
     thread_ = std::thread([&] { baton_.serve([&] { return over_.load(); }); });
     screen_.forms_thread(thread_.get_id());
 }

@@ -20,7 +20,7 @@ std::string told(double value) {
 }
 std::string told(const Variant& value) {
     std::string text = std::to_string(value.index());
-    attempt([&] { text += ":" + to_text(value, Locale::us_english()); });
+    attempt([&] { text += ":" + to_text(value, Locale{}); });
     return text;
 }
 

@@ -44,10 +44,6 @@ struct Locale {
     std::string false_text = "False";
 
     bool operator==(const Locale&) const = default;
-
-    static const Locale& us_english();
-    static const Locale& german(); ///< Germany, as Wine has it: Windows writes 02.01.2026
-    static const Locale& french(); ///< France; groups digits with a no-break blank
 };
 
 } // namespace brx

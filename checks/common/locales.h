@@ -1,9 +1,12 @@
+#pragma once
+
 #include "common/values/locale.h"
 
-namespace brx {
-namespace {
+namespace brx::checks {
 
-Locale make_german() {
+// The settings of some users, as far as they matter here.
+
+inline Locale make_german() {
     Locale locale;
     locale.decimal_separator = locale.money_decimal_separator = ",";
     locale.grouping_separator = locale.money_grouping_separator = ".";
@@ -23,7 +26,7 @@ Locale make_german() {
     return locale;
 }
 
-Locale make_french() {
+inline Locale make_french() {
     Locale locale;
     locale.decimal_separator = locale.money_decimal_separator = ",";
     locale.grouping_separator = locale.money_grouping_separator = "\u00A0";
@@ -42,21 +45,14 @@ Locale make_french() {
     return locale;
 }
 
-} // namespace
-
-const Locale& Locale::us_english() {
-    static const Locale locale;
-    return locale;
-}
-
-const Locale& Locale::german() {
+inline const Locale& locale_of_germany() {
     static const Locale locale = make_german();
     return locale;
 }
 
-const Locale& Locale::french() {
+inline const Locale& locale_of_france() {
     static const Locale locale = make_french();
     return locale;
 }
 
-} // namespace brx
+} // namespace brx::checks

@@ -1,0 +1,171 @@
+// What the item browser shows of the server's address space: branches as a tree, the items of one as a list.
+
+#include "browse/dlgItemSelect.h"
+#include "common/values/text.h"
+#include "forms/busy_cursor.h"
+#include "forms/list_tools.h"
+
+namespace brx {
+
+namespace {
+
+constexpr std::int32_t flat_organization = 2;
+
+/// What only makes a branch show that it can be opened, until its children are read.
+bool is_placeholder(const TreeNode& node) { return to_upper(node.text()) == "XXX"; }
+
+/// A branch's path as the list of names from the root down. A name with a full stop in it falls apart here.
+StringArray branches_of(const std::string& key) {
+    StringArray branches;
+    branches.lower_bound = 0;
+    std::size_t begin = 0;
+    for (std::size_t end; (end = key.find('.', begin)) != std::string::npos; begin = end + 1)
+        branches.elements.push_back(key.substr(begin, end - begin));
+    branches.elements.push_back(key.substr(begin));
+    return branches;
+}
+
+} // namespace
+
+void dlgItemSelect::ConnectServer() {
+    trap("ConnectServer", [&] {
+        const BusyCursor busy(*this);
+        TrView.clear();
+        lstItem.clear();
+        set_path("");
+        if (!browser_) attempt([&] { browser_ = the(server_).CreateBrowser(); });
+        if (!browser_) return show_nothing_to_browse();
+        browser_->MoveToRoot();
+        browser_->ShowBranches();
+        if (browser_->Count() == 0) {
+            // A flat server without branches to show counts as one that cannot browse.
+            browser_ = nullptr;
+            return show_nothing_to_browse();
+        }
+        show_browsing();
+        BuildGroupList();
+    });
+}
+
+void dlgItemSelect::show_nothing_to_browse() {
+    picTrView.bring_to_front();
+    TrView.set_visible(false);
+    lstItem.set_enabled(false);
+    lstItem.set_back_color(color::button_face);
+    txtFullPath.set_focus();
+}
+
+void dlgItemSelect::show_browsing() {
+    picTrView.send_to_back();
+    TrView.set_visible(true);
+    lstItem.set_enabled(true);
+    lstItem.set_back_color(color::window);
+}
+
+void dlgItemSelect::BuildGroupList() {
+    trap("BuildGroupList", [&] {
+        if (!browser_) return;
+        if (browser_->Organization() == flat_organization) {
+            TrView.set_visible(false);
+            return GetAllLeaves();
+        }
+        TrView.set_visible(true);
+        browser_->MoveToRoot();
+        browser_->ShowBranches();
+        const std::int32_t count = browser_->Count();
+        if (count < 1) return GetAllLeaves();
+        for (std::int32_t i = 1; i <= count; ++i) {
+            const std::string name = browser_->Item(i);
+            TreeNode& node = TrView.add(name, name);
+            node.set_tag(name);
+            TrView.add_child(node, "", "xxx");
+        }
+    });
+}
+
+void dlgItemSelect::TrView_Expand(TreeNode& Node) {
+    trap("TrView_Expand", [&] {
+        const int index = Node.index();
+        if (TreeNode* child = Node.child(); child && is_placeholder(*child)) {
+            TrView.remove(*child);
+            BuildNodes(Node.key(), index);
+        }
+        TrView.select(&TrView.node(index));
+    });
+}
+
+void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
+    trap("BuildNodes", [&] {
+        lstItem.clear();
+        set_path("");
+        const StringArray branches = branches_of(ParentKey);
+        if (!browser_) return;
+        if (browser_->Organization() == flat_organization) return GetAllLeaves();
+        browser_->MoveToRoot();
+        // After a failed move the branches of wherever the browser stands are read.
+        attempt([&] { browser_->MoveTo(branches); });
+        attempt([&] { browser_->ShowBranches(); });
+        const std::int32_t count = browser_->Count();
+        if (count < 1) {
+            TreeNode* child = TrView.node(ParentIndex).child();
+            if (!child || !is_placeholder(*child)) return;
+            TrView.select(child);
+            TrView.remove(*child);
+            return;
+        }
+        TreeNode& parent = TrView.node(ParentKey);
+        for (std::int32_t i = 1; i <= count; ++i) {
+            const std::string name = browser_->Item(i);
+            const std::string key = parent.tag() + "." + name;
+            TreeNode& node = TrView.add_child(parent, key, name);
+            node.set_tag(key);
+            TrView.add_child(node, "", "XXX");
+        }
+    });
+}
+
+void dlgItemSelect::TrView_NodeClick(TreeNode& Node) {
+    trap("TrView_NodeClick", [&] { BuildLeaves(Node.key(), Node.index()); });
+}
+
+void dlgItemSelect::TrView_Click() {
+    trap("TrView_Click", [&] {
+        // A sign can be pressed where no node is selected.
+        if (const TreeNode* node = TrView.selected()) BuildLeaves(node->key(), node->index());
+    });
+}
+
+void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
+    trap("BuildLeaves", [&] {
+        lstItem.clear();
+        set_path("");
+        const StringArray branches = branches_of(Key);
+        if (!browser_) return;
+        browser_->MoveToRoot();
+        attempt([&] { browser_->MoveTo(branches); });
+        attempt([&] { browser_->ShowLeafs(false); });
+        list_items(browser_->Count());
+    });
+}
+
+void dlgItemSelect::GetAllLeaves() {
+    trap("GetAllLeaves", [&] {
+        lstItem.clear();
+        if (!browser_) return;
+        browser_->MoveToRoot();
+        browser_->ShowLeafs(true);
+        const std::int32_t count = browser_->Count();
+        if (count > 0) TrView.set_visible(false);
+        list_items(count);
+    });
+}
+
+void dlgItemSelect::list_items(std::int32_t count) {
+    std::string name;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        browser_->read_item(i, name);
+        hlxListTools::add(lstItem, name);
+    }
+}
+
+} // namespace brx
