@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <string>
 
@@ -32,6 +33,22 @@ std::filesystem::path sources() {
 }
 
 } // namespace
+
+TEST(ProcedureNames, EveryDialogReportsUnderTheNameOfItsClass) {
+    static const std::regex constructor(
+        R"re((\w+)::\w+\(Environment& environment\)\s*: Form\(environment,\s*\{\.name = "(\w+)")re");
+    int dialogs = 0;
+    for (const char* folder : {"browse", "configuration", "servers", "tests"})
+        for (const auto& file : std::filesystem::directory_iterator(sources() / folder)) {
+            std::ifstream source(file.path());
+            const std::string text{std::istreambuf_iterator<char>(source), {}};
+            std::smatch found;
+            if (!std::regex_search(text, found, constructor)) continue;
+            ++dialogs;
+            EXPECT_EQ(found[2].str(), found[1].str()) << file.path();
+        }
+    EXPECT_EQ(dialogs, 9);
+}
 
 TEST(ProcedureNames, EveryTrapReportsUnderTheNameOfItsProcedure) {
     int traps = 0;

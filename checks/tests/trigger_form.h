@@ -56,7 +56,9 @@ struct TriggerForm : testing::Test {
         for (int i = 0; i < items().count(); ++i)
             if (items().text(i) == item) {
                 EXPECT_TRUE(items().user_select(i));
+                return;
             }
+        ADD_FAILURE() << "There is no item " << item;
     }
     bool press(const std::string& button) { return control_of<Button>(form, button).user_click(); }
     /// What a person picks in the browser that the form opens; "" to cancel.
