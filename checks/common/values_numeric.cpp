@@ -121,7 +121,8 @@ TEST(IsNumeric, TakesHexadecimalAndOctal) {
     EXPECT_EQ(255, to_double("&hff", de));
     EXPECT_EQ(15, to_double(" &O17 ", us));
     EXPECT_EQ(15, to_double("&o17", us));
-    for (const char* text : {"&HG", "&O8", "&17", "&HFF&", "&H F", "&H1.5", "&H-1", "0xFF", "FF"}) {
+    for (const char* text :
+         {"&H", "&O", "&HG", "&O8", "&17", "&HFF&", "&H F", "&H1.5", "&H-1", "0xFF", "FF"}) {
         EXPECT_FALSE(is_numeric(text, us)) << text;
     }
 }

@@ -77,6 +77,10 @@ TEST(Utf16, KeepsEveryText) {
     const std::u16string text = u"a\u00E4\u20AC\U0001F600\0z"s;
     EXPECT_EQ("aä€\U0001F600\0z"s, to_utf8(text));
     EXPECT_EQ(text, to_utf16(to_utf8(text)));
+    EXPECT_EQ("\U00010000", to_utf8(u"\U00010000"));
+    EXPECT_EQ("x\U0010FFFF", to_utf8(u"x\U0010FFFF")) << "a pair at the end";
+    EXPECT_EQ(std::size_t{2}, utf16_length("\U00010000"));
+    EXPECT_EQ(std::size_t{1}, utf16_length("\uFFFF"));
     EXPECT_EQ(u"", to_utf16(""));
 }
 

@@ -39,6 +39,36 @@ TEST_F(Controls, ColoursAreToldToTheEngineAsColours) {
     });
 }
 
+TEST_F(Controls, WhatIsSelectedIsToldToTheEngineAsASelection) {
+    while_open([&] {
+        StandIn window(form.box);
+        form.box.select_all();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::selection);
+    });
+}
+
+TEST_F(Controls, ACharacterChoosesTheNextLineOfAListBoxThatBeginsWithIt) {
+    while_open([&] {
+        for (const char* line : {"Pear", "apple", "plum"}) form.list.add_line(line);
+        for (const auto& [typed, line] : {std::pair{"p", 0}, {"p", 2}, {"P", 0}, {"a", 1}, {" ", 1}}) {
+            EXPECT_TRUE(form.list.user_search(typed));
+            EXPECT_EQ(form.list.selected(), line) << typed;
+        }
+        EXPECT_FALSE(form.list.user_search("x"));
+        EXPECT_EQ(form.notes, Notes(4, "list_Click"));
+    });
+}
+
+TEST_F(Controls, AnEmptyListThatIsClearedIsNotShownAgain) {
+    while_open([&] {
+        StandIn window(form.list);
+        form.list.clear();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::none);
+    });
+}
+
 TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {
     while_open([&] {
         form.box.set_text("new");

@@ -17,6 +17,23 @@ struct ListViews : testing::Test, OnePage {
 
 } // namespace
 
+TEST_F(ListViews, RemovingTheSelectedRowOrOneAboveItIsAnotherSelection) {
+    while_open([&] {
+        add_three();
+        list.select(2);
+        StandIn window(list);
+        form.repaint();
+        window.seen = Aspect::none;
+        list.remove(3);
+        form.repaint();
+        EXPECT_FALSE(has(window.seen, Aspect::selection));
+        list.remove(1);
+        form.repaint();
+        EXPECT_TRUE(has(window.seen, Aspect::selection));
+        EXPECT_EQ(list.selected(), 1);
+    });
+}
+
 TEST_F(ListViews, RowsAreFoundByTheirPositionAndByTheirKey) {
     while_open([&] {
         add_three();

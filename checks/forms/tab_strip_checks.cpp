@@ -14,6 +14,14 @@ struct TabStrips : testing::Test, OnePage {
 
 } // namespace
 
+TEST_F(TabStrips, TheirCaptionsAreReadAfresh) {
+    while_open([&] {
+        Reading seen = tabs.read();
+        tabs.read(Aspect::lines, seen);
+        EXPECT_EQ(seen.lines, (Notes{"&1 One", "&2 Two", "Thr&ee"}));
+    });
+}
+
 TEST_F(TabStrips, ClickFiresWhenAnotherTabIsSelectedByAPersonOrByCode) {
     while_open([&] {
         EXPECT_EQ(tabs.count(), 3);

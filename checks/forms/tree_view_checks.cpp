@@ -19,6 +19,35 @@ using Changes = std::vector<std::pair<Deed, int>>;
 
 } // namespace
 
+TEST_F(Trees, AreDrawnByTheCodesOfTheHostLanguage) {
+    EXPECT_EQ(static_cast<int>(LabelEdit::automatic), 0);
+    EXPECT_EQ(static_cast<int>(LabelEdit::manual), 1);
+    EXPECT_EQ(static_cast<int>(LineStyle::tree_lines), 0);
+    EXPECT_EQ(static_cast<int>(LineStyle::root_lines), 1);
+    EXPECT_EQ(static_cast<int>(TreeStyle::text_only), 0);
+    EXPECT_EQ(static_cast<int>(TreeStyle::plus_minus_text), 2);
+    EXPECT_EQ(static_cast<int>(TreeStyle::tree_lines_text), 4);
+    EXPECT_EQ(static_cast<int>(TreeStyle::tree_lines_plus_minus_text), 6);
+}
+
+TEST_F(Trees, WithoutASelectionNoneIsRead) {
+    while_open([&] {
+        add_food();
+        tree.select(&tree.node("spice"));
+        Reading seen = tree.read();
+        EXPECT_EQ(seen.text, "Spice");
+        tree.select(nullptr);
+        tree.read(Aspect::selection, seen);
+        EXPECT_EQ(seen.selected, -1);
+        EXPECT_EQ(seen.text, "");
+    });
+}
+
+TEST_F(Trees, ATreeThatIsShownAgainIsSeenAsItWasDesigned) {
+    while_open([&] { tree.set_visible(false); });
+    while_open([&] { EXPECT_TRUE(tree.visible()); });
+}
+
 TEST_F(Trees, AClickFiresNodeClickAndThenClickEachTime) {
     while_open([&] {
         add_food();

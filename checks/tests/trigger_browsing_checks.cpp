@@ -14,6 +14,7 @@ TEST_F(TriggerForm, ABrowsedItemIsAddedAndIsTheCallersToRemove) {
         EXPECT_TRUE(press("bnCancel"));
     });
     EXPECT_TRUE(form.AddedNewItem());
+    EXPECT_EQ(host.group->items->client_handles, (std::vector<LongArray>{{{0}}}));
     EXPECT_NE(host.group->items->handle_of("New"), 0);
     EXPECT_TRUE(host.group->items->removed.empty());
 }
