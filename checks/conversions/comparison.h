@@ -15,7 +15,7 @@ namespace brx::conversions {
 struct ComparedLocale {
     std::string name;
     std::uint32_t identifier;
-    const Locale& locale;
+    Locale locale;
 };
 
 /// What a conversion makes.
