@@ -11,25 +11,46 @@ namespace tour {
 
 namespace {
 
-bool is_combo_box(HWND window) {
+/// The messages of lists that hold their lines themselves.
+struct Messages {
+    UINT count, length, text;
+};
+
+/// Null for a list view.
+const Messages* messages_of(HWND list) {
+    static constexpr Messages list_box = {LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT};
+    static constexpr Messages combo_box = {CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT};
     wchar_t name[16]{};
-    GetClassNameW(window, name, 16);
-    return std::wstring(name) == L"ComboBox";
+    GetClassNameW(list, name, 16);
+    if (std::wstring(name) == L"ListBox") return &list_box;
+    return std::wstring(name) == L"ComboBox" ? &combo_box : nullptr;
 }
 
-Lines lines_of_combo_box(HWND list) {
+Lines lines_of(HWND list, const Messages& messages) {
     Lines lines;
-    const LRESULT count = ask(list, CB_GETCOUNT);
+    const LRESULT count = ask(list, messages.count);
     for (LRESULT i = 0; i < count; ++i) {
         const auto index = static_cast<WPARAM>(i);
-        const LRESULT length = ask(list, CB_GETLBTEXTLEN, index);
+        const LRESULT length = ask(list, messages.length, index);
         if (length < 0) break; // the list has grown shorter meanwhile
         std::wstring line(static_cast<std::size_t>(length) + 1, L'\0');
-        ask(list, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(line.data()));
+        ask(list, messages.text, index, reinterpret_cast<LPARAM>(line.data()));
         line.resize(static_cast<std::size_t>(length));
         lines.push_back(line);
     }
     return lines;
+}
+
+POINT middle_of_line(const Program& program, HWND list, int line) {
+    if (messages_of(list)) {
+        const auto height = static_cast<LONG>(ask(list, LB_GETITEMHEIGHT));
+        return {20, line * height + height / 2};
+    }
+    ask(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(line));
+    const Lent<RECT> there(program, {LVIR_BOUNDS, 0, 0, 0});
+    ask(list, LVM_GETITEMRECT, static_cast<WPARAM>(line), there.address());
+    const RECT bounds = there.read();
+    return {20, (bounds.top + bounds.bottom) / 2};
 }
 
 } // namespace
@@ -42,7 +63,7 @@ std::wstring text_of(HWND window) {
 }
 
 Lines lines_of(const Program& program, HWND list) {
-    if (is_combo_box(list)) return lines_of_combo_box(list);
+    if (const Messages* messages = messages_of(list)) return lines_of(list, *messages);
     Lines lines;
     for (int row = 0; row < rows_of(list); ++row) lines.push_back(cell_of(program, list, row, 0));
     return lines;
@@ -94,11 +115,7 @@ void hit(HWND control, WPARAM key) {
 }
 
 void click_line(const Program& program, HWND list, int line, bool twice) {
-    ask(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(line));
-    const Lent<RECT> there(program, {LVIR_BOUNDS, 0, 0, 0});
-    ask(list, LVM_GETITEMRECT, static_cast<WPARAM>(line), there.address());
-    const RECT bounds = there.read();
-    const POINT place{20, (bounds.top + bounds.bottom) / 2};
+    const POINT place = middle_of_line(program, list, line);
     click(list, place);
     if (!twice) return;
     const LPARAM at = MAKELPARAM(place.x, place.y);

@@ -14,7 +14,7 @@ namespace tour {
 using Lines = std::vector<std::wstring>;
 
 std::wstring text_of(HWND window);
-/// The lines of a list box or a combo box.
+/// The lines of a list, whichever way the system shows it.
 Lines lines_of(const Program& program, HWND list);
 /// The text of a message box.
 std::wstring message_of(HWND box);
@@ -28,7 +28,7 @@ void click(HWND control, POINT place);
 void press(HWND button);
 void type(HWND box, const std::wstring& text);
 void hit(HWND control, WPARAM key);
-/// Clicks on a line of a list box, or double-clicks.
+/// Clicks on a line of a list that is no combo box, or double-clicks.
 void click_line(const Program& program, HWND list, int line, bool twice = false);
 /// Clicks on a tab, counted from 1.
 void click_tab(const Program& program, HWND tab_strip, int tab);
