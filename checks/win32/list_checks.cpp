@@ -205,7 +205,7 @@ TEST_F(ListTest, AListBoxScrollsAsFarAsTheWidestLineThatWasSeen) {
                     form.Box.add_line(std::string(300, 'W'));
                 });
                 const TextMeasure measure(box, reinterpret_cast<HFONT>(SendMessageW(box, WM_GETFONT, 0, 0)));
-                width = measure.width(widest.data(), widest.size()) + 2;
+                width = measure.width(widest.data(), widest.size()) + 2 * 3;
             });
             hands.wait_until_idle();
             EXPECT_EQ(extent_of(box), width);

@@ -12,7 +12,8 @@ namespace brx {
 
 namespace {
 constexpr int longest_drop = 20; ///< lines
-}
+constexpr int text_indent = 1;   ///< as in a box
+} // namespace
 
 ComboBoxPeer::ComboBoxPeer(FormWindow& window, ComboBox& list)
     : ControlPeer(
@@ -95,6 +96,7 @@ void ComboBoxPeer::draw(const DRAWITEMSTRUCT& part) {
     const ListLine line = {.place = part.rcItem,
                            .text = known ? list_.line(index) : std::string_view(),
                            .text_top = window().line_top(room.top, room.bottom),
+                           .indent = text_indent,
                            .selected = (part.itemState & ODS_SELECTED) != 0,
                            .focused = (part.itemState & (ODS_FOCUS | ODS_NOFOCUSRECT)) == ODS_FOCUS};
     line.draw(*this, window().font(), part.hDC);

@@ -1,12 +1,17 @@
 #include "forms/win32/list_box_peer.h"
 
 #include "common/error.h"
+#include "forms/win32/dpi.h"
 #include "forms/win32/form_window.h"
 #include "forms/win32/list_line.h"
 
 #include <algorithm>
 
 namespace brx {
+
+namespace {
+constexpr int line_indent = 3; ///< at 96 DPI
+}
 
 ListBoxPeer::ListBoxPeer(FormWindow& window, ListBox& list)
     : RowsPeer(window, list, LVS_NOCOLUMNHEADER), list_(list) {
@@ -92,6 +97,7 @@ void ListBoxPeer::draw_line(int row, HDC dc) const {
     const ListLine line = {.place = place,
                            .text = list_.line(row),
                            .text_top = window().line_top(place.top, place.bottom),
+                           .indent = scaled(line_indent, window().dpi()),
                            .selected = (state & LVIS_SELECTED) != 0,
                            .focused = focused && (send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) == 0};
     const int width = line.draw(*this, window().font(), dc);

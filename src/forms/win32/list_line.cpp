@@ -6,8 +6,6 @@ namespace brx {
 
 namespace {
 
-constexpr int text_indent = 1; ///< on each side, as in a box
-
 HBRUSH set_colors(HDC dc, int text, int back) {
     SetTextColor(dc, GetSysColor(text));
     SetBkColor(dc, GetSysColor(back));
@@ -25,12 +23,12 @@ int ListLine::draw(const ControlPeer& peer, HFONT font, HDC dc) const {
     const std::wstring wide = to_wide(text);
     const auto length = static_cast<UINT>(wide.size());
     const HGDIOBJ before = SelectObject(dc, font);
-    ExtTextOutW(dc, place.left + text_indent, text_top, ETO_CLIPPED, &place, wide.data(), length, nullptr);
+    ExtTextOutW(dc, place.left + indent, text_top, ETO_CLIPPED, &place, wide.data(), length, nullptr);
     SIZE size{};
     GetTextExtentPoint32W(dc, wide.data(), static_cast<int>(length), &size);
     SelectObject(dc, before);
     if (focused) DrawFocusRect(dc, &place);
-    return size.cx + 2 * text_indent;
+    return size.cx + 2 * indent;
 }
 
 } // namespace brx

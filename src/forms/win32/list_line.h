@@ -14,6 +14,7 @@ struct ListLine {
     RECT place;
     std::string_view text;
     LONG text_top;
+    int indent; ///< on each side of the text
     bool selected = false;
     bool focused = false; ///< with the frame that the keyboard's lines have
 
