@@ -5,7 +5,7 @@
 #include "bench/when_idle.h"
 
 #include "com/failure.h"
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include <commctrl.h>
 

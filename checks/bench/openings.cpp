@@ -2,10 +2,10 @@
 
 #include "bench/when_idle.h"
 
+#include "desk/native.h"
 #include "host/fake_host.h"
 #include "windows/component.h"
 #include "windows/host_classes.h"
-#include "windows/native.h"
 
 #include "forms/win32/visual_styles.h"
 

@@ -1,20 +1,15 @@
 #pragma once
 
+#include "gave_up.h"
 #include "screen.h"
 
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace brx::checks {
 
 using Lines = std::vector<std::string>;
-
-/// The story cannot go on. The failure has been recorded.
-struct GaveUp : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// A person in front of the screen, for whom anything that should be possible and is not ends the story.
 class Person {

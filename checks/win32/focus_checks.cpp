@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "desk/desk.h"
 
 #include "forms/button.h"
 #include "forms/label.h"

@@ -1,6 +1,6 @@
 // Letters that are typed where the focus has no use for them.
 
-#include "desk.h"
+#include "desk/desk.h"
 
 #include "forms/button.h"
 #include "forms/check_box.h"

@@ -1,9 +1,9 @@
 #include "lists.h"
 
+#include "desk/native.h"
+#include "desk/native_table.h"
 #include "forms/win32/gdi.h"
 #include "forms/win32/wide.h"
-#include "windows/native.h"
-#include "windows/native_table.h"
 
 #include <commctrl.h>
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "desk.h"
+#include "desk/desk.h"
 
 #include "common/values/calendar.h"
+#include "desk/native_table.h"
 #include "forms/button.h"
 #include "forms/date_picker.h"
 #include "forms/frame.h"
@@ -12,7 +13,6 @@
 #include "forms/tab_strip.h"
 #include "forms/text_box.h"
 #include "screen.h"
-#include "windows/native_table.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "desk/desk.h"
 
 #include "forms/busy_cursor.h"
 #include "forms/button.h"

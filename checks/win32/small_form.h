@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desk.h"
+#include "desk/desk.h"
 
 #include "forms/button.h"
 #include "forms/text_box.h"

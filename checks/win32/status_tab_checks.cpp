@@ -4,8 +4,8 @@
 #include "pages.h"
 
 #include "configuration/dlgConfiguration.h"
+#include "desk/native.h"
 #include "host/fake_host.h"
-#include "windows/native.h"
 
 namespace brx::checks {
 

@@ -1,6 +1,6 @@
+#include "desk/native.h"
 #include "looks.h"
 #include "pages.h"
-#include "windows/native.h"
 
 namespace brx::checks {
 

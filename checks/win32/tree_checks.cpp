@@ -2,9 +2,9 @@
 
 #include "trees.h"
 
+#include "desk/native.h"
 #include "forms/win32/dpi.h"
 #include "forms/win32/wide.h"
-#include "windows/native.h"
 
 namespace brx::checks {
 

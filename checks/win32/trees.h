@@ -1,11 +1,11 @@
 #pragma once
 
-#include "desk.h"
+#include "desk/desk.h"
 
+#include "desk/native_tree.h"
 #include "forms/button.h"
 #include "forms/tree_rows.h"
 #include "forms/tree_view.h"
-#include "windows/native_tree.h"
 
 #include <commctrl.h>
 

@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "desk/desk.h"
 #include "looks.h"
 
 #include "host/fake_host.h"

@@ -2,8 +2,8 @@
 
 #include "com/bstr.h"
 #include "common/values/text.h"
-#include "windows/native.h"
-#include "windows/native_table.h"
+#include "desk/native.h"
+#include "desk/native_table.h"
 
 #include <commctrl.h>
 

@@ -1,6 +1,6 @@
 #include "windows/dialog_clock.h"
 
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/native.h"
+#include "desk/native.h"
 #include "windows/plain_dialog.h"
 #include "windows/windows_screen.h"
 

@@ -1,6 +1,6 @@
 #include "windows/ui_thread.h"
 
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include <objbase.h>
 

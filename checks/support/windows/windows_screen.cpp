@@ -1,9 +1,9 @@
 #include "windows/windows_screen.h"
 
-#include "windows/native.h"
-#include "windows/native_table.h"
-#include "windows/native_tree.h"
-#include "windows/reach.h"
+#include "desk/native.h"
+#include "desk/native_table.h"
+#include "desk/native_tree.h"
+#include "desk/reach.h"
 
 namespace brx::checks {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desk/hands.h"
 #include "screen.h"
-#include "windows/hands.h"
 #include "windows/ui_thread.h"
 #include "windows/watched_help.h"
 

@@ -1,9 +1,9 @@
 // What a person does before the windows with the keyboard.
 
 #include "com/bstr.h"
-#include "windows/native.h"
-#include "windows/native_table.h"
-#include "windows/reach.h"
+#include "desk/native.h"
+#include "desk/native_table.h"
+#include "desk/reach.h"
 #include "windows/windows_screen.h"
 
 #include <algorithm>

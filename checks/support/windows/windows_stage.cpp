@@ -1,7 +1,7 @@
 #include "windows/windows_stage.h"
 
 #include "com/module.h"
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include <gtest/gtest.h>
 

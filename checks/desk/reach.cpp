@@ -1,9 +1,9 @@
-#include "windows/reach.h"
+#include "desk/reach.h"
 
-#include "windows/hands.h"
-#include "windows/native.h"
-#include "windows/native_table.h"
-#include "windows/native_tree.h"
+#include "desk/hands.h"
+#include "desk/native.h"
+#include "desk/native_table.h"
+#include "desk/native_tree.h"
 
 #include <commctrl.h>
 

@@ -1,7 +1,7 @@
-#include "windows/native_tree.h"
+#include "desk/native_tree.h"
 
 #include "com/bstr.h"
-#include "windows/native.h"
+#include "desk/native.h"
 
 namespace brx::checks {
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "desk/native.h"
 #include "forms/form.h"
 #include "forms/win32/engine.h"
+#include "gave_up.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +11,6 @@
 
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -35,11 +36,6 @@ private:
     DWORD id_ = GetCurrentThreadId();
     HWND window_ = nullptr;
     HANDLE idle_ = nullptr;
-};
-
-/// The check cannot go on. The failure has been recorded.
-struct GaveUp : std::runtime_error {
-    using std::runtime_error::runtime_error;
 };
 
 /// A person's hands on keyboard and mouse, and eyes on the windows. Lives on a thread of its own.

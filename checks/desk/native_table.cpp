@@ -1,7 +1,7 @@
-#include "windows/native_table.h"
+#include "desk/native_table.h"
 
 #include "com/bstr.h"
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include <commctrl.h>
 

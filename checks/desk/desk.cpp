@@ -1,5 +1,7 @@
-#include "desk.h"
+#include "desk/desk.h"
 
+#include "desk/hands.h"
+#include "desk/native.h"
 #include "forms/win32/wide.h"
 
 #include <atomic>
@@ -13,35 +15,10 @@ namespace {
 
 constexpr UINT run_message = WM_APP + 1;
 constexpr UINT idle_message = WM_APP + 2;
-constexpr DWORD patience = 10'000; ///< milliseconds
 
 [[noreturn]] void give_up(const std::string& why) {
     ADD_FAILURE() << why;
     throw GaveUp(why);
-}
-
-std::string name_of(HWND window) {
-    const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, L"brx.Name")));
-    wchar_t name[256] = L"";
-    if (atom != 0) GlobalGetAtomNameW(atom, name, 256);
-    return from_wide(name);
-}
-
-bool is_message_box(HWND window) {
-    wchar_t name[16] = L"";
-    GetClassNameW(window, name, 16);
-    return name == std::wstring(L"#32770") && name_of(window).empty();
-}
-
-BOOL CALLBACK note_visible(HWND window, LPARAM list) {
-    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-    return TRUE;
-}
-
-std::vector<HWND> windows_of(DWORD thread) {
-    std::vector<HWND> found;
-    EnumThreadWindows(thread, note_visible, reinterpret_cast<LPARAM>(&found));
-    return found;
 }
 
 /// The first visible window of the thread that fits, when there is one within some seconds.
@@ -121,9 +98,7 @@ HWND Hands::form(const std::string& name) const {
 
 HWND Hands::control(const std::string& form_name, const std::string& control_name) const {
     const HWND parent = find_window(windows_.id(), [&](HWND window) { return name_of(window) == form_name; });
-    for (HWND child = parent ? GetWindow(parent, GW_CHILD) : nullptr; child;
-         child = GetWindow(child, GW_HWNDNEXT))
-        if (name_of(child) == control_name) return child;
+    if (const HWND found = parent ? find_control(parent, control_name) : nullptr) return found;
     give_up("no control " + control_name + " in " + form_name);
 }
 
@@ -161,15 +136,13 @@ void Hands::type(const std::string& text) const {
 }
 
 void Hands::click(HWND window, int x, int y) const {
-    PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-    PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    checks::click(window, {x, y});
     wait_until_idle();
 }
 
 void Hands::double_click(HWND window, int x, int y) const {
     click(window, x, y);
-    PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(x, y));
-    PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    click_again(window, {x, y});
     wait_until_idle();
 }
 
@@ -185,12 +158,7 @@ HWND Hands::focus() const {
     return info.hwndFocus;
 }
 
-std::wstring Hands::text(HWND window) {
-    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
-}
+std::wstring Hands::text(HWND window) { return to_wide(text_of(window)); }
 
 HostWindow::HostWindow(RECT place, DWORD style, DWORD ex_style, HWND owner)
     : handle_(CreateWindowExW(ex_style, L"STATIC", L"Host", style, place.left, place.top,

@@ -1,4 +1,4 @@
-#include "windows/hands.h"
+#include "desk/hands.h"
 
 #include "com/bstr.h"
 

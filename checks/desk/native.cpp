@@ -1,9 +1,9 @@
-#include "windows/native.h"
+#include "desk/native.h"
 
 #include "com/bstr.h"
 #include "common/values/text.h"
-#include "windows/native_table.h"
-#include "windows/native_tree.h"
+#include "desk/native_table.h"
+#include "desk/native_tree.h"
 
 #include <algorithm>
 #include <array>
