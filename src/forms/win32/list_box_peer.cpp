@@ -52,7 +52,7 @@ void ListBoxPeer::font_changed() {
     RowsPeer::font_changed();
 }
 
-/// Beside the lines there is nothing to press. On its own a list tells of other lines only.
+/// Beside the lines there is nothing to press.
 void ListBoxPeer::press(int row, bool twice) {
     if (row < 0) return;
     const bool pressed =
