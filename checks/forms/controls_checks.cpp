@@ -48,37 +48,12 @@ TEST_F(Controls, WhatIsSelectedIsToldToTheEngineAsASelection) {
     });
 }
 
-TEST_F(Controls, ACharacterChoosesTheNextLineOfAListBoxThatBeginsWithIt) {
-    while_open([&] {
-        for (const char* line : {"Pear", "apple", "plum"}) form.list.add_line(line);
-        for (const auto& [typed, line] : {std::pair{"p", 0}, {"p", 2}, {"P", 0}, {"a", 1}, {" ", 1}}) {
-            EXPECT_TRUE(form.list.user_search(typed));
-            EXPECT_EQ(form.list.selected(), line) << typed;
-        }
-        EXPECT_FALSE(form.list.user_search("x"));
-        EXPECT_EQ(form.notes, Notes(4, "list_Click"));
-    });
-}
-
 TEST_F(Controls, AnEmptyListThatIsClearedIsNotShownAgain) {
     while_open([&] {
         StandIn window(form.list);
         form.list.clear();
         form.repaint();
         EXPECT_EQ(window.seen, Aspect::none);
-    });
-}
-
-TEST_F(Controls, ATextBoxFiresChangeWhenCodeOrAPersonMakesTheTextDifferent) {
-    while_open([&] {
-        form.box.set_text("new");
-        EXPECT_EQ(form.notes, (Notes{"box_Change"}));
-        form.box.set_text("new");
-        EXPECT_EQ(form.notes, (Notes{"box_Change"})) << "The same text changes nothing.";
-        EXPECT_TRUE(form.box.user_text("typed"));
-        EXPECT_EQ(form.notes, (Notes{"box_Change", "box_Change"}));
-        EXPECT_TRUE(form.box.user_text("typed"));
-        EXPECT_EQ(form.notes.size(), 2U) << "An echo of what is there changes nothing.";
     });
 }
 
@@ -95,50 +70,6 @@ TEST_F(Controls, EditCommandsComeBackWithoutKeyPressAndBackspaceIsACharacter) {
     });
 }
 
-TEST_F(Controls, AKeyPressHandlerCanChangeOrDiscardTheCharacter) {
-    while_open([&] {
-        form.on_key = [](std::int32_t& key) { key = key == 'a' ? 'b' : 0; };
-        EXPECT_EQ(form.box.user_key_press('a'), 'b');
-        EXPECT_EQ(form.box.user_key_press('c'), 0);
-    });
-}
-
-TEST_F(Controls, ADisplayOnlyBoxRefusesAPersonsTextButNotTheCodes) {
-    struct Display : Form {
-        explicit Display(Environment& environment)
-            : Form(environment, {.name = "Display", .caption = "", .size = {}}) {}
-        TextBox box{*this, "box", {.place = {}, .display_only = true}};
-    };
-    Display display(environment);
-    engine.while_open = [&](Form&) {
-        EXPECT_FALSE(display.box.user_text("typed"));
-        EXPECT_EQ(display.box.text(), "");
-        display.box.set_text("shown");
-        EXPECT_EQ(display.box.text(), "shown");
-    };
-    display.show_modal();
-}
-
-TEST_F(Controls, ADisabledOrHiddenControlTakesNoInputFromAPersonButCodeCanSetIt) {
-    while_open([&] {
-        form.box.set_enabled(false);
-        EXPECT_FALSE(form.box.user_text("typed"));
-        form.box.set_text("set");
-        EXPECT_EQ(form.box.text(), "set");
-        form.box.set_enabled(true);
-        form.frame.set_visible(false);
-        EXPECT_FALSE(form.box.user_text("typed")) << "Its frame is hidden.";
-        EXPECT_FALSE(form.box.shows());
-        form.frame.set_visible(true);
-        form.frame.set_enabled(false);
-        EXPECT_FALSE(form.box.user_text("typed")) << "Its frame is disabled.";
-        form.button.set_enabled(false);
-        EXPECT_FALSE(form.button.user_click());
-        form.check.set_visible(false);
-        EXPECT_FALSE(form.check.user_toggle());
-    });
-}
-
 TEST_F(Controls, SettingEnabledVisibleOrColoursFiresNothing) {
     while_open([&] {
         form.list.set_enabled(false);
@@ -146,44 +77,6 @@ TEST_F(Controls, SettingEnabledVisibleOrColoursFiresNothing) {
         form.list.set_back_color(color::red);
         form.list.set_fore_color(color::red);
         EXPECT_TRUE(form.notes.empty());
-    });
-}
-
-TEST_F(Controls, AListFiresClickWhenAnotherLineIsSelectedByCodeOrAPerson) {
-    while_open([&] {
-        form.list.add_line("one");
-        form.list.add_line("two");
-        EXPECT_TRUE(form.notes.empty());
-        form.list.select(0);
-        EXPECT_TRUE(form.list.user_select(1));
-        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click"}));
-        EXPECT_TRUE(form.list.user_select(1));
-        form.list.select(1);
-        EXPECT_EQ(form.notes.size(), 2U) << "The same line again is no change.";
-    });
-}
-
-TEST_F(Controls, APressOfTheMouseOnTheSelectedLineIsAClickInAListBoxOnly) {
-    while_open([&] {
-        for (ListControl* list : std::initializer_list<ListControl*>{&form.list, &form.combo}) {
-            list->add_line("one");
-            list->add_line("two");
-        }
-        EXPECT_FALSE(form.list.user_press(2));
-        EXPECT_EQ(form.notes, Notes{});
-        EXPECT_TRUE(form.list.user_press(0));
-        EXPECT_TRUE(form.list.user_press(0));
-        EXPECT_FALSE(form.list.user_press(-1)) << "The room below the lines is none.";
-        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click"}));
-        EXPECT_TRUE(form.list.user_select(0)) << "The keyboard comes to no other line.";
-        form.list.select(0);
-        EXPECT_EQ(form.notes.size(), 2U);
-        EXPECT_TRUE(form.combo.user_press(1));
-        EXPECT_TRUE(form.combo.user_press(1));
-        EXPECT_EQ(form.notes, (Notes{"list_Click", "list_Click", "combo_Click"}));
-        form.list.set_enabled(false);
-        EXPECT_FALSE(form.list.user_press(0));
-        EXPECT_EQ(form.notes.size(), 3U);
     });
 }
 

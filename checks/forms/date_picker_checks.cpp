@@ -22,16 +22,6 @@ constexpr int noon = 12 * 3600;
 
 } // namespace
 
-TEST_F(DatePickers, ChangeFiresWhenTheValueBecomesDifferentByAPersonOrByCode) {
-    while_open([&] {
-        day.set_value(date(2026, 11, 21));
-        day.set_value(date(2026, 11, 21));
-        EXPECT_TRUE(day.user_set(date(2026, 11, 22)));
-        EXPECT_TRUE(day.user_set(date(2026, 11, 22)));
-        EXPECT_EQ(form.notes, (Notes{"day 2026-11-21", "day 2026-11-22"}));
-    });
-}
-
 TEST_F(DatePickers, TextIsTheDateOrTheTimeOfDay) {
     while_open([&] {
         day.set_value(date(1601, 1, 2, noon));
@@ -74,43 +64,6 @@ TEST_F(DatePickers, ItIsAccurateToTheSecond) {
         form.notes.clear();
         time.set_value({46'000.0 + 1.3 / 86'400});
         EXPECT_EQ(form.notes, Notes{}) << "It is the same second.";
-    });
-}
-
-TEST_F(DatePickers, WhatAPersonSetsLeavesTheOtherPartAlone) {
-    while_open([&] {
-        day.set_value(date(2026, 11, 21, noon));
-        EXPECT_TRUE(day.user_set(date(2030, 1, 2, 1)));
-        EXPECT_EQ(day.value(), date(2030, 1, 2, noon));
-        time.set_value(date(2026, 11, 21, noon));
-        EXPECT_TRUE(time.user_set(date(2030, 1, 2, 1)));
-        EXPECT_EQ(time.value(), date(2026, 11, 21, 1));
-        EXPECT_TRUE(time.user_set({0.75}));
-        EXPECT_EQ(time.value(), date(2026, 11, 21, 18 * 3600));
-    });
-}
-
-TEST_F(DatePickers, WhatAPersonDoesNotReachStaysAsItIs) {
-    while_open([&] {
-        const Date before = day.value();
-        const auto refused = [&] { return !day.user_set(date(2030, 1, 2)) && day.value() == before; };
-        day.set_enabled(false);
-        EXPECT_TRUE(refused());
-        day.set_enabled(true);
-        form.tabs.select(1);
-        EXPECT_TRUE(refused()) << "Another tab is in front.";
-        form.tabs.select(2);
-        form.notes.clear();
-        {
-            const CodeTurn code;
-            EXPECT_TRUE(refused());
-        }
-        {
-            const ModalTurn box(nullptr);
-            EXPECT_TRUE(refused());
-        }
-        EXPECT_EQ(form.notes, Notes{});
-        EXPECT_FALSE(refused());
     });
 }
 

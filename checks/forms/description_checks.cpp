@@ -68,7 +68,7 @@ TEST(Description, TellsTheFirstLinesOnlyOfALongList) {
 
 TEST(Description, TellsATableCellByCellItsTabsAndItsDates) {
     OnePage page;
-    PageForm& form = page.form;
+    BarePages& form = page.form;
     page.while_open([&] {
         form.list.add_column("Item", 50);
         form.list.add_column("Value", 50);
@@ -105,16 +105,16 @@ TEST(Description, TellsATreesNodesInViewRowByRow) {
         tree.tree.user_expand(tree.tree.node("fruit"));
         tree.tree.select(&tree.tree.node("apple"));
         EXPECT_THAT(description_of(tree.form, Reading::all_lines),
-                    HasSubstr("tree\ttree_view\t1\t1\t1\t4\tApple\n"
-                              "tree\trow\t1\t1\t-1\t0\t-Fruit\n"
-                              "tree\trow\t1\t1\t-1\t0\t   Apple\n"
-                              "tree\trow\t1\t1\t-1\t0\t  +Pear\n"
-                              "tree\trow\t1\t1\t-1\t0\t Spice\n"));
-        EXPECT_THAT(description_of(tree.form, 1), HasSubstr("tree\ttree_view\t1\t1\t1\t4\tApple\n"
-                                                            "tree\trow\t1\t1\t-1\t0\t-Fruit\n"));
+                    HasSubstr("Tree\ttree_view\t1\t1\t1\t4\tApple\n"
+                              "Tree\trow\t1\t1\t-1\t0\t-Fruit\n"
+                              "Tree\trow\t1\t1\t-1\t0\t   Apple\n"
+                              "Tree\trow\t1\t1\t-1\t0\t  +Pear\n"
+                              "Tree\trow\t1\t1\t-1\t0\t Spice\n"));
+        EXPECT_THAT(description_of(tree.form, 1), HasSubstr("Tree\ttree_view\t1\t1\t1\t4\tApple\n"
+                                                            "Tree\trow\t1\t1\t-1\t0\t-Fruit\n"));
         tree.tree.user_collapse(tree.tree.node("fruit"));
         tree.tree.select(&tree.tree.node("core"));
-        EXPECT_THAT(description_of(tree.form, 0), HasSubstr("tree\ttree_view\t1\t1\t-1\t2\tCore\n"))
+        EXPECT_THAT(description_of(tree.form, 0), HasSubstr("Tree\ttree_view\t1\t1\t-1\t2\tCore\n"))
             << "It is not in view.";
     });
 }

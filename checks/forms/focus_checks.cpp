@@ -14,17 +14,6 @@ struct Focus : testing::Test, OpenForm {};
 
 } // namespace
 
-TEST_F(Focus, TheFirstControlInTabOrderThatTakesInputHasTheFocusFirst) {
-    while_open([&] { EXPECT_EQ(form.focused(), &form.box); });
-    form.on_load = [&] { form.box.set_enabled(false); };
-    while_open([&] { EXPECT_EQ(form.focused(), &form.list); });
-}
-
-TEST_F(Focus, TheFocusCanBeGivenWhileTheFormLoads) {
-    form.on_load = [&] { form.check.set_focus(); };
-    while_open([&] { EXPECT_EQ(form.focused(), &form.check); });
-}
-
 TEST_F(Focus, TheFocusStartsInABoxThatOnlyDisplaysWhereThereIsNothingElse) {
     class Readings : public Form {
     public:
@@ -46,17 +35,6 @@ TEST_F(Focus, TheFocusStartsInABoxThatOnlyDisplaysWhereThereIsNothingElse) {
         EXPECT_EQ(readings.first_focusable(), nullptr);
     };
     readings.show_modal();
-}
-
-TEST_F(Focus, TheTextOfABoxIsSelectedWhereTheFocusComesAsTheFormOpens) {
-    while_open([&] { EXPECT_TRUE(form.box.all_selected()); });
-    form.on_load = [&] { form.check.set_focus(); };
-    while_open([&] { EXPECT_FALSE(form.box.all_selected()); });
-    form.on_load = [&] { form.box.set_focus(); };
-    while_open([&] {
-        EXPECT_EQ(form.focused(), &form.box);
-        EXPECT_TRUE(form.box.all_selected());
-    });
 }
 
 TEST_F(Focus, TheKeyboardSelectsTheTextOfABoxAndTheMouseDoesNot) {
@@ -110,37 +88,6 @@ TEST_F(Focus, TheFocusCannotGoWhereInputIsNotTaken) {
         EXPECT_FALSE(form.check.user_focus());
         EXPECT_FALSE(form.label.user_focus());
         EXPECT_EQ(form.focused(), &form.box);
-    });
-}
-
-TEST_F(Focus, FocusMovesFireLostAndGotFocus) {
-    while_open([&] {
-        EXPECT_TRUE(form.list.user_focus());
-        EXPECT_TRUE(form.box.user_focus());
-        EXPECT_TRUE(form.box.user_focus());
-        EXPECT_EQ(form.notes, (Notes{"box_LostFocus", "box_GotFocus"}));
-    });
-}
-
-TEST_F(Focus, TheFocusMovesOnFromAControlThatIsDisabled) {
-    while_open([&] {
-        form.on_click = [&] { form.button.set_enabled(false); };
-        form.button.user_focus();
-        form.button.user_click();
-        EXPECT_EQ(form.focused(), &form.leave);
-    });
-}
-
-TEST_F(Focus, NothingHasTheFocusWhereNothingCanHaveIt) {
-    while_open([&] {
-        form.on_click = [&] {
-            for (Control* each : form.controls())
-                if (each != &form.button) each->set_enabled(false);
-            form.button.set_enabled(false);
-        };
-        form.button.user_focus();
-        form.button.user_click();
-        EXPECT_EQ(form.focused(), nullptr);
     });
 }
 

@@ -126,46 +126,6 @@ TEST_F(ListViews, SelectingTakesARowThatIsThereOrNone) {
     });
 }
 
-TEST_F(ListViews, APersonSelectsARowOrNoneAndDoubleClicks) {
-    while_open([&] {
-        add_three();
-        EXPECT_TRUE(list.user_select(2));
-        EXPECT_TRUE(list.user_double_click());
-        EXPECT_TRUE(list.user_select(0));
-        EXPECT_TRUE(list.user_double_click());
-        EXPECT_FALSE(list.user_select(4));
-        EXPECT_FALSE(list.user_select(-1));
-        EXPECT_EQ(form.notes, (Notes{"list twice 2", "list twice 0"}));
-    });
-}
-
-TEST_F(ListViews, WhatAPersonDoesNotReachStaysAsItIs) {
-    while_open([&] {
-        add_three();
-        const auto refused = [&] {
-            return !list.user_select(2) && !list.user_double_click() && list.selected() == 0;
-        };
-        list.set_enabled(false);
-        EXPECT_TRUE(refused());
-        list.set_enabled(true);
-        form.tabs.select(2);
-        form.notes.clear();
-        EXPECT_TRUE(refused()) << "Another tab is in front.";
-        form.tabs.select(1);
-        form.notes.clear();
-        {
-            const CodeTurn code;
-            EXPECT_TRUE(refused()) << "Code runs.";
-        }
-        {
-            const ModalTurn box(nullptr);
-            EXPECT_TRUE(refused()) << "A message box is in front.";
-        }
-        EXPECT_EQ(form.notes, Notes{});
-        EXPECT_FALSE(refused());
-    });
-}
-
 TEST_F(ListViews, TheKeyboardStartsFromTheRowThatWasSelected) {
     while_open([&] {
         for (int i = 1; i <= 6; ++i) list.add("", "Row " + std::to_string(i));

@@ -13,10 +13,10 @@
 
 namespace brx::checks {
 
-/// A form of tabs, with a table on the first one and pickers on the second one.
-class PageForm : public Form {
+/// A form of tabs, with a table without columns on the first one and pickers on the second one.
+class BarePages : public Form {
 public:
-    explicit PageForm(Environment& environment)
+    explicit BarePages(Environment& environment)
         : Form(environment, {.name = "PageForm", .caption = "Pages", .size = {300, 200}}) {}
 
     Notes notes;
@@ -52,7 +52,7 @@ struct OnePage {
     FakeHost host;
     ScriptedEngine engine;
     Environment environment{engine, host, host, Locale{}};
-    PageForm form{environment};
+    BarePages form{environment};
 
     void while_open(const std::function<void()>& story) {
         engine.while_open = [&](Form&) {

@@ -101,7 +101,7 @@ TEST_F(TreeNodes, WhenTheSelectedNodeGoesANeighbourOrItsParentIsSelectedAndNothi
         EXPECT_EQ(selected(), "Spice") << "The one before.";
         tree.remove(tree.node("spice"));
         EXPECT_EQ(selected(), "none");
-        EXPECT_EQ(form.notes, Notes{});
+        EXPECT_EQ(form.events, "");
     });
 }
 
@@ -115,7 +115,7 @@ TEST_F(TreeNodes, CodeSelectsAndClearsWithoutAnEvent) {
         tree.select(&tree.node("core"));
         tree.clear();
         EXPECT_EQ(selected(), "none");
-        EXPECT_EQ(form.notes, Notes{});
+        EXPECT_EQ(form.events, "");
     });
 }
 

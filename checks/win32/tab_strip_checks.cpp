@@ -22,116 +22,8 @@ protected:
 
 } // namespace
 
-TEST_F(TabStripTest, TabsShowTheirCaptionsAndTheSelectedOne) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        EXPECT_EQ(tab_captions(tabs), (Rows{"&1 Items", "&2 Times", "&3 More"}));
-        EXPECT_EQ(shown(tabs), 0);
-        run(hands, form, [&] { form.Tabs.select(2); });
-        EXPECT_EQ(shown(tabs), 1);
-        EXPECT_EQ(form.events, "Tab 2. ") << "Once, although the window was told too.";
-    });
-}
-
-TEST_F(TabStripTest, AClickOnATabSelectsItAndBringsTheFocus) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        EXPECT_EQ(hands.focus(), hands.control("Pages", "Before"));
-        click_tab(hands, tabs, 1);
-        EXPECT_EQ(form.events, "Tab 2. ");
-        EXPECT_EQ(hands.focus(), tabs);
-        EXPECT_TRUE(IsWindowVisible(hands.control("Pages", "Day")));
-        EXPECT_FALSE(IsWindowVisible(hands.control("Pages", "Name")));
-        click_tab(hands, tabs, 1);
-        EXPECT_EQ(form.events, "Tab 2. ") << "It is selected.";
-    });
-}
-
-TEST_F(TabStripTest, ControlAndTabTurnTheTabsWhereverTheFocusIs) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        for (const char* each : {"Before", "Tabs", "OK"}) {
-            form.events.clear();
-            hands.run([&] { SetFocus(hands.control("Pages", each)); });
-            hands.keys({VK_CONTROL, VK_TAB});
-            EXPECT_EQ(shown(tabs), 1) << each;
-            hands.keys({VK_CONTROL, VK_TAB});
-            EXPECT_EQ(shown(tabs), 2) << each;
-            hands.keys({VK_CONTROL, VK_TAB});
-            EXPECT_EQ(shown(tabs), 0) << each;
-            hands.keys({VK_CONTROL, VK_SHIFT, VK_TAB});
-            EXPECT_EQ(shown(tabs), 2) << each;
-            EXPECT_EQ(form.events, "Tab 2. Tab 3. Tab 1. Tab 3. ");
-            EXPECT_EQ(hands.focus(), hands.control("Pages", each)) << "The focus stays where it can.";
-            run(hands, form, [&] { form.Tabs.select(1); });
-        }
-        hands.run([&] { SetFocus(hands.control("Pages", "Name")); });
-        hands.keys({VK_CONTROL, VK_TAB});
-        EXPECT_EQ(hands.focus(), hands.control("Pages", "Before")) << "It was on what went.";
-    });
-}
-
-TEST_F(TabStripTest, TheArrowKeysSelectTheNeighbour) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        hands.run([&] { SetFocus(tabs); });
-        hands.key(VK_RIGHT);
-        EXPECT_EQ(form.Tabs.selected(), 2);
-        EXPECT_EQ(shown(tabs), 1);
-        hands.key(VK_LEFT);
-        hands.key(VK_LEFT);
-        EXPECT_EQ(form.events, "Tab 2. Tab 1. ");
-        EXPECT_EQ(hands.focus(), tabs);
-    });
-}
-
-TEST_F(TabStripTest, TheAcceleratorOfATabSelectsIt) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        hands.keys({VK_MENU, '2'});
-        EXPECT_EQ(form.events, "Tab 2. ");
-        EXPECT_EQ(shown(tabs), 1);
-        EXPECT_EQ(hands.focus(), hands.control("Pages", "Before"));
-        hands.keys({VK_MENU, '7'});
-        EXPECT_EQ(form.events, "Tab 2. ");
-    });
-}
-
-TEST_F(TabStripTest, OfTheSameAcceleratorTwiceTheNextOneGetsTheFocusAndNeitherIsPressed) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
-        run(hands, form, [&] { form.Third.set_visible(true); });
-        hands.keys({VK_MENU, '3'});
-        EXPECT_EQ(hands.focus(), tabs);
-        hands.keys({VK_MENU, '3'});
-        EXPECT_EQ(hands.focus(), hands.control("Pages", "Third"));
-        EXPECT_EQ(form.events, "");
-        run(hands, form, [&] { form.Third.set_enabled(false); });
-        hands.keys({VK_MENU, '3'});
-        EXPECT_EQ(form.events, "Tab 3. ");
-    });
-}
-
-TEST_F(TabStripTest, AcceleratorsOfWhatIsHiddenAreDead) {
-    Pages form(environment);
-    show_page(form, "Tabs", [&](Hands& hands, HWND) {
-        hands.keys({VK_MENU, 'H'});
-        EXPECT_EQ(form.events, "");
-        hands.keys({VK_MENU, 'G'});
-        EXPECT_EQ(form.events, "Go. ") << "The other one with this letter is on another tab.";
-        hands.keys({VK_MENU, '2'});
-        form.events.clear();
-        hands.keys({VK_MENU, 'G'});
-        hands.keys({VK_MENU, 'H'});
-        EXPECT_EQ(form.events, "Give. Hide. ");
-        hands.run([&] { SetFocus(hands.control("Pages", "Before")); });
-        hands.keys({VK_MENU, 'N'});
-        EXPECT_EQ(hands.focus(), hands.control("Pages", "Before")) << "The label is on the first tab.";
-    });
-}
-
 TEST_F(TabStripTest, WhatLiesOnTheAreaIsHitAndNotTheTabs) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
         const HWND window = GetParent(tabs);
         const auto look = [&] {
@@ -153,7 +45,7 @@ TEST_F(TabStripTest, WhatLiesOnTheAreaIsHitAndNotTheTabs) {
 }
 
 TEST_F(TabStripTest, TheAreaIsNoPartOfTheTabsAndHasTheColorOfTheForm) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
         const auto belongs = [&](int x, int y) {
             const HRGN region = CreateRectRgn(0, 0, 0, 0);
@@ -184,7 +76,7 @@ TEST_F(TabStripTest, TheAreaIsNoPartOfTheTabsAndHasTheColorOfTheForm) {
 }
 
 TEST_F(TabStripTest, WhatTheControlRefusesIsNotShown) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
         POINT point{};
         point_on_tab(tabs, 1, point);
@@ -202,7 +94,7 @@ TEST_F(TabStripTest, WhatTheControlRefusesIsNotShown) {
 }
 
 TEST_F(TabStripTest, APageThatCodePutAwayStaysAwayAtEverySize) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
         const HWND window = GetParent(tabs);
         const auto place = [&](const char* name) { return place_in_form(hands.control("Pages", name)); };
@@ -239,7 +131,7 @@ TEST_F(TabStripTest, APageThatCodePutAwayStaysAwayAtEverySize) {
 }
 
 TEST_F(TabStripTest, NothingIsDrawnOverAnotherWhileTheFormIsSized) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Tabs", [&](Hands& hands, HWND tabs) {
         hands.run([&] {
             const HWND window = GetParent(tabs);
@@ -259,14 +151,14 @@ TEST_F(TabStripTest, NothingIsDrawnOverAnotherWhileTheFormIsSized) {
 }
 
 TEST_F(TabStripTest, AHiddenPageIsNeverDrawn) {
-    Pages form(environment);
+    PageForm form(environment);
     show_page(form, "Day", [&](Hands& hands, HWND day) {
         hands.run([&] {
             const HWND page = hands.control("Pages", "Second");
             const MessageLog on_page(page);
             const MessageLog on_day(day);
             grow(GetParent(day), 100, 100);
-            form.run_event([&] { form.Day.set_value(Pages::day(2030, 1, 2)); });
+            form.run_event([&] { form.Day.set_value(PageForm::day(2030, 1, 2)); });
             RedrawWindow(GetParent(day), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
             EXPECT_EQ(on_page.count(WM_PAINT) + on_page.count(WM_ERASEBKGND), 0);
             EXPECT_EQ(on_day.count(WM_PAINT) + on_day.count(WM_ERASEBKGND), 0);

@@ -1,48 +1,13 @@
 #include "desk/desk.h"
 
-#include "forms/button.h"
-#include "forms/focus.h"
-#include "forms/text_box.h"
 #include "forms/win32/wide.h"
+#include "rules/box_form.h"
 
 namespace brx::checks {
 
 namespace {
 
 class TextBoxTest : public OnWindows {};
-
-/// A form with boxes that note what happens to them.
-class Boxes : public Form {
-public:
-    explicit Boxes(Environment& on) : Form(on, {.name = "Boxes", .caption = "Boxes", .size = {300, 150}}) {}
-
-    std::string events;
-    std::function<void(std::int32_t&)> on_key_press;
-    std::function<void()> on_change;
-    std::function<void()> on_load;
-    std::string initial = "start";
-
-    // clang-format off
-    TextBox Box  {*this, "Box",   {.place = {10, 10, 200, 23}, .tab = 1,
-                                   .Change = [this] { events += "Change "; if (on_change) on_change(); },
-                                   .KeyDown = [this](std::int32_t key) { events += "Down" + std::to_string(key) + " "; },
-                                   .KeyPress = [this](std::int32_t& key) {
-                                       events += "Press" + std::to_string(key) + " ";
-                                       if (on_key_press) on_key_press(key);
-                                   },
-                                   .KeyUp = [this](std::int32_t key) { events += "Up" + std::to_string(key) + " "; }}};
-    TextBox Fixed{*this, "Fixed", {.place = {10, 40, 200, 23}, .tab = 2, .text = "fixed", .display_only = true,
-                                   .Change = [this] { events += "FixedChange "; }}};
-    TextBox Other{*this, "Other", {.place = {10, 70, 200, 23}, .tab = 3, .text = "other text",
-                                   .GotFocus = [this] { hlxFocus::select_text(Other); }}};
-    // clang-format on
-
-    void Form_Load() override {
-        Box.set_text(initial);
-        if (on_load) on_load();
-        events.clear();
-    }
-};
 
 std::pair<DWORD, DWORD> selection_of(HWND box) {
     DWORD from = 0;
@@ -64,20 +29,8 @@ void put_on_clipboard(const std::wstring& text) {
 
 } // namespace
 
-TEST_F(TextBoxTest, ATypedCharacterGoesDownPressChangeUp) {
-    Boxes form(environment);
-    form.initial = "";
-    show(form, [&](Hands& hands) {
-        hands.form("Boxes");
-        hands.type("a");
-        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"a");
-    });
-    EXPECT_EQ(form.events, "Down65 Press97 Change Up65 ");
-    EXPECT_EQ(form.Box.text(), "a");
-}
-
 TEST_F(TextBoxTest, AHandlerDiscardsOrReplacesTheTypedCharacter) {
-    Boxes form(environment);
+    BoxForm form(environment);
     form.initial = "";
     form.on_key_press = [](std::int32_t& key) {
         if (key == 'b') key = 0;
@@ -92,21 +45,9 @@ TEST_F(TextBoxTest, AHandlerDiscardsOrReplacesTheTypedCharacter) {
     EXPECT_EQ(form.Box.text(), "aCd\u20AC");
 }
 
-TEST_F(TextBoxTest, PastingChangesTheTextWithoutKeyPressOfItsCharacters) {
-    put_on_clipboard(L"pasted \u4E2D\u6587");
-    Boxes form(environment);
-    form.initial = "";
-    show(form, [&](Hands& hands) {
-        hands.form("Boxes");
-        SendMessageW(hands.control("Boxes", "Box"), WM_PASTE, 0, 0);
-    });
-    EXPECT_EQ(form.events, "Change ");
-    EXPECT_EQ(form.Box.text(), "pasted \u4E2D\u6587");
-}
-
 TEST_F(TextBoxTest, ControlAndVPastesAndControlAndASelectsEverything) {
     put_on_clipboard(L"new");
-    Boxes form(environment);
+    BoxForm form(environment);
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
         hands.keys({VK_CONTROL, 'A'});
@@ -120,7 +61,7 @@ TEST_F(TextBoxTest, ControlAndVPastesAndControlAndASelectsEverything) {
 
 TEST_F(TextBoxTest, TheEditCommandsOfTheKeyboardReachNoKeyPress) {
     put_on_clipboard(L"12x");
-    Boxes form(environment);
+    BoxForm form(environment);
     form.on_key_press = [](std::int32_t& key) { key = 0; };
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
@@ -148,36 +89,9 @@ TEST_F(TextBoxTest, TheEditCommandsOfTheKeyboardReachNoKeyPress) {
     });
 }
 
-TEST_F(TextBoxTest, TextSetByCodeIsShownAndTheWindowTellsNothingBack) {
-    Boxes form(environment);
-    show(form, [&](Hands& hands) {
-        hands.form("Boxes");
-        hands.run([&] { form.run_event([&] { form.Box.set_text("by code"); }); });
-        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"by code");
-    });
-    EXPECT_EQ(form.events, "Change ");
-}
-
-TEST_F(TextBoxTest, AHandlerCorrectsWhatIsTypedAndTheCaretStays) {
-    Boxes form(environment);
-    form.initial = "";
-    form.on_change = [&] {
-        std::string upper = form.Box.text();
-        for (char& each : upper)
-            if (each >= 'a' && each <= 'z') each = static_cast<char>(each - 'a' + 'A');
-        form.Box.set_text(upper);
-    };
-    show(form, [&](Hands& hands) {
-        hands.form("Boxes");
-        hands.type("abc");
-        EXPECT_EQ(Hands::text(hands.control("Boxes", "Box")), L"ABC");
-    });
-    EXPECT_EQ(form.Box.text(), "ABC");
-}
-
 TEST_F(TextBoxTest, ADisplayOnlyBoxTakesTheFocusButNoText) {
     put_on_clipboard(L"pasted");
-    Boxes form(environment);
+    BoxForm form(environment);
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
         const HWND box = hands.control("Boxes", "Fixed");
@@ -202,7 +116,7 @@ TEST_F(TextBoxTest, ADisplayOnlyBoxTakesTheFocusButNoText) {
 }
 
 TEST_F(TextBoxTest, WhatAnotherProgramSetsCountsAsTyped) {
-    Boxes form(environment);
+    BoxForm form(environment);
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
         SendMessageW(hands.control("Boxes", "Box"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"automated"));
@@ -214,7 +128,7 @@ TEST_F(TextBoxTest, WhatAnotherProgramSetsCountsAsTyped) {
 TEST_F(TextBoxTest, TextOfAnyLengthAndAnyCharactersComesThroughWhole) {
     const std::wstring wide =
         L"\xD83D\xDE00 \xD800 lone \xDC00 \u202Eright to left\u202C a&b\t" + std::wstring(100'000, L'x');
-    Boxes form(environment);
+    BoxForm form(environment);
     form.initial = from_wide(wide);
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
@@ -229,7 +143,7 @@ TEST_F(TextBoxTest, TextOfAnyLengthAndAnyCharactersComesThroughWhole) {
 
 TEST_F(TextBoxTest, ATextThatTheWindowCannotHoldStaysWholeInTheControl) {
     const std::string with_nul("before\0after", 12);
-    Boxes form(environment);
+    BoxForm form(environment);
     form.initial = with_nul;
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
@@ -244,7 +158,7 @@ TEST_F(TextBoxTest, ATextThatTheWindowCannotHoldStaysWholeInTheControl) {
 
 TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhetherTheFormSelectedItOrNot) {
     for (const bool selected : {true, false}) {
-        Boxes form(environment);
+        BoxForm form(environment);
         form.on_load = [&] {
             if (selected) form.Box.select_all();
         };
@@ -256,7 +170,7 @@ TEST_F(TextBoxTest, OpensWithTheWholeTextSelectedWhetherTheFormSelectedItOrNot) 
 }
 
 TEST_F(TextBoxTest, AClickIntoABoxThatSelectsItsTextLeavesItSelected) {
-    Boxes form(environment);
+    BoxForm form(environment);
     show(form, [&](Hands& hands) {
         hands.form("Boxes");
         const HWND other = hands.control("Boxes", "Other");
@@ -266,23 +180,6 @@ TEST_F(TextBoxTest, AClickIntoABoxThatSelectsItsTextLeavesItSelected) {
         hands.click(other, 30, 5);
         const auto [from, to] = selection_of(other);
         EXPECT_EQ(from, to);
-    });
-}
-
-TEST_F(TextBoxTest, ABoxThatAHandlerDisablesPassesTheFocusOn) {
-    Boxes form(environment);
-    form.initial = "";
-    form.on_change = [&] {
-        form.Box.set_enabled(false);
-        form.Fixed.set_visible(false);
-    };
-    show(form, [&](Hands& hands) {
-        hands.form("Boxes");
-        hands.type("a");
-        EXPECT_EQ(hands.focus(), hands.control("Boxes", "Other"));
-        hands.run([&] { EXPECT_EQ(form.focused(), &form.Other); });
-        EXPECT_FALSE(IsWindowEnabled(hands.control("Boxes", "Box")));
-        EXPECT_FALSE(IsWindowVisible(hands.control("Boxes", "Fixed")));
     });
 }
 

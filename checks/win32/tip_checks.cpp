@@ -91,7 +91,7 @@ TEST_F(TipTest, AButtonTellsWhatItOpens) {
 }
 
 TEST_F(TipTest, ACellThatIsCutShowsItsWholeText) {
-    Pages form(environment);
+    PageForm form(environment);
     form.on_load = [&] {
         form.add_rows(3);
         for (const int column : {0, 1, 2}) form.List.row(2).set_text(column, long_text);
@@ -112,7 +112,7 @@ TEST_F(TipTest, ACellThatIsCutShowsItsWholeText) {
 }
 
 TEST_F(TipTest, ACellOfWhichPartsAreOutOfViewShowsItsWholeText) {
-    Pages form(environment);
+    PageForm form(environment);
     form.on_load = [&] {
         form.add_rows(1);
         form.List.row(1).set_text(1, "A longer value");
@@ -139,7 +139,7 @@ TEST_F(TipTest, ACellOfWhichPartsAreOutOfViewShowsItsWholeText) {
 }
 
 TEST_F(TipTest, ACellNeedsRoomBesideItsTextAtTheScaleOfTheMonitor) {
-    Pages form(environment);
+    PageForm form(environment);
     form.on_load = [&] {
         form.add_rows(1);
         for (const int column : {0, 1}) form.List.row(1).set_text(column, "12.5 mm");
@@ -160,7 +160,7 @@ TEST_F(TipTest, ACellNeedsRoomBesideItsTextAtTheScaleOfTheMonitor) {
 }
 
 TEST_F(TipTest, ACellThatHasRoomEnoughShowsNone) {
-    Pages form(environment);
+    PageForm form(environment);
     form.on_load = [&] {
         form.add_rows(1);
         form.List.row(1).set_text(1, long_text);

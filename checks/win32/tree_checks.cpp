@@ -27,7 +27,7 @@ const std::vector<std::wstring> odd_names = {
 } // namespace
 
 TEST_F(TreeTest, NamesAreShownExactlyAsTheyAre) {
-    Trees form(environment);
+    TreeForm form(environment);
     form.on_load = [&] {
         for (const std::wstring& each : odd_names) form.Tree.add("", from_wide(each));
     };
@@ -40,7 +40,7 @@ TEST_F(TreeTest, NamesAreShownExactlyAsTheyAre) {
 }
 
 TEST_F(TreeTest, ChildrenAreInTheWindowOnlyOnceTheirParentWasOpen) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         EXPECT_EQ(count(tree), 2);
         EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"})) << "The sign shows that there are children.";
@@ -57,7 +57,7 @@ TEST_F(TreeTest, ChildrenAreInTheWindowOnlyOnceTheirParentWasOpen) {
         EXPECT_EQ(count(tree), 4);
         EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", "+Spice"}));
         click_sign(hands, tree, 0);
-        form.on_expand = nullptr;
+        form.on_expand = [](TreeNode&) {};
         run(hands, form, [&] { form.Tree.add_child(form.Tree.node("fruit"), "fig", "Fig"); });
         click_sign(hands, tree, 0);
         EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "  +Pear", "   Plum", "   Fig", "+Spice"}));
@@ -65,7 +65,7 @@ TEST_F(TreeTest, ChildrenAreInTheWindowOnlyOnceTheirParentWasOpen) {
 }
 
 TEST_F(TreeTest, ANodeWhoseChildrenHaveGoneLosesItsSign) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         form.on_expand = [&](TreeNode& node) {
             while (node.child()) form.Tree.remove(*node.child());
@@ -74,7 +74,7 @@ TEST_F(TreeTest, ANodeWhoseChildrenHaveGoneLosesItsSign) {
         EXPECT_EQ(tree_rows(tree), (Rows{" Fruit", " Spice"}));
         run(hands, form, [&] { form.Tree.add_child(form.Tree.node("fruit"), "plum", "Plum"); });
         EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"}));
-        form.on_expand = nullptr;
+        form.on_expand = [](TreeNode&) {};
         click_sign(hands, tree, 0);
         EXPECT_EQ(tree_rows(tree), (Rows{"-Fruit", "   Plum", " Spice"}));
         run(hands, form, [&] { form.Tree.remove(form.Tree.node("plum")); });
@@ -86,7 +86,7 @@ TEST_F(TreeTest, ANodeWhoseChildrenHaveGoneLosesItsSign) {
 }
 
 TEST_F(TreeTest, AnyMixtureOfChangesShowsItsOutcome) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         click_sign(hands, tree, 0);
         run(hands, form, [&] {
@@ -120,7 +120,7 @@ TEST_F(TreeTest, AnyMixtureOfChangesShowsItsOutcome) {
 }
 
 TEST_F(TreeTest, ATreeThatIsFilledAnewOpensAnew) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         click_sign(hands, tree, 0);
         run(hands, form, [&] {
@@ -134,7 +134,7 @@ TEST_F(TreeTest, ATreeThatIsFilledAnewOpensAnew) {
 }
 
 TEST_F(TreeTest, TheSelectionIsTheControlsWhateverComesAndGoes) {
-    Trees form(environment);
+    TreeForm form(environment);
     form.on_load = [&] {
         form.add_food();
         form.Tree.select(&form.Tree.node("spice"));
@@ -157,7 +157,7 @@ TEST_F(TreeTest, TheSelectionIsTheControlsWhateverComesAndGoes) {
 }
 
 TEST_F(TreeTest, ANodeThatIsSelectedWithinAClosedOneShowsSoOnceThatIsOpen) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         run(hands, form, [&] { form.Tree.select(&form.Tree.node("apple")); });
         EXPECT_EQ(tree_rows(tree), (Rows{"+Fruit", " Spice"})) << "Nothing opens for it.";
@@ -174,7 +174,7 @@ TEST_F(TreeTest, ANodeThatIsSelectedWithinAClosedOneShowsSoOnceThatIsOpen) {
 }
 
 TEST_F(TreeTest, AFormOpensWithWhatItsTreeAlreadyHolds) {
-    Trees form(environment);
+    TreeForm form(environment);
     form.on_load = [&] {
         for (int i = 0; i < 40; ++i) form.Tree.add(std::to_string(i), "Node " + std::to_string(i));
         form.Tree.select(&form.Tree.node("35"));
@@ -185,12 +185,12 @@ TEST_F(TreeTest, AFormOpensWithWhatItsTreeAlreadyHolds) {
         const POINT point = point_on_text(tree, item(tree, 35));
         EXPECT_GT(point.y, 0) << "It has scrolled there.";
     });
-    form.on_load = nullptr;
+    form.on_load = [] {};
     show_tree(form, [&](Hands&, HWND tree) { EXPECT_EQ(count(tree), 0); });
 }
 
 TEST_F(TreeTest, TheViewStaysWhereItIsWhenNodesComeBelowIt) {
-    Trees form(environment);
+    TreeForm form(environment);
     form.on_load = [&] {
         for (int i = 0; i < 40; ++i) form.Tree.add(std::to_string(i), "Node " + std::to_string(i));
     };
@@ -205,7 +205,7 @@ TEST_F(TreeTest, TheViewStaysWhereItIsWhenNodesComeBelowIt) {
 }
 
 TEST_F(TreeTest, LinesAndSignsFollowTheStylesAlsoWhileItIsOpen) {
-    Trees form(environment);
+    TreeForm form(environment);
     form.on_load = [&] {
         form.Tree.set_line_style(LineStyle::tree_lines); // as designed
         form.add_food();
@@ -228,7 +228,7 @@ TEST_F(TreeTest, LinesAndSignsFollowTheStylesAlsoWhileItIsOpen) {
 }
 
 TEST_F(TreeTest, ItLooksLikeABoxAndShowsItsSelectionAlsoWithoutTheFocus) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         EXPECT_TRUE(GetWindowLongW(tree, GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
         EXPECT_TRUE(style_of(tree) & TVS_SHOWSELALWAYS);
@@ -253,7 +253,7 @@ TEST_F(TreeTest, ItLooksLikeABoxAndShowsItsSelectionAlsoWithoutTheFocus) {
 }
 
 TEST_F(TreeTest, RowsAndIndentsGrowWithTheScale) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands&, HWND tree) {
         const auto row_height = [&] { return SendMessageW(tree, TVM_GETITEMHEIGHT, 0, 0); };
         const auto indent = [&] { return SendMessageW(tree, TVM_GETINDENT, 0, 0); };
@@ -272,7 +272,7 @@ TEST_F(TreeTest, RowsAndIndentsGrowWithTheScale) {
 }
 
 TEST_F(TreeTest, ATreeThatIsFilledWhileItIsHiddenStaysHidden) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_food(form, [&](Hands& hands, HWND tree) {
         run(hands, form, [&] { form.Tree.set_visible(false); });
         run(hands, form, [&] { form.Tree.add("more", "More"); });

@@ -9,7 +9,7 @@ std::string branch_name(int i) { return "Branch " + std::to_string(i) + " of the
 } // namespace
 
 TEST_F(TreeTest, FiftyThousandBranchesAreItemsAndWhatStandsForTheirChildrenIsNot) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_tree(form, [&](Hands& hands, HWND tree) {
         run(hands, form, [&] {
             form.Tree.clear();
@@ -21,7 +21,7 @@ TEST_F(TreeTest, FiftyThousandBranchesAreItemsAndWhatStandsForTheirChildrenIsNot
 }
 
 TEST_F(TreeTest, ABranchOfTenThousandShowsThemAllWhenItIsOpened) {
-    Trees form(environment);
+    TreeForm form(environment);
     show_tree(form, [&](Hands& hands, HWND tree) {
         form.on_expand = [&](TreeNode& node) {
             form.Tree.remove(*node.child());

@@ -3,9 +3,7 @@
 #include "desk/desk.h"
 
 #include "desk/native_tree.h"
-#include "forms/button.h"
-#include "forms/tree_rows.h"
-#include "forms/tree_view.h"
+#include "rules/tree_form.h"
 
 #include <commctrl.h>
 
@@ -18,49 +16,16 @@ namespace brx::checks {
 
 using Rows = std::vector<std::string>;
 
-/// A form with a tree that has the focus.
-class Trees : public Form {
-public:
-    explicit Trees(Environment& on) : Form(on, {.name = "Trees", .caption = "Trees", .size = {400, 300}}) {}
-
-    std::string events;
-    std::function<void()> on_load;
-    std::function<void(TreeNode&)> on_expand;
-
-    // clang-format off
-    TreeView Tree {*this, "Tree",  {.place = {10, 10, 200, 150}, .tab = 1,
-                                    .Expand = [this](TreeNode& node) { events += "Expand " + node.text() + ". "; if (on_expand) on_expand(node); },
-                                    .NodeClick = [this](TreeNode& node) { events += "NodeClick " + node.text() + ". "; },
-                                    .Click = [this] { events += "Click. "; }}};
-    Button   Press{*this, "Press", {.place = {10, 200, 75, 23}, .caption = "Press", .tab = 2, .is_default = true,
-                                    .Click = [this] { events += "Press. "; }}};
-    // clang-format on
-
-    void Form_Load() override {
-        Tree.set_line_style(LineStyle::root_lines);
-        if (on_load) on_load();
-        events.clear();
-    }
-
-    /// Fruit with Apple and Pear (which has Core) below it, and Spice.
-    void add_food() {
-        TreeNode& fruit = Tree.add("fruit", "Fruit");
-        Tree.add_child(fruit, "apple", "Apple");
-        Tree.add_child(Tree.add_child(fruit, "pear", "Pear"), "core", "Core");
-        Tree.add("spice", "Spice");
-    }
-};
-
 class TreeTest : public OnWindows {
 protected:
     using Story = std::function<void(Hands& hands, HWND tree)>;
 
     /// Shows the form, with something in its tree, while a person acts.
-    void show_food(Trees& form, const Story& story) {
+    void show_food(TreeForm& form, const Story& story) {
         form.on_load = [&] { form.add_food(); };
         show_tree(form, story);
     }
-    void show_tree(Trees& form, const Story& story) {
+    void show_tree(TreeForm& form, const Story& story) {
         show(form, [&](Hands& hands) {
             hands.form("Trees");
             const HWND tree = hands.control("Trees", "Tree");

@@ -96,6 +96,10 @@ bool HeadlessScreen::key(Key key) {
             return user_.left();
         case Key::right:
             return user_.right();
+        case Key::home:
+            return user_.go_to_end(true);
+        case Key::end:
+            return user_.go_to_end(false);
         case Key::plus:
             return user_.plus();
         case Key::minus:

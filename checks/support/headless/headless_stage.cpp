@@ -61,10 +61,10 @@ HeadlessStage::~HeadlessStage() {
 }
 
 void HeadlessStage::start(std::function<void()> job) {
-    busy_ = true;
+    ++jobs_running_;
     baton_.hand_over([this, job = std::move(job)] {
         job();
-        busy_ = false;
+        --jobs_running_;
     });
 }
 

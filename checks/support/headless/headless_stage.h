@@ -72,7 +72,7 @@ public:
 
     Screen& screen() override { return screen_; }
     void start(std::function<void()> job) override;
-    bool busy() override { return busy_; }
+    bool busy() override { return jobs_running_ > 0; }
     std::unique_ptr<PublicClass> create(const std::string& name) override;
     std::string leaks() override;
     std::string differences() override { return {}; }
@@ -85,7 +85,7 @@ private:
     HeadlessEngine engine_{baton_};
     Environment environment_;
     HeadlessScreen screen_{baton_, engine_};
-    std::atomic<bool> busy_ = false;
+    std::atomic<int> jobs_running_ = 0;
     std::atomic<bool> over_ = false;
     std::thread thread_;
 };

@@ -161,6 +161,10 @@ bool WindowsScreen::key(Key key) {
         return stroke({.key = VK_LEFT});
     case Key::right:
         return stroke({.key = VK_RIGHT});
+    case Key::home:
+        return stroke({.key = VK_HOME});
+    case Key::end:
+        return stroke({.key = VK_END});
     case Key::plus:
         return stroke({.key = VK_ADD});
     case Key::minus:

@@ -188,7 +188,7 @@ bool HeadlessUser::set_date(const std::string& name, const std::string& text) {
 bool HeadlessUser::space() {
     if (auto* button = as<Button>(focused())) return button->user_click();
     if (auto* box = as<CheckBox>(focused())) return box->user_toggle();
-    if (auto* table = as<ListView>(focused()); table && table->selected() == 0) return move(0);
+    if (auto* table = as<ListView>(focused())) return table->selected() != 0 || move(0);
     if (auto* list = as<ListBox>(focused())) return list->selected() >= 0 || move(0);
     return type(" ");
 }

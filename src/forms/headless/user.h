@@ -38,6 +38,8 @@ public:
     bool move(int lines);
     bool left();
     bool right();
+    /// Home and End.
+    bool go_to_end(bool first);
     bool plus();
     bool minus();
     bool help();

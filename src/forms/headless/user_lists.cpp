@@ -5,6 +5,7 @@
 #include "forms/list_control.h"
 #include "forms/list_rows.h"
 #include "forms/tab_strip.h"
+#include "forms/text_box.h"
 #include "forms/tree_rows.h"
 
 #include <algorithm>
@@ -117,6 +118,19 @@ bool HeadlessUser::right() {
     if (!node) return false;
     if (!node->child()) return true;
     return node->expanded() ? tree->user_select(*node->child()) : tree->user_expand(*node);
+}
+
+bool HeadlessUser::go_to_end(bool first) {
+    if (auto* box = as<TextBox>(focused())) return box->user_press(); // the caret goes there
+    if (auto* tree = as<TreeView>(focused())) {
+        TreeNode* node = tree->first();
+        for (TreeNode* next = node; next && !first; next = TreeView::next_in_view(*next)) node = next;
+        return node && tree->user_select(*node);
+    }
+    if (auto* table = as<ListView>(focused()))
+        return table->count() > 0 && table->user_select(first ? 1 : table->count());
+    auto* list = as<ListControl>(focused());
+    return list && list->count() > 0 && list->user_select(first ? 0 : list->count() - 1);
 }
 
 bool HeadlessUser::plus() {
