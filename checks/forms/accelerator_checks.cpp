@@ -28,6 +28,7 @@ public:
     Button   other {*this, "other",  {.place = {0, 200, 75, 23}, .caption = "Also s&hared", .tab = 10}};
     TabStrip tabs  {*this, "tabs",   {.place = {0, 230, 290, 60}, .captions = {"&1 One", "T&wo"}, .tab = 11}};
     Button   third {*this, "third",  {.place = {80, 200, 75, 23}, .caption = "T&hird &", .tab = 12}};
+    Button   quick {*this, "quick",  {.place = {160, 200, 75, 23}, .caption = "Ju&&m&p", .tab = 12}};
     Label    last  {*this, "last",   {.place = {0, 280, 50, 15}, .caption = "&Last:", .tab = 13}};
     // clang-format on
 };
@@ -59,6 +60,8 @@ TEST_F(Accelerators, TheLetterAfterTheFirstSingleAmpersandCountsInEitherCase) {
         EXPECT_EQ(answers('s'), "kind*");
         EXPECT_EQ(answers('k'), "");
         EXPECT_EQ(answers('g'), "go*");
+        EXPECT_EQ(answers('l'), "last*");
+        EXPECT_EQ(answers('p'), "quick*") << "It ends the caption.";
         EXPECT_EQ(answers('z'), "") << "It is data.";
         EXPECT_EQ(answers('x'), "");
     });

@@ -39,6 +39,35 @@ TEST_F(Controls, ColoursAreToldToTheEngineAsColours) {
     });
 }
 
+TEST_F(Controls, AnotherPlaceIsToldToTheEngineAndRead) {
+    while_open([&] {
+        StandIn window(form.list);
+        const Place place{5, 6, 70, 80};
+        form.list.set_place(place);
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::place);
+        Reading seen;
+        form.list.read(Aspect::value, seen);
+        EXPECT_EQ(seen.place, Place{});
+        form.list.read(Aspect::place, seen);
+        EXPECT_EQ(seen.place, place);
+    });
+}
+
+TEST_F(Controls, AreDrawnInTheSystemsColoursWhereTheirDesignSaysNothing) {
+    while_open([&] {
+        for (const Control* each :
+             std::initializer_list<Control*>{&form.frame, &form.label, &form.check, &form.button}) {
+            EXPECT_EQ(each->back_color(), color::button_face) << each->name();
+            EXPECT_EQ(each->fore_color(), color::button_text) << each->name();
+        }
+        for (const Control* each : std::initializer_list<Control*>{&form.box, &form.list, &form.combo}) {
+            EXPECT_EQ(each->back_color(), color::window) << each->name();
+            EXPECT_EQ(each->fore_color(), color::window_text) << each->name();
+        }
+    });
+}
+
 TEST_F(Controls, WhatIsSelectedIsToldToTheEngineAsASelection) {
     while_open([&] {
         StandIn window(form.box);

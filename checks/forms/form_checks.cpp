@@ -176,6 +176,8 @@ TEST_F(Forms, AValueThatIsAlreadyThereIsNotShownAgain) {
         form.on_click = [&] {
             form.box.set_text("design");
             form.box.set_enabled(true);
+            form.box.set_visible(true);
+            form.box.set_place(form.box.place());
             form.box.set_back_color(color::window);
             form.box.set_fore_color(color::window_text);
             form.set_caption("One form");
@@ -185,6 +187,18 @@ TEST_F(Forms, AValueThatIsAlreadyThereIsNotShownAgain) {
         EXPECT_TRUE(peer.refreshed.empty());
         EXPECT_TRUE(whole.refreshed.empty());
     });
+}
+
+TEST_F(Forms, AFormWithNothingThatTakesTheFocusOpensWithout) {
+    struct Notice : Form {
+        explicit Notice(Environment& environment)
+            : Form(environment, {.name = "Notice", .caption = "", .size = {}}) {}
+        Label text{*this, "text", {.place = {}, .caption = "Read this"}};
+    };
+    Notice notice(environment);
+    engine.while_open = [&](Form&) { EXPECT_EQ(notice.focused(), nullptr); };
+    notice.show_modal();
+    EXPECT_TRUE(host.reports.empty());
 }
 
 TEST_F(Forms, WhileAFormIsInFrontTheOneBelowTakesNoInputButItsTimerTicks) {

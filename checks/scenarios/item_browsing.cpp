@@ -232,8 +232,12 @@ SCENARIO(ItemBrowser, TheKeysOpenABranchAndListNothing) {
     a_plant(its);
     Browsing browsing(its);
     its.person.clicks_node("TrView", "Line1");
+    its.person.picks("lstItem", "Speed");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed");
+    its.person.goes_to("TrView");
     its.person.hits(Key::plus);
     EXPECT_EQ(its.person.lines_of("lstItem"), Lines());
+    EXPECT_EQ(its.person.reads("txtFullPath"), "");
     browsing.calls();
     its.person.hits(Key::minus);
     its.person.hits(Key::plus);

@@ -95,6 +95,41 @@ SCENARIO(UnusualSpace, ARootThatLosesItsBranchesIsCoveredAfterARefresh) {
     its.person.presses("bnCancel");
 }
 
+SCENARIO(UnusualSpace, ASpaceWhoseOrganizationCannotBeReadShowsATreeWithNothingInIt) {
+    its.host.connection->can_browse = false;
+    const Browsing browsing(its);
+    its.host.connection->can_browse = true;
+    a_plant(its);
+    its.host.browser->failing = {"Organization"};
+    its.person.presses("cmdRefresh");
+    its.expect_report(-2147467259, "dlgItemSelect.BuildGroupList");
+    EXPECT_TRUE(its.person.sees("TrView").visible);
+    EXPECT_EQ(its.person.lines_of("TrView"), Lines());
+    its.host.browser->failing.clear();
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(UnusualSpace, AFlatServerWithoutLeavesHidesTheTree) {
+    its.host.browser->organization = 2;
+    its.host.browser->root.has("Line1");
+    const Browsing browsing(its);
+    EXPECT_FALSE(its.person.sees("TrView").visible);
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines());
+    its.person.presses("bnCancel");
+}
+
+SCENARIO(UnusualSpace, ARootThatLosesEverythingWhileItIsReadLeavesTheTreeThere) {
+    a_plant(its);
+    its.host.browser->before = [&](const std::string& member) {
+        if (member == "Organization") its.host.browser->claimed_count = 0;
+    };
+    const Browsing browsing(its);
+    EXPECT_TRUE(its.person.sees("TrView").visible);
+    EXPECT_EQ(its.person.lines_of("TrView"), Lines());
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines());
+    its.person.presses("bnCancel");
+}
+
 SCENARIO(UnusualSpace, ABranchNameWithAFullStopLeadsToAWrongPath) {
     a_plant(its);
     its.host.browser->root.has("Area.1", {"Real leaf"}).has("Real branch");

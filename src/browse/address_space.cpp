@@ -65,11 +65,9 @@ void dlgItemSelect::show_browsing() {
 void dlgItemSelect::BuildGroupList() {
     trap("BuildGroupList", [&] {
         if (!browser_) return;
-        if (browser_->Organization() == flat_organization) {
-            TrView.set_visible(false);
-            return GetAllLeaves();
-        }
-        TrView.set_visible(true);
+        const bool flat = browser_->Organization() == flat_organization;
+        TrView.set_visible(!flat);
+        if (flat) return GetAllLeaves();
         browser_->MoveToRoot();
         browser_->ShowBranches();
         const std::int32_t count = browser_->Count();
