@@ -77,6 +77,40 @@ TEST_F(Controls, WhatIsSelectedIsToldToTheEngineAsASelection) {
     });
 }
 
+TEST_F(Controls, ASelectionThatMovesOrGoesWithItsLinesIsToldToTheEngine) {
+    while_open([&] {
+        form.list.add_line("one");
+        form.list.select(0);
+        StandIn window(form.list);
+        form.list.insert_line(1, "below");
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::lines);
+        window.seen = Aspect::none;
+        form.list.insert_line(0, "above");
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::lines | Aspect::selection);
+        window.seen = Aspect::none;
+        form.list.clear();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::lines | Aspect::selection);
+        form.list.add_line("one");
+        window.seen = Aspect::none;
+        form.list.clear();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::lines) << "Nothing was selected.";
+    });
+}
+
+TEST_F(Controls, ALineIsSoughtFromThereOnAndFromTheFirstOneBesideTheLines) {
+    while_open([&] {
+        for (const char* each : {"pear", "plum"}) form.list.add_line(each);
+        EXPECT_EQ(form.list.line_beginning_with("p", 0), 0);
+        EXPECT_EQ(form.list.line_beginning_with("p", 1), 1);
+        for (const int beside : {-1, 2, 7})
+            EXPECT_EQ(form.list.line_beginning_with("p", beside), 0) << beside;
+    });
+}
+
 TEST_F(Controls, AnEmptyListThatIsClearedIsNotShownAgain) {
     while_open([&] {
         StandIn window(form.list);

@@ -112,6 +112,21 @@ TEST_F(ListViews, RemovingTheSelectedRowSelectsNone) {
     });
 }
 
+TEST_F(ListViews, WhatIsReadAgainReplacesWhatWasRead) {
+    while_open([&] {
+        add_three();
+        Reading seen = list.read();
+        list.select(2);
+        list.read(Aspect::lines, seen);
+        EXPECT_EQ(seen.columns, (Notes{"Item", "Value"}));
+        EXPECT_EQ(seen.rows.size(), 3U);
+        list.select(3);
+        list.read(Aspect::selection, seen);
+        EXPECT_EQ(seen.selected, 2);
+        EXPECT_EQ(seen.text, "Row c");
+    });
+}
+
 TEST_F(ListViews, SelectingTakesARowThatIsThereOrNone) {
     while_open([&] {
         add_three();
@@ -148,6 +163,10 @@ TEST_F(ListViews, TheKeyboardStartsFromTheRowThatWasSelected) {
         EXPECT_EQ(list.focus_row(), 3) << "It was the last one.";
         list.clear();
         EXPECT_EQ(list.focus_row(), 0);
+        for (const char* each : {"one", "two", "three"}) list.add("", each);
+        list.select(2);
+        list.remove(3);
+        EXPECT_EQ(list.focus_row(), 2) << "It became the last one.";
     });
 }
 

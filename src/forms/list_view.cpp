@@ -2,10 +2,12 @@
 
 #include "common/error.h"
 
+#include <algorithm>
+
 namespace brx {
 
 bool ListRow::has(int column) const noexcept {
-    return column == 0 || (column > 0 && column < static_cast<int>(list_.columns().size()));
+    return column >= 0 && column < std::max(1, static_cast<int>(list_.columns().size()));
 }
 
 const ListRow::Cell* ListRow::find(int column) const {

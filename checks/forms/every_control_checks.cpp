@@ -1,4 +1,5 @@
-// What a person cannot do, whatever engine says that she did it.
+// What holds for every kind of control: what a person cannot do, whatever engine says that she did it, and
+// what a showing begins with.
 
 #include "one_page.h"
 
@@ -53,7 +54,7 @@ struct Attempt {
     std::function<bool()> tried;
 };
 
-struct Refusals : testing::Test {
+struct EveryControl : testing::Test {
     FakeHost host;
     ScriptedEngine engine;
     Environment environment{engine, host, host, Locale{}};
@@ -109,7 +110,7 @@ struct Refusals : testing::Test {
 
 } // namespace
 
-TEST_F(Refusals, APersonDoesNothingToWhatIsDisabledOrHidden) {
+TEST_F(EveryControl, APersonDoesNothingToWhatIsDisabledOrHidden) {
     while_open([&] {
         form.frame.set_enabled(false);
         expect_refused("what is around it is disabled");
@@ -127,7 +128,7 @@ TEST_F(Refusals, APersonDoesNothingToWhatIsDisabledOrHidden) {
     });
 }
 
-TEST_F(Refusals, APersonDoesNothingWhileCodeRunsOrAMessageIsUp) {
+TEST_F(EveryControl, APersonDoesNothingWhileCodeRunsOrAMessageIsUp) {
     while_open([&] {
         {
             const CodeTurn code;
@@ -138,13 +139,53 @@ TEST_F(Refusals, APersonDoesNothingWhileCodeRunsOrAMessageIsUp) {
     });
 }
 
-TEST_F(Refusals, EverythingIsTakenOtherwise) {
+TEST_F(EveryControl, EverythingIsTakenOtherwise) {
     while_open([&] {
         for (const auto& [name, tried] : everything()) EXPECT_TRUE(tried()) << name;
     });
 }
 
-TEST_F(Refusals, APersonDoesNothingToWhatIsNotThereOrOutOfSight) {
+TEST_F(EveryControl, WhateverItsKindAControlIsShownAgainAsItWasDesigned) {
+    std::vector<Place> places;
+    while_open([&] {
+        for (Control* each : form.controls()) {
+            places.push_back(each->place());
+            each->set_place({1, 2, 3, 4});
+            each->set_fore_color(color::red);
+            each->set_enabled(false);
+            each->set_visible(false);
+        }
+        form.box.set_text("other");
+        form.box.select_all();
+        for (ListControl* list :
+             {static_cast<ListControl*>(&form.list), static_cast<ListControl*>(&form.combo)})
+            list->select(0);
+        form.check.set_value(1);
+        form.table.select(1);
+        form.tabs.select(2);
+        form.day.set_value(Date{40'000.0});
+        form.tree.select(form.tree.first());
+    });
+    while_open([&] {
+        auto place = places.begin();
+        for (const Control* each : form.controls()) {
+            EXPECT_EQ(each->place(), *place++) << each->name();
+            EXPECT_NE(each->fore_color(), color::red) << each->name();
+            EXPECT_TRUE(each->enabled()) << each->name();
+            EXPECT_TRUE(each->visible()) << each->name();
+        }
+        EXPECT_EQ(form.box.text(), "");
+        EXPECT_EQ(form.list.selected(), -1);
+        EXPECT_EQ(form.combo.selected(), -1);
+        EXPECT_EQ(form.check.value(), 0);
+        EXPECT_EQ(form.table.selected(), 0);
+        EXPECT_EQ(form.tabs.selected(), 1);
+        EXPECT_EQ(form.day.text(), "1899-12-30");
+        EXPECT_EQ(form.tree.selected(), nullptr);
+    });
+}
+
+TEST_F(EveryControl, APersonDoesNothingToWhatIsNotThereOrOutOfSight) {
     while_open([&] {
         TreeView& tree = form.tree;
         form.list.select(0);
