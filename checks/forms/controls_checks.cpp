@@ -101,6 +101,18 @@ TEST_F(Controls, ASelectionThatMovesOrGoesWithItsLinesIsToldToTheEngine) {
     });
 }
 
+TEST_F(Controls, OfAListOnlyWhatIsAskedForIsReadAgain) {
+    while_open([&] {
+        form.list.add_line("one");
+        Reading seen;
+        seen.lines = {"as they were"};
+        form.list.select(0);
+        form.list.read(Aspect::selection, seen);
+        EXPECT_EQ(seen.lines, Notes{"as they were"});
+        EXPECT_EQ(seen.text, "one");
+    });
+}
+
 TEST_F(Controls, ALineIsSoughtFromThereOnAndFromTheFirstOneBesideTheLines) {
     while_open([&] {
         for (const char* each : {"pear", "plum"}) form.list.add_line(each);

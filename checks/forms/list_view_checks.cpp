@@ -59,6 +59,7 @@ TEST_F(ListViews, RowsAreFoundByTheirPositionAndByTheirKey) {
 TEST_F(ListViews, CellsAreEmptyUntilTheyAreSetAndExistForEachColumn) {
     while_open([&] {
         EXPECT_EQ(list.add("plain", "Plain").text(), "Plain") << "A row has its own text without columns.";
+        EXPECT_EQ(marked_rows(list.read().rows), Notes{"Plain"});
         EXPECT_EQ(number_of_error([&] { list.row(1).set_text(1, "x"); }), 35600);
         list.clear();
         add_three();
@@ -238,6 +239,9 @@ TEST_F(ListViews, AnEngineIsToldExactlyWhatReadsDifferently) {
         changes = list.take_changes();
         EXPECT_TRUE(changes.columns);
         EXPECT_FALSE(changes.rows);
+        list.row(1).set_text(1, "p");
+        list.forget_changes();
+        EXPECT_EQ(list.take_changes().positions, Positions{});
         list.row(1).set_text(1, "q");
         list.clear();
         changes = list.take_changes();

@@ -37,9 +37,14 @@ TEST_F(TreeViews, WithoutASelectionNoneIsRead) {
         Reading seen = tree.read();
         EXPECT_EQ(seen.text, "Spice");
         tree.select(nullptr);
+        seen.lines = {"as they were"};
         tree.read(Aspect::selection, seen);
-        EXPECT_EQ(seen.selected, -1);
+        EXPECT_EQ(seen.lines, (Notes{"as they were"}));
         EXPECT_EQ(seen.text, "");
+        seen.text = "as it was";
+        tree.read(Aspect::colors, seen);
+        EXPECT_EQ(seen.text, "as it was");
+        EXPECT_EQ(seen.selected, -1);
     });
 }
 
@@ -70,6 +75,7 @@ TEST_F(TreeViews, RowsAreTheNodesInViewWithTheirSigns) {
         EXPECT_EQ(tree.read().lines, (Notes{"+Fruit", " Spice"}));
         tree.user_expand(tree.node("fruit"));
         EXPECT_EQ(tree.read().lines, (Notes{"-Fruit", "   Apple", "  +Pear", " Spice"}));
+        EXPECT_EQ(tree.read(2).lines, (Notes{"-Fruit", "   Apple"}));
         EXPECT_EQ(row_of(tree, &tree.node("spice")), 3);
         EXPECT_EQ(row_of(tree, &tree.node("core")), -1);
         EXPECT_EQ(row_of(tree, nullptr), -1);
@@ -94,6 +100,9 @@ TEST_F(TreeViews, AnEngineIsToldInOrderWhatHappenedToTheNodesThatItShows) {
         EXPECT_EQ(changes_of(tree),
                   (Changes{{Deed::added, 6}, {Deed::expanded, 1}, {Deed::removed, 3}, {Deed::collapsed, 1}}));
         EXPECT_EQ(changes_of(tree), Changes{}) << "They are told once.";
+        tree.add("told of by reading everything", "Other");
+        tree.forget_changes();
+        EXPECT_EQ(changes_of(tree), Changes{});
         tree.add("more", "More");
         window.seen = Aspect::none;
         tree.clear();

@@ -39,6 +39,17 @@ SCENARIO(DescriptorTypeDialog, OnlyTheUserDefinedKindsAreOfferedTwice) {
     dialog.leaves();
 }
 
+SCENARIO(DescriptorTypeDialog, ADoubleClickChoosesTheFirstKindToo) {
+    Configuring dialog(its);
+    opens_the_kinds(its, dialog);
+    const std::string first = its.person.line_of("List1", 0);
+    its.person.double_clicks("List1", first);
+    its.person.is_at("dlgDescriptorProperties");
+    EXPECT_EQ(its.person.title(), "Descriptor Properties - " + first);
+    its.person.presses("bnCancel");
+    dialog.leaves();
+}
+
 SCENARIO(DescriptorTypeDialog, UnknownCodesHideNoKind) {
     its.host.configuration->descriptors->has({.type = 9, .item = "x", .group = "y"});
     Configuring dialog(its);

@@ -105,6 +105,7 @@ SCENARIO(TestDialog, AMissingGroupIsTold) {
     its.person.presses("bnItem");
     its.person.answers(
         {.text = "The OPCGroup is Invalid.", .style = message::exclamation, .title = "Server Error"});
+    its.person.is_at("dlgOPCTest");
     its.person.presses("bnCancel");
 }
 

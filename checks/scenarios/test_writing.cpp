@@ -47,6 +47,27 @@ SCENARIO(TestDialog, ANewTestTakesTheseCallsAndNoOthers) {
     EXPECT_TRUE(testing.result());
 }
 
+SCENARIO(TestDialog, ATestThatLosesItsTriggerLosesItsOperatorToo) {
+    const auto test = a_bound_test(its, 2);
+    Testing testing(its, test);
+    its.person.ticks("chkItemTrigger");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_FALSE(test->fields.item_trigger);
+    EXPECT_EQ(test->fields.expression, 0);
+    EXPECT_EQ(test->fields.value, Variant(std::int16_t{12}));
+}
+
+SCENARIO(TestDialog, AnOperatorThatBecomesAlwaysIsWritten) {
+    const auto test = a_bound_test(its, 2);
+    Testing testing(its, test);
+    its.person.picks("cboExpression", "Always");
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+    EXPECT_TRUE(test->fields.item_trigger);
+    EXPECT_EQ(test->fields.expression, 0);
+}
+
 SCENARIO(TestDialog, AnExistingTestTakesTheseCallsAndNoOthers) {
     const auto test = a_bound_test(its, 2);
     its.host.help_service = std::make_shared<FakeHelpService>(its.host.calls);

@@ -132,8 +132,6 @@ void dlgDescriptorProperties::bnSelect_Click() {
         case descriptor_type::user_defined_subgroup:
         case descriptor_type::user_defined_piece:
             return SelectDescriptor();
-        default:
-            return;
         }
     });
 }
