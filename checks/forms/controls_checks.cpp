@@ -94,6 +94,12 @@ TEST_F(Controls, ASelectionThatMovesOrGoesWithItsLinesIsToldToTheEngine) {
         form.repaint();
         EXPECT_EQ(window.seen, Aspect::lines | Aspect::selection);
         form.list.add_line("one");
+        form.list.select(0);
+        window.seen = Aspect::none;
+        form.list.clear();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::lines | Aspect::selection);
+        form.list.add_line("one");
         window.seen = Aspect::none;
         form.list.clear();
         form.repaint();
@@ -110,6 +116,21 @@ TEST_F(Controls, OfAListOnlyWhatIsAskedForIsReadAgain) {
         form.list.read(Aspect::selection, seen);
         EXPECT_EQ(seen.lines, Notes{"as they were"});
         EXPECT_EQ(seen.text, "one");
+    });
+}
+
+TEST_F(Controls, AListTellsHowManyOfItsFirstLinesAreAsTheyWere) {
+    while_open([&] {
+        for (const char* each : {"one", "two", "three"}) form.list.add_line(each);
+        EXPECT_EQ(form.list.take_kept_lines(), 0);
+        form.list.insert_line(2, "before the last");
+        form.list.insert_line(1, "second");
+        form.list.add_line("last");
+        EXPECT_EQ(form.list.take_kept_lines(), 1);
+        EXPECT_EQ(form.list.take_kept_lines(), 6);
+        form.list.clear();
+        form.list.add_line("anew");
+        EXPECT_EQ(form.list.take_kept_lines(), 0);
     });
 }
 

@@ -4,13 +4,16 @@
 #include "one_page.h"
 
 #include "forms/tree_view.h"
+#include "forms/turn.h"
+
+#include <thread>
 
 using namespace brx;
 using namespace brx::checks;
 
 namespace {
 
-/// A frame with a control of each kind, ready to be used.
+/// A frame with a control of each kind, ready to be used, and a panel.
 class FullForm : public Form {
 public:
     explicit FullForm(Environment& on) : Form(on, {.name = "Full", .caption = "Full", .size = {400, 300}}) {}
@@ -33,6 +36,7 @@ public:
                                         .NodeClick = [this](TreeNode&) { notes.emplace_back("node"); }, .Click = note("tree")}};
     TabStrip   tabs  {frame, "tabs",   {.place = {200, 0, 90, 60}, .captions = {"1", "2"}, .tab = 9, .Click = note("tabs")}};
     DatePicker day   {frame, "day",    {.place = {200, 70, 90, 23}, .tab = 10, .Change = note("day")}};
+    Panel      panel {*this, "panel",  {.place = {300, 0, 90, 60}, .tab = 11}};
     // clang-format on
 
     void Form_Load() override {
@@ -139,9 +143,55 @@ TEST_F(EveryControl, APersonDoesNothingWhileCodeRunsOrAMessageIsUp) {
     });
 }
 
+TEST(Turns, OnAFreshThreadNeitherCodeNorATimerRuns) {
+    std::thread([] {
+        EXPECT_FALSE(turn::is_code_running());
+        EXPECT_FALSE(turn::is_timer_running());
+        EXPECT_EQ(turn::depth(), 0U);
+    }).join();
+}
+
 TEST_F(EveryControl, EverythingIsTakenOtherwise) {
     while_open([&] {
         for (const auto& [name, tried] : everything()) EXPECT_TRUE(tried()) << name;
+    });
+}
+
+TEST_F(EveryControl, WhatIsReadBitByBitIsTheWhole) {
+    while_open([&] {
+        form.panel.bring_to_front();
+        form.list.select(0);
+        form.check.set_value(1);
+        form.table.select(1);
+        form.tree.select(form.tree.first());
+        const std::vector<Aspect> aspects = {Aspect::text,    Aspect::lines,   Aspect::selection,
+                                             Aspect::enabled, Aspect::visible, Aspect::colors,
+                                             Aspect::place,   Aspect::value,   Aspect::order};
+        const auto same_looks = [](const Reading& a, const Reading& b) {
+            return a.place == b.place && a.enabled == b.enabled && a.visible == b.visible &&
+                   a.back_color == b.back_color && a.fore_color == b.fore_color;
+        };
+        const auto same_content = [](const Reading& a, const Reading& b) {
+            return a.text == b.text && a.selected == b.selected && a.count == b.count && a.lines == b.lines &&
+                   a.rows == b.rows && a.columns == b.columns;
+        };
+        for (const Control* each : form.controls()) {
+            const Reading whole = each->read();
+            Reading bits;
+            for (const Aspect aspect : aspects) each->read(aspect, bits);
+            EXPECT_TRUE(same_looks(bits, whole)) << each->name();
+            EXPECT_TRUE(same_content(bits, whole)) << each->name();
+            Reading content;
+            for (const Aspect aspect : {Aspect::enabled, Aspect::visible, Aspect::colors, Aspect::place})
+                each->read(aspect, content);
+            EXPECT_TRUE(same_looks(content, whole)) << each->name();
+            EXPECT_TRUE(same_content(content, {})) << each->name();
+            Reading looks;
+            for (const Aspect aspect :
+                 {Aspect::text, Aspect::lines, Aspect::selection, Aspect::value, Aspect::order})
+                each->read(aspect, looks);
+            EXPECT_TRUE(same_looks(looks, {})) << each->name();
+        }
     });
 }
 
@@ -155,6 +205,7 @@ TEST_F(EveryControl, WhateverItsKindAControlIsShownAgainAsItWasDesigned) {
             each->set_enabled(false);
             each->set_visible(false);
         }
+        form.panel.bring_to_front();
         form.box.set_text("other");
         form.box.select_all();
         for (ListControl* list :
@@ -174,6 +225,7 @@ TEST_F(EveryControl, WhateverItsKindAControlIsShownAgainAsItWasDesigned) {
             EXPECT_TRUE(each->enabled()) << each->name();
             EXPECT_TRUE(each->visible()) << each->name();
         }
+        EXPECT_FALSE(form.panel.in_front());
         EXPECT_EQ(form.box.text(), "");
         EXPECT_EQ(form.list.selected(), -1);
         EXPECT_EQ(form.combo.selected(), -1);

@@ -120,6 +120,7 @@ TEST_F(ListViews, WhatIsReadAgainReplacesWhatWasRead) {
         list.select(2);
         list.read(Aspect::lines, seen);
         EXPECT_EQ(seen.columns, (Notes{"Item", "Value"}));
+        EXPECT_EQ(seen.selected, 1);
         EXPECT_EQ(seen.rows.size(), 3U);
         list.select(3);
         list.read(Aspect::selection, seen);

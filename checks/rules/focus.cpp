@@ -133,6 +133,8 @@ TEST_F(FocusOf, MovesOnFromAControlThatIsDisabled) {
         person.presses("Press");
         EXPECT_EQ(focused(), "Leave");
         EXPECT_FALSE(screen().focus("Press"));
+        code([&] { form().Leave.set_enabled(false); });
+        EXPECT_EQ(focused(), "Shown") << "Behind the last one the first follows.";
     });
 }
 

@@ -125,6 +125,10 @@ SCENARIO(DescriptorProperties, BothButtonsStartFromTheGroupsReference) {
     its.person.presses("bnItem");
     EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.Speed"); // only a bracket behind it ends a reference
     its.person.presses("bnCancel");
+    its.person.enters("txtGroup", "(%)");
+    its.person.presses("bnItem");
+    EXPECT_EQ(its.person.reads("txtFullPath"), ""); // to nothing
+    its.person.presses("bnCancel");
     dialog.cancels();
 }
 

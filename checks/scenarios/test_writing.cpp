@@ -47,6 +47,20 @@ SCENARIO(TestDialog, ANewTestTakesTheseCallsAndNoOthers) {
     EXPECT_TRUE(testing.result());
 }
 
+SCENARIO(TestDialog, TheItemMayBeChosenBeforeTheCharacteristic) {
+    its.host.group->items->has("Line1.Force");
+    Testing testing(its, its.host.has_test(0, ""));
+    its.person.presses("bnItem");
+    its.person.enters("txtFullPath", "Line1.Speed");
+    its.person.presses("bnOK");
+    EXPECT_FALSE(its.person.can_press("bnOK"));
+    testing.picks_characteristic(7, "Length", 2);
+    EXPECT_TRUE(its.person.can_press("bnOK"));
+    EXPECT_TRUE(its.person.sees("chkItemTrigger").enabled);
+    its.person.presses("bnOK");
+    EXPECT_TRUE(testing.result());
+}
+
 SCENARIO(TestDialog, ATestThatLosesItsTriggerLosesItsOperatorToo) {
     const auto test = a_bound_test(its, 2);
     Testing testing(its, test);

@@ -114,7 +114,8 @@ protected:
     Control(Container& container, const char* name, const Look& look);
     ~Control() override = default;
 
-    /// Runs what a person did. False, and nothing happens, when a person could not have done it.
+    /// Runs what a person did. False, and nothing happens, when a person could not have done it. Defined in
+    /// form.h.
     template <class Deed> bool by_person(Deed&& deed);
 
     /// The focus came as from the keyboard.

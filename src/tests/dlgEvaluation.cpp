@@ -6,6 +6,8 @@
 #include "forms/focus.h"
 #include "forms/setup_form.h"
 
+#include <algorithm>
+
 namespace brx {
 
 dlgEvaluation::dlgEvaluation(Environment& environment)
@@ -37,7 +39,7 @@ void dlgEvaluation::BuildDlg() {
         for_each_item(the(items_of(the(configuration_).OPCGroup())),
                       [&](OPCItem& item) { cboItem.add_line(item.ItemID()); });
         if (!item_id_.empty()) cboItem.select_text(item_id_);
-        if (cboItem.selected() < 0) cboItem.select(0);
+        cboItem.select(std::max(cboItem.selected(), 0));
         cboExpression.select(expression_);
         txtValue.set_text(to_text(value_, environment().locale));
         if (item_id_.empty()) {

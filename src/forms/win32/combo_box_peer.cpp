@@ -83,7 +83,7 @@ void ComboBoxPeer::font_changed() {
 void ComboBoxPeer::report_selection() {
     const auto index = static_cast<int>(send(CB_GETCURSEL));
     if (window().is_showing() || index == list_.selected() || index < 0) return;
-    if (!window().report([&] { return list_.user_select(index); })) refresh(Aspect::selection);
+    if (!window().deliver([&] { return list_.user_select(index); })) refresh(Aspect::selection);
 }
 
 void ComboBoxPeer::draw(const DRAWITEMSTRUCT& part) {

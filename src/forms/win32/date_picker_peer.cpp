@@ -58,7 +58,7 @@ void DatePickerPeer::show(Aspect aspects) {
 LRESULT DatePickerPeer::notified_of(NMHDR& notification) {
     if (notification.code != DTN_DATETIMECHANGE || window().is_showing()) return 0;
     const auto entered = from_system_time(reinterpret_cast<const NMDATETIMECHANGE&>(notification).st);
-    if (!entered || !window().report([&] { return picker_.user_set(*entered); })) refresh(Aspect::value);
+    if (!entered || !window().deliver([&] { return picker_.user_set(*entered); })) refresh(Aspect::value);
     return 0;
 }
 

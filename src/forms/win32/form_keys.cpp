@@ -1,4 +1,5 @@
-// The keys that are the form's own, wherever in it the focus is.
+// Each message from the queue before its window has it: the keys that are the form's own, wherever in it the
+// focus is.
 
 #include "forms/accelerator.h"
 #include "forms/win32/form_window.h"
@@ -56,7 +57,7 @@ bool FormWindow::takes_key(const MSG& message) {
 bool FormWindow::turn_tabs() {
     TabStrip* const strip = tab_strip_of(form_);
     if (!strip) return false;
-    report([&] { return strip->user_turn(is_held(VK_SHIFT)); });
+    deliver([&] { return strip->user_turn(is_held(VK_SHIFT)); });
     return true;
 }
 
@@ -69,7 +70,7 @@ bool FormWindow::take_accelerator(WPARAM character) {
     auto* const strip = dynamic_cast<TabStrip*>(found.control);
     if (!found.control || (found.alone && !strip)) return false;
     Control* const target = focus_for(*found.control);
-    report([&] {
+    deliver([&] {
         return found.alone ? strip->user_select(tab_with(*strip, letter))
                            : target && target->user_take_focus();
     });

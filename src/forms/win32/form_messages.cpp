@@ -40,10 +40,10 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
         return peer ? answer(peer->notified_of(notification)) : FALSE;
     }
     case WM_CLOSE:
-        report([&] { return form_.user_close(); });
+        deliver([&] { return form_.user_close(); });
         return TRUE;
     case WM_HELP:
-        report([&] { return form_.user_help(); });
+        deliver([&] { return form_.user_help(); });
         return TRUE;
     case WM_TIMER:
         tick(wparam);
@@ -112,7 +112,7 @@ bool FormWindow::command(WPARAM wparam, HWND sender) {
         return true;
     }
     if (LOWORD(wparam) == IDCANCEL)
-        if (Button* cancel = form_.cancel_button()) report([&] { return cancel->user_click(); });
+        if (Button* cancel = form_.cancel_button()) deliver([&] { return cancel->user_click(); });
     return true;
 }
 

@@ -224,7 +224,7 @@ void FormWindow::focus_came_to(const ControlPeer& peer) noexcept {
     mark_default_button(peer.handle());
     if (is_showing()) return;
     Control& control = peer.control();
-    const bool done = report([&] { return by_key_ ? control.user_take_focus() : control.user_focus(); });
+    const bool done = deliver([&] { return by_key_ ? control.user_take_focus() : control.user_focus(); });
     if (!done) PostMessageW(handle_, focus_message, 0, 0);
 }
 

@@ -54,7 +54,7 @@ public:
     void set_tip(HWND control, const std::wstring& text);
 
     /// Tells an element what a person did and returns its answer. The host's own context applies meanwhile.
-    template <class Verb> auto report(Verb&& verb) noexcept {
+    template <class Verb> auto deliver(Verb&& verb) noexcept {
         const HostContext::Scope host(host_);
         decltype(verb()) answer{};
         attempt([&] { answer = verb(); });

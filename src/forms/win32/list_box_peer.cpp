@@ -56,14 +56,14 @@ void ListBoxPeer::font_changed() {
 void ListBoxPeer::press(int row, bool twice) {
     if (row < 0) return;
     const bool pressed =
-        window().report([&] { return twice ? list_.user_select(row) : list_.user_press(row); });
-    if (pressed && twice) window().report([&] { return list_.user_double_click(); });
+        window().deliver([&] { return twice ? list_.user_select(row) : list_.user_press(row); });
+    if (pressed && twice) window().deliver([&] { return list_.user_double_click(); });
 }
 
 /// A list box goes by one character at a time.
 bool ListBoxPeer::take_character(wchar_t character) {
     if (character < L' ') return true; // a key held down together with another
-    window().report([&] { return list_.user_search(from_wide(std::wstring_view(&character, 1))); });
+    window().deliver([&] { return list_.user_search(from_wide(std::wstring_view(&character, 1))); });
     return true;
 }
 

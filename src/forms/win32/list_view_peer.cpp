@@ -62,12 +62,12 @@ void ListViewPeer::fit_columns() {
 
 /// On a row or beside the rows.
 void ListViewPeer::press(int row, bool twice) {
-    if (!window().report([&] { return select_row(row); })) return;
+    if (!window().deliver([&] { return select_row(row); })) return;
     if (twice) open_row();
 }
 
 void ListViewPeer::open_row() {
-    window().report([&] { return list_.user_double_click(); });
+    window().deliver([&] { return list_.user_double_click(); });
 }
 
 int ListViewPeer::row_beginning_with(const std::string& text, int start) const {

@@ -139,7 +139,7 @@ bool RowsPeer::take_key(WPARAM key) {
     default:
         return false;
     }
-    window().report([&] { return select_row(wanted); });
+    window().deliver([&] { return select_row(wanted); });
     return true;
 }
 
@@ -147,7 +147,7 @@ void RowsPeer::report_selection() {
     const int row = selected_index();
     if (row == shown_selection_) return;
     shown_selection_ = row;
-    if (!window().report([&] { return select_row(row); })) {
+    if (!window().deliver([&] { return select_row(row); })) {
         const FormWindow::Showing echo(window());
         show_selection();
     }

@@ -54,7 +54,7 @@ ButtonPeer::ButtonPeer(FormWindow& window, Button& button)
 }
 
 void ButtonPeer::notified(WORD code) {
-    if (code == BN_CLICKED) window().report([&] { return button_.user_click(); });
+    if (code == BN_CLICKED) window().deliver([&] { return button_.user_click(); });
 }
 
 CheckBoxPeer::CheckBoxPeer(FormWindow& window, CheckBox& box)
@@ -68,7 +68,7 @@ void CheckBoxPeer::show(Aspect aspects) {
 }
 
 void CheckBoxPeer::notified(WORD code) {
-    if (code == BN_CLICKED) window().report([&] { return box_.user_toggle(); });
+    if (code == BN_CLICKED) window().deliver([&] { return box_.user_toggle(); });
 }
 
 FramePeer::FramePeer(FormWindow& window, Frame& frame)

@@ -73,7 +73,7 @@ void TabPeer::cut_area() {
 LRESULT TabPeer::notified_of(NMHDR& notification) {
     if (notification.code != TCN_SELCHANGE || window().is_showing()) return 0;
     const int tab = static_cast<int>(send(TCM_GETCURSEL)) + 1;
-    if (tab != strip_.selected() && !window().report([&] { return strip_.user_select(tab); }))
+    if (tab != strip_.selected() && !window().deliver([&] { return strip_.user_select(tab); }))
         refresh(Aspect::selection);
     return 0;
 }

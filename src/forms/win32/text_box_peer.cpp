@@ -49,7 +49,7 @@ void TextBoxPeer::notified(WORD code) {
     std::wstring text = window_text(handle());
     if (text == known_) return;
     known_ = text;
-    if (!window().report([&] { return box_.user_text(from_wide(text)); })) refresh(Aspect::text);
+    if (!window().deliver([&] { return box_.user_text(from_wide(text)); })) refresh(Aspect::text);
 }
 
 LRESULT TextBoxPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -59,12 +59,12 @@ LRESULT TextBoxPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) 
     case WM_CHAR:
         return type(wparam, lparam);
     case WM_KEYDOWN:
-        window().report([&] { return box_.user_key_down(static_cast<std::int32_t>(wparam)); });
+        window().deliver([&] { return box_.user_key_down(static_cast<std::int32_t>(wparam)); });
         // An edit control on its own would press the default button.
         if (wparam == VK_RETURN && box_.takes_enter()) return 0;
         break;
     case WM_KEYUP:
-        window().report([&] { return box_.user_key_up(static_cast<std::int32_t>(wparam)); });
+        window().deliver([&] { return box_.user_key_up(static_cast<std::int32_t>(wparam)); });
         break;
     case WM_LBUTTONDOWN:
         if (take_mouse()) return 0;
@@ -96,7 +96,7 @@ LRESULT TextBoxPeer::dialog_code(const MSG* message) {
 
 LRESULT TextBoxPeer::type(WPARAM character, LPARAM details) {
     const std::int32_t entered =
-        window().report([&] { return box_.user_key_press(static_cast<std::int32_t>(character)); });
+        window().deliver([&] { return box_.user_key_press(static_cast<std::int32_t>(character)); });
     // An edit control of one line would sound the bell at Enter.
     if (entered == 0 || entered == VK_RETURN || !handle()) return 0;
     if (entered == control_a) return send(EM_SETSEL, 0, -1);

@@ -22,7 +22,7 @@ public:
     }
 
     void tick() {
-        window_.report([&] { return timer_.tick(); });
+        window_.deliver([&] { return timer_.tick(); });
     }
 
 private:

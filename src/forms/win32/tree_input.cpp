@@ -26,7 +26,7 @@ LRESULT TreePeer::notified_of(NMHDR& notification) {
     case TVN_SELCHANGEDW: {
         if (window().is_showing()) return 0;
         TreeNode* const node = node_of(reinterpret_cast<const NMTREEVIEWW&>(notification).itemNew.hItem);
-        if (!node || !window().report([&] { return tree_.user_select(*node); })) refresh(Aspect::selection);
+        if (!node || !window().deliver([&] { return tree_.user_select(*node); })) refresh(Aspect::selection);
         return 0;
     }
     default:
@@ -79,9 +79,9 @@ void TreePeer::press(POINT point, bool twice) {
     if (!node) return;
     const bool on_node = (hit.flags & TVHT_ONITEM) != 0;
     if ((hit.flags & TVHT_ONITEMBUTTON) != 0 || (on_node && twice))
-        window().report([&] { return tree_.user_toggle(*node); });
+        window().deliver([&] { return tree_.user_toggle(*node); });
     else if (on_node)
-        window().report([&] { return tree_.user_click(*node); });
+        window().deliver([&] { return tree_.user_click(*node); });
 }
 
 /// What a tree itself would do with these keys is more than is wanted, or nothing.
@@ -94,11 +94,11 @@ bool TreePeer::take_key(WPARAM key) {
     }
     const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
     TreeNode* const first = tree_.first();
-    return moves && first && window().report([&] { return tree_.user_select(*first); });
+    return moves && first && window().deliver([&] { return tree_.user_select(*first); });
 }
 
 bool TreePeer::toggle(TreeNode& node, bool expanded) {
-    return window().report([&] { return expanded ? tree_.user_expand(node) : tree_.user_collapse(node); });
+    return window().deliver([&] { return expanded ? tree_.user_expand(node) : tree_.user_collapse(node); });
 }
 
 bool TreePeer::take_expand(WPARAM action, HTREEITEM item) {
