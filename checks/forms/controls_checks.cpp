@@ -54,6 +54,19 @@ TEST_F(Controls, AnotherPlaceIsToldToTheEngineAndRead) {
     });
 }
 
+TEST_F(Controls, APanelThatComesToTheFrontIsToldToTheEngine) {
+    while_open([&] {
+        StandIn window(form.panel);
+        form.panel.bring_to_front();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::order);
+        window.seen = Aspect::none;
+        form.panel.send_to_back();
+        form.repaint();
+        EXPECT_EQ(window.seen, Aspect::order);
+    });
+}
+
 TEST_F(Controls, AreDrawnInTheSystemsColoursWhereTheirDesignSaysNothing) {
     while_open([&] {
         for (const Control* each :

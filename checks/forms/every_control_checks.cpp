@@ -21,21 +21,22 @@ public:
     Notes notes;
 
     // clang-format off
-    Frame      frame {*this, "frame",  {.place = {0, 0, 400, 300}, .tab = 1}};
+    Frame      frame {*this, "frame",  {.place = {0, 0, 400, 300}, .caption = "Frame", .tab = 1}};
     TextBox    box   {frame, "box",    {.place = {0, 0, 90, 23}, .tab = 2, .Change = note("box"),
                                         .KeyDown = [this](std::int32_t) { notes.emplace_back("down"); },
                                         .KeyPress = [this](std::int32_t&) { notes.emplace_back("press"); },
                                         .KeyUp = [this](std::int32_t) { notes.emplace_back("up"); }}};
     ListBox    list  {frame, "list",   {.place = {0, 30, 90, 60}, .tab = 3, .Click = note("list"), .DblClick = note("list twice")}};
     ComboBox   combo {frame, "combo",  {.place = {0, 90, 90, 23}, .tab = 4, .Click = note("combo")}};
-    CheckBox   check {frame, "check",  {.place = {0, 120, 90, 17}, .tab = 5, .Click = note("check")}};
-    Button     button{frame, "button", {.place = {0, 140, 75, 23}, .tab = 6, .Click = note("button")}};
+    CheckBox   check {frame, "check",  {.place = {0, 120, 90, 17}, .caption = "Check", .tab = 5, .Click = note("check")}};
+    Button     button{frame, "button", {.place = {0, 140, 75, 23}, .caption = "Button", .tab = 6, .Click = note("button")}};
     ListView   table {frame, "table",  {.place = {100, 0, 90, 60}, .tab = 7, .DblClick = note("table twice")}};
     TreeView   tree  {frame, "tree",   {.place = {100, 70, 90, 60}, .tab = 8,
                                         .Expand = [this](TreeNode&) { notes.emplace_back("expand"); },
                                         .NodeClick = [this](TreeNode&) { notes.emplace_back("node"); }, .Click = note("tree")}};
     TabStrip   tabs  {frame, "tabs",   {.place = {200, 0, 90, 60}, .captions = {"1", "2"}, .tab = 9, .Click = note("tabs")}};
     DatePicker day   {frame, "day",    {.place = {200, 70, 90, 23}, .tab = 10, .Change = note("day")}};
+    Label      label {*this, "label",  {.place = {300, 70, 90, 15}, .caption = "Label", .tab = 12}};
     Panel      panel {*this, "panel",  {.place = {300, 0, 90, 60}, .tab = 11}};
     // clang-format on
 

@@ -79,6 +79,8 @@ TEST_F(FocusOf, AFormStartsInTheFirstBoxThatCanBeFilledWithItsTextSelected) {
     while_open([&] { EXPECT_EQ(typed_into("Three"), "x"); });
     form().on_load = [&] { form().Tick.set_focus(); };
     while_open([&] { EXPECT_EQ(focused(), "Tick"); });
+    form().on_load = [] {};
+    while_open([&] { EXPECT_EQ(focused(), "One") << "Wherever it was the last time."; });
 }
 
 TEST_F(FocusOf, ABoxThatOnlyDisplaysIsReachedByTabAndNeverWrittenInto) {

@@ -29,6 +29,16 @@ SCENARIO(TestDialog, OpensEmptyForANewTest) {
     its.person.presses("bnCancel");
 }
 
+SCENARIO(TestDialog, ARecordOfAnotherKindIsReportedAndChoosesNothing) {
+    const Testing testing(its, its.host.has_test(0, ""));
+    its.host.picker->picks = its.host.configuration;
+    its.person.presses("bnTest");
+    its.host.picker->picks = nullptr;
+    its.expect_report(error::type_mismatch, "dlgOPCTest.ResolveTestDat");
+    EXPECT_EQ(its.person.reads("txtTest"), "");
+    its.person.presses("bnCancel");
+}
+
 SCENARIO(TestDialog, ANewTestGetsItsCharacteristicAndItsItem) {
     Testing testing(its, its.host.has_test(0, ""));
     testing.picks_characteristic(7, "Length", 2);
