@@ -248,7 +248,7 @@ TEST_F(ErrorReporting, AMessageThatCannotBeShownIsNoErrorOfItsOwnAndHindersNoOth
     const std::size_t before = told.size();
     fails("A.b");
     EXPECT_EQ(told.size(), before + 1);
-    EXPECT_EQ(turn::depth(), 0U);
+    EXPECT_EQ(turn::top_form(), nullptr);
     EXPECT_EQ(host.all_reports.size(), 2U);
 }
 

@@ -148,7 +148,7 @@ TEST(Turns, OnAFreshThreadNeitherCodeNorATimerRuns) {
     std::thread([] {
         EXPECT_FALSE(turn::is_code_running());
         EXPECT_FALSE(turn::is_timer_running());
-        EXPECT_EQ(turn::depth(), 0U);
+        EXPECT_EQ(turn::top_form(), nullptr);
     }).join();
 }
 

@@ -46,7 +46,7 @@ TEST_F(Forms, AFormThatCannotBeOpenedUnloadsAndItsCallerGetsTheError) {
     EXPECT_EQ(form.notes, (Notes{"Form_Load", "box_GotFocus", "Form_Unload"}));
     EXPECT_FALSE(form.loaded());
     EXPECT_EQ(form.focused(), nullptr);
-    EXPECT_EQ(turn::depth(), 0U);
+    EXPECT_EQ(turn::top_form(), nullptr);
     EXPECT_TRUE(host.reports.empty());
 
     while_open([&] { EXPECT_EQ(form.focused(), &form.box) << "It can be shown later."; });
@@ -225,6 +225,7 @@ TEST_F(Forms, SomethingThatEscapesAHandlerIsReportedAndGoesNoFurther) {
         EXPECT_TRUE(form.button.user_click());
         ASSERT_EQ(host.reports.size(), 1U);
         EXPECT_EQ(host.reports[0].what.number, error::overflow);
+        EXPECT_EQ(host.reports[0].what.location, "OneForm.event");
         EXPECT_FALSE(turn::is_code_running());
     });
 }

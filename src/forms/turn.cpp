@@ -25,12 +25,6 @@ Form* top_form() {
     return each ? each->form() : nullptr;
 }
 
-std::size_t depth() {
-    std::size_t count = 0;
-    for (const ModalTurn* each = innermost; each; each = each->below()) ++count;
-    return count;
-}
-
 } // namespace turn
 
 CodeTurn::CodeTurn() : outer_(code_running) { code_running = true; }

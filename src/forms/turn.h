@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 namespace brx {
 
 class Form;
@@ -25,9 +23,6 @@ Form* front();
 
 /// The form that was shown last, message box over it or not.
 Form* top_form();
-
-/// How many modal loops (forms and message boxes) run on this thread.
-std::size_t depth();
 
 } // namespace turn
 
