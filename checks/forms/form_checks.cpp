@@ -181,11 +181,14 @@ TEST_F(Forms, AValueThatIsAlreadyThereIsNotShownAgain) {
             form.box.set_back_color(color::window);
             form.box.set_fore_color(color::window_text);
             form.set_caption("One form");
+            form.label.set_caption("&Text:");
         };
+        NotingPeer label(form.label);
         NotingPeer whole(form);
         form.button.user_click();
         EXPECT_TRUE(peer.refreshed.empty());
         EXPECT_TRUE(whole.refreshed.empty());
+        EXPECT_TRUE(label.refreshed.empty());
     });
 }
 
