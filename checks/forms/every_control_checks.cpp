@@ -138,6 +138,8 @@ TEST_F(EveryControl, APersonDoesNothingWhileCodeRunsOrAMessageIsUp) {
         {
             const CodeTurn code;
             expect_refused("code runs");
+            EXPECT_FALSE(form.user_close());
+            EXPECT_FALSE(form.user_help());
         }
         const ModalTurn message(nullptr);
         expect_refused("a message is up");

@@ -66,6 +66,8 @@ TEST_F(ListViews, CellsAreEmptyUntilTheyAreSetAndExistForEachColumn) {
         ListRow& row = list.row("b");
         EXPECT_EQ(row.text(1), "");
         EXPECT_EQ(row.look(1), CellLook{});
+        EXPECT_FALSE(row.look(1).bold);
+        EXPECT_EQ(row.look(1).fore_color, color::window_text);
         row.set_text(1, "7");
         row.set_look(1, {.bold = true, .fore_color = color::red});
         row.set_text("New");

@@ -22,6 +22,7 @@ TEST_F(TreeNodes, NodesLieInTheOrderInWhichTheyWereAdded) {
     EXPECT_EQ(TreeView::depth(tree.node("core")), 2);
     EXPECT_EQ(fruit.index(), 1);
     EXPECT_EQ(tree.node(4).text(), "Core");
+    EXPECT_EQ(tree.node(5).text(), "Spice");
     EXPECT_EQ(fruit.tag(), "");
     fruit.set_tag("kept");
     EXPECT_EQ(tree.node(1).tag(), "kept");

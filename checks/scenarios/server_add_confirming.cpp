@@ -14,6 +14,12 @@ const Message already_there{
 
 } // namespace
 
+SCENARIO(AddingAServer, OfAServerThatIsNotAddedNoIndexIsTold) {
+    Adding dialog(its);
+    dialog.cancels();
+    EXPECT_EQ(dialog.add.ServerIndex(), 0);
+}
+
 SCENARIO(AddingAServer, AServerAlreadyConnectedOnTheNodeIsRefused) {
     its.host.servers->has_connected("SIM", "pc7");
     its.host.servers_on(" PC7 ", {"Sim"});
