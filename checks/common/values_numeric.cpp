@@ -91,6 +91,10 @@ TEST(IsNumeric, TakesGroupingAnywhereBehindTheFirstDigit) {
     EXPECT_EQ(15, to_double("1.5", de));
     EXPECT_EQ(1234, to_double("1\u00A0234", fr));
     EXPECT_EQ(1234, to_double("1 234", fr));
+    Locale narrow = fr;
+    narrow.grouping_separator = "\u202F";
+    EXPECT_EQ(1234, to_double("1\u202F234", narrow));
+    EXPECT_FALSE(is_numeric("1 234", narrow));
     EXPECT_FALSE(is_numeric(",1", us));
 }
 
@@ -103,6 +107,15 @@ TEST(IsNumeric, TakesOneDecimalSeparatorOfTheLocale) {
     EXPECT_FALSE(is_numeric("1.2.3", us));
     EXPECT_FALSE(is_numeric("1,2,3", de));
     EXPECT_FALSE(is_numeric("1.5", fr));
+}
+
+TEST(IsNumeric, TakesTheMinusSignOfTheLocaleOnly) {
+    Locale locale = us;
+    locale.negative_sign = "~";
+    EXPECT_EQ(-5, to_double("~5", locale));
+    EXPECT_EQ(1e-5, to_double("1E~5", locale));
+    EXPECT_FALSE(is_numeric("-5", locale));
+    EXPECT_FALSE(is_numeric("1E-5", locale));
 }
 
 TEST(IsNumeric, TakesExponentsWithEAndD) {

@@ -65,7 +65,7 @@ private:
             grouping_ = money_grouping_;
         }
         // A no-break blank between the digits is typed as a plain one.
-        blank_groups_ = grouping_ == U"\u00A0" || grouping_ == U"\u202F";
+        blank_groups_ = grouping_ == U"\u00A0";
     }
 
     void take_suffix() {
