@@ -100,6 +100,7 @@ TEST(ToBoolean, TakesTheNamesInAnyLetterCase) {
     EXPECT_TRUE(to_boolean("WAHR", de));
     EXPECT_TRUE(to_boolean("true", de));
     EXPECT_FALSE(to_boolean("falsch", de));
+    EXPECT_FALSE(to_boolean("FALSE", de));
     EXPECT_FALSE(to_boolean("Faux", fr));
     EXPECT_ERROR(13, to_boolean("Wahr", us));
 }

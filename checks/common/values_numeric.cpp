@@ -1,5 +1,7 @@
 #include "common/values_support.h"
 
+#include "common/values/number_text.h"
+
 #include <cmath>
 #include <limits>
 #include <string>
@@ -91,6 +93,10 @@ TEST(IsNumeric, TakesGroupingAnywhereBehindTheFirstDigit) {
     EXPECT_EQ(15, to_double("1.5", de));
     EXPECT_EQ(1234, to_double("1\u00A0234", fr));
     EXPECT_EQ(1234, to_double("1 234", fr));
+    Locale narrow = fr;
+    narrow.grouping_separator = "\u202F";
+    EXPECT_EQ(1234, to_double("1\u202F234", narrow));
+    EXPECT_FALSE(is_numeric("1 234", narrow));
     EXPECT_FALSE(is_numeric(",1", us));
 }
 
@@ -103,6 +109,17 @@ TEST(IsNumeric, TakesOneDecimalSeparatorOfTheLocale) {
     EXPECT_FALSE(is_numeric("1.2.3", us));
     EXPECT_FALSE(is_numeric("1,2,3", de));
     EXPECT_FALSE(is_numeric("1.5", fr));
+    EXPECT_FALSE(is_numeric("1:5", us));
+    EXPECT_FALSE(is_numeric("1/5", us));
+}
+
+TEST(IsNumeric, TakesTheMinusSignOfTheLocaleOnly) {
+    Locale locale = us;
+    locale.negative_sign = "~";
+    EXPECT_EQ(-5, to_double("~5", locale));
+    EXPECT_EQ(1e-5, to_double("1E~5", locale));
+    EXPECT_FALSE(is_numeric("-5", locale));
+    EXPECT_FALSE(is_numeric("1E-5", locale));
 }
 
 TEST(IsNumeric, TakesExponentsWithEAndD) {
@@ -153,6 +170,24 @@ TEST(ToDouble, IsExactAtItsLimits) {
     EXPECT_EQ(1e-5, to_double("0." + std::string(400, '0') + "1E396", us));
 }
 
+TEST(ToDouble, TellsTooLargeFromTooSmall) {
+    const std::string zeros(400, '0');
+    EXPECT_EQ(0, to_double("0." + zeros + "1", us));
+    EXPECT_EQ(0, to_double("1E-" + zeros + "400", us));
+    EXPECT_EQ(0, to_double("1" + zeros + "E-800", us));
+    EXPECT_ERROR(6, to_double("0." + zeros + "1E800", us));
+    EXPECT_ERROR(6, to_double("1" + std::string(1400, '0') + "E-1090", us));
+    for (const char digit : std::string("123456789"))
+        EXPECT_ERROR(6, to_double(digit + zeros + "." + zeros + "1", us)) << digit;
+}
+
+TEST(NearestDouble, KeepsTheSignOfWhatNoDoubleHolds) {
+    EXPECT_EQ(std::numeric_limits<double>::infinity(), nearest_double("1e309"));
+    EXPECT_EQ(-std::numeric_limits<double>::infinity(), nearest_double("-1e309"));
+    EXPECT_FALSE(std::signbit(nearest_double("1e-400")));
+    EXPECT_TRUE(std::signbit(nearest_double("-1e-400")));
+}
+
 TEST(ToDouble, ReadsHexadecimalUpTo32BitsAsASigned32BitInteger) {
     EXPECT_EQ(65535, to_double("&HFFFF", us));
     EXPECT_EQ(2147483647, to_double("&H7FFFFFFF", us));
@@ -181,6 +216,9 @@ TEST(ToSingle, IsExactAtItsLimits) {
     EXPECT_ERROR(6, to_single("-3.40282357E38", us));
     EXPECT_ERROR(6, to_single("1E39", us));
     EXPECT_ERROR(6, to_single("1E309", us));
+    const double limit = 0x1.FFFFFFp+127; // half-way to the next one, if there were one
+    EXPECT_ERROR(6, to_single(limit));
+    EXPECT_EQ(std::numeric_limits<float>::max(), to_single(std::nextafter(limit, 0)));
     EXPECT_EQ(std::numeric_limits<float>::denorm_min(), to_single("1.4E-45", us));
     EXPECT_EQ(0.0F, to_single("1E-46", us));
     EXPECT_ERROR(13, to_single("", us));

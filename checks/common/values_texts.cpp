@@ -114,6 +114,9 @@ TEST(Utf16, ReplacesEachMalformedByte) {
     EXPECT_EQ(u"\uFFFD\uFFFD", to_utf16("\xC0\x80")) << "longer than need be";
     EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD", to_utf16("\xE0\x80\x80")) << "longer than need be";
     EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD", to_utf16("\xF4\x90\x80\x80")) << "beyond Unicode";
+    for (const char* four : {"\x80\x90\x80\x80", "\x81\x80\x80\x80", "\xC1\xBF\x80\x80", "\xF5\x80\x80\x80",
+                             "\xF8\x90\x80\x80", "\xFF\xBF\xBF\xBF"})
+        EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD", to_utf16(four));
     EXPECT_EQ(u"\uFFFD(", to_utf16("\xC3("));
     EXPECT_EQ(u"\uFFFDä", to_utf16("\xC3ä"));
 }
@@ -137,8 +140,13 @@ TEST(CodePoints, BecomeReplacementsOutsideUnicode) {
 }
 
 TEST(CodePoints, WhiteSpaceIsWhatTheSystemSkips) {
-    for (const char32_t c : {U'\t', U'\n', U'\r', U' ', U'\u00A0', U'\u3000'}) EXPECT_TRUE(is_white_space(c));
-    for (const char32_t c : {U'\x08', U'\x0E', U'!', U'a', U'\u200B'}) EXPECT_FALSE(is_white_space(c));
+    std::u32string all;
+    for (char32_t c = 0; c <= 0x10FFFF; ++c)
+        if (is_white_space(c)) all += c;
+    EXPECT_EQ(
+        U"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"
+        U"\u2028\u2029\u202F\u205F\u3000",
+        all);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "common/values_support.h"
 
+#include <cmath>
 #include <limits>
 
 namespace brx {
@@ -76,6 +77,16 @@ TEST(ToText, GivesCurrencyWithTheDecimalsItHas) {
     EXPECT_EQ("1234.5678", to_text(Currency{12345678}, us));
     EXPECT_EQ("922337203685477.5807", to_text(Currency{std::numeric_limits<std::int64_t>::max()}, us));
     EXPECT_EQ("-922337203685477.5808", to_text(Currency{std::numeric_limits<std::int64_t>::min()}, us));
+}
+
+TEST(ToText, GivesAPlainMinusWhateverTheLocalesIs) {
+    Locale locale = us;
+    locale.negative_sign = "~";
+    EXPECT_EQ("-5", to_text(std::int16_t{-5}, locale));
+    EXPECT_EQ("-5", to_text(std::int32_t{-5}, locale));
+    EXPECT_EQ("-1.5", to_text(-1.5F, locale));
+    EXPECT_EQ("-1.5E-07", to_text(-1.5e-7, locale));
+    EXPECT_EQ("-1.5", to_text(Currency{-15000}, locale));
 }
 
 TEST(ToText, GivesBooleansByTheNamesOfTheLocale) {

@@ -43,6 +43,8 @@ TEST(Val, TakesOneSign) {
 
 TEST(Val, TakesExponentsWithEAndD) {
     EXPECT_EQ(1500, val("1.5E3"));
+    EXPECT_EQ(1500, val("1.5e3"));
+    EXPECT_EQ(1500, val("1.5D3"));
     EXPECT_EQ(1500, val("1.5d+3"));
     EXPECT_EQ(0.0015, val("1.5e-3"));
     EXPECT_EQ(1.5, val("1.5E"));
@@ -67,6 +69,15 @@ TEST(Val, WrapsHexadecimalAndOctalLikeIntegersOfTheirSize) {
     EXPECT_EQ(1, val("&o18"));
     EXPECT_EQ(-1, val("&O177777"));
     EXPECT_EQ(171, val("&HABG"));
+    for (const char* end : {"/", ":", "@", "G", "`", "g", "ä"}) EXPECT_EQ(26, val(std::string("&H1A") + end));
+}
+
+TEST(Val, StopsAtADigitThatDoesNotFitInto64Bits) {
+    EXPECT_EQ(0x1p60, val("&H1000000000000000"));
+    EXPECT_EQ(0x1p60, val("&H10000000000000000"));
+    EXPECT_EQ(-1, val("&HFFFFFFFFFFFFFFFF0"));
+    EXPECT_EQ(-1, val("&O1777777777777777777777"));
+    EXPECT_EQ(0x1p61, val("&O2000000000000000000000"));
 }
 
 TEST(Val, OverflowsBeyondADouble) {

@@ -37,6 +37,24 @@ TEST(Vartype, NamesEveryKind) {
     EXPECT_EQ(17, vartype(byte_number()));
 }
 
+TEST(Variants, BeginWithZero) {
+    EXPECT_EQ(0, Date{}.days);
+    EXPECT_EQ(0, Currency{}.ten_thousandths);
+}
+
+TEST(Array, HasTheElementsFromItsLowerToItsUpperBound) {
+    const LongArray usual{{7, 8}};
+    EXPECT_EQ(1, usual.lower_bound);
+    EXPECT_EQ(2, usual.upper_bound());
+    const LongArray other{{7, 8}, -3};
+    EXPECT_EQ(-2, other.upper_bound());
+    EXPECT_EQ(7, other.at(-3));
+    EXPECT_EQ(8, other.at(-2));
+    EXPECT_ERROR(9, other.at(-4));
+    EXPECT_ERROR(9, other.at(-1));
+    EXPECT_EQ(0, (LongArray{{}, 1}.upper_bound()));
+}
+
 TEST(IsNumericOfAVariant, IsTrueForNumbersBooleansAndEmpty) {
     const Variant numeric[] = {empty,
                                std::int16_t{1},

@@ -25,19 +25,11 @@ bool is_date(double days) { return days > first_day - 1 && days < last_day + 1; 
 Moment to_moment(Date date) {
     if (!is_date(date.days)) throw Error(error::invalid_procedure_call);
     const double whole = std::trunc(date.days);
-    Moment moment;
-    moment.day = static_cast<int>(whole);
-    moment.second = static_cast<int>(std::lround(std::fabs(date.days - whole) * seconds_per_day));
-    if (moment.second == seconds_per_day) {
-        // There is no day behind the last one to round to.
-        if (moment.day == last_day) {
-            --moment.second;
-        } else {
-            ++moment.day;
-            moment.second = 0;
-        }
-    }
-    return moment;
+    const int day = static_cast<int>(whole);
+    const int second = static_cast<int>(std::lround(std::fabs(date.days - whole) * seconds_per_day));
+    if (second < seconds_per_day) return {day, second};
+    // There is no day behind the last one to round to.
+    return day == last_day ? Moment{day, second - 1} : Moment{day + 1, 0};
 }
 
 Date to_date(const Moment& moment) {
@@ -53,7 +45,10 @@ Date to_date(const Moment& moment) {
 
 std::optional<int> day_number(int year, unsigned month, unsigned day) {
     const year_month_day date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
-    if (month > 12 || day > 31 || !date.ok()) return std::nullopt;
+    // The calendar's types are too small for some numbers.
+    const bool held = static_cast<int>(date.year()) == year && unsigned(date.month()) == month &&
+                      unsigned(date.day()) == day;
+    if (!held || !date.ok()) return std::nullopt;
     const auto number = (sys_days(date) - zero_day).count();
     if (number < first_day || number > last_day) return std::nullopt;
     return static_cast<int>(number);

@@ -116,8 +116,8 @@ std::string to_text(const Variant& value, const Locale& locale) {
         std::string operator()(Empty) const { return {}; }
         std::string operator()(Null) const { null(); }
         std::string operator()(Missing) const { no_number(); }
-        std::string operator()(std::int16_t v) const { return integer(v); }
-        std::string operator()(std::int32_t v) const { return integer(v); }
+        std::string operator()(std::int16_t v) const { return std::to_string(v); }
+        std::string operator()(std::int32_t v) const { return std::to_string(v); }
         std::string operator()(float v) const { return single_text(v, l); }
         std::string operator()(double v) const { return double_text(v, l); }
         std::string operator()(Currency v) const { return currency_text(v, l); }
@@ -127,10 +127,6 @@ std::string to_text(const Variant& value, const Locale& locale) {
         std::string operator()(bool v) const { return v ? l.true_text : l.false_text; }
         std::string operator()(const StringArray&) const { no_number(); }
         std::string operator()(const Opaque& v) const { return text_of(v); }
-
-        std::string integer(std::int64_t v) const {
-            return v < 0 ? l.negative_sign + std::to_string(-v) : std::to_string(v);
-        }
     };
     return std::visit(Visitor{locale}, value);
 }

@@ -3,15 +3,14 @@
 #include "common/values/format.h"
 #include "common/values/unicode.h"
 
-#include <cstdlib>
+#include <algorithm>
 
 namespace brx {
 namespace {
 
 std::string number(int value, std::size_t digits) {
-    std::string text = std::to_string(value);
-    if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-    return text;
+    const std::string text = std::to_string(value);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
 }
 
 std::string day_or_month(unsigned value, std::size_t count, const std::string& short_name,
@@ -35,7 +34,7 @@ std::optional<std::string> date_field(char letter, std::size_t count, const Mome
         return day_or_month(unsigned(date.month()), count, locale.short_months[month], locale.months[month]);
     }
     case 'y':
-        return count > 2 ? number(year, 0) : number(year % 100, count);
+        return count > 2 ? std::to_string(year) : number(year % 100, count);
     case 'g':
         return ""; // the era, which goes without saying
     default:
@@ -46,7 +45,7 @@ std::optional<std::string> date_field(char letter, std::size_t count, const Mome
 std::optional<std::string> time_field(char letter, std::size_t count, const Moment& moment,
                                       const Locale& locale) {
     const int hour = moment.second / 3600;
-    const std::size_t digits = count < 2 ? count : 2;
+    const std::size_t digits = std::min<std::size_t>(count, 2);
     switch (letter) {
     case 'h':
         return number(hour % 12 == 0 ? 12 : hour % 12, digits);
@@ -58,8 +57,9 @@ std::optional<std::string> time_field(char letter, std::size_t count, const Mome
         return number(moment.second % 60, digits);
     case 't': {
         const std::string& name = hour < 12 ? locale.am : locale.pm;
-        std::size_t end = name.size();
-        if (count == 1 && end > 0) read_code_point(name, end = 0);
+        if (count > 1 || name.empty()) return name;
+        std::size_t end = 0;
+        read_code_point(name, end);
         return name.substr(0, end);
     }
     default:
@@ -76,15 +76,14 @@ std::string fill(const std::string& picture, FieldText field, const Moment& mome
         const char letter = picture[i];
         if (letter == '\'') {
             // Two quotes inside quotes are one.
-            if (quoted && i + 1 < picture.size() && picture[i + 1] == '\'')
+            if (quoted && picture[i + 1] == '\'')
                 text += picture[i++];
             else
                 quoted = !quoted;
             ++i;
             continue;
         }
-        std::size_t count = 1;
-        while (i + count < picture.size() && picture[i + count] == letter) ++count;
+        const std::size_t count = std::min(picture.find_first_not_of(letter, i), picture.size()) - i;
         const auto value = quoted ? std::nullopt : field(letter, count, moment, locale);
         text += value ? *value : std::string(count, letter);
         i += count;

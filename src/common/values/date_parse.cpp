@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 namespace brx {
@@ -33,12 +34,12 @@ public:
             names_.push_back({capitals(locale.short_months[i]), Name::month, static_cast<int>(i) + 1});
         }
         for (const auto* days : {&locale.days, &locale.short_days}) {
-            for (const std::string& day : *days) names_.push_back({capitals(day), Name::day, 0});
+            for (const std::string& day : *days) names_.push_back({capitals(day), Name::day});
         }
-        names_.push_back({capitals(locale.am), Name::am, 0});
-        names_.push_back({capitals(locale.pm), Name::pm, 0});
-        names_.push_back({U"A", Name::am, 0});
-        names_.push_back({U"P", Name::pm, 0});
+        names_.push_back({capitals(locale.am), Name::am});
+        names_.push_back({capitals(locale.pm), Name::pm});
+        names_.push_back({U"A", Name::am});
+        names_.push_back({U"P", Name::pm});
         std::stable_sort(names_.begin(), names_.end(),
                          [](const Name& a, const Name& b) { return a.text.size() > b.text.size(); });
     }
@@ -55,7 +56,7 @@ private:
     struct Name {
         std::u32string text;
         enum Kind { month, day, am, pm } kind;
-        int month_number;
+        int month_number = 0;
     };
 
     static std::u32string capitals(std::string_view text) {
@@ -76,18 +77,21 @@ private:
     bool take_number() {
         if (!is_digit(text_[position_])) return false;
         Field field;
-        for (; position_ < text_.size() && is_digit(text_[position_]); ++position_) {
+        for (; is_digit(text_[position_]); ++position_) {
             field.value = std::min(field.value * 10 + static_cast<int>(text_[position_] - U'0'), 1'000'000);
         }
         fields_.push_back(field);
         return true;
     }
 
+    static bool is_letter(char32_t capital) {
+        return (capital >= U'A' && capital <= U'Z') || capital >= U'\u00C0';
+    }
+
     /// One letter alone is a designator only where no other letter follows.
     bool is_next(const std::u32string& name) const {
         if (name.empty() || text_.compare(position_, name.size(), name) != 0) return false;
-        const char32_t next = position_ + 1 < text_.size() ? text_[position_ + 1] : U' ';
-        return name.size() > 1 || !((next >= U'A' && next <= U'Z') || next > U'\u00BF');
+        return name.size() > 1 || !is_letter(text_[position_ + 1]);
     }
 
     bool take_name() {
@@ -132,24 +136,24 @@ private:
 
 /// The roles that a date's fields can have, by position.
 enum class Role { year, month, day };
-using Roles = std::array<Role, 3>;
-constexpr Roles mdy = {Role::month, Role::day, Role::year};
+constexpr std::array mdy = {Role::month, Role::day, Role::year};
+using Roles = std::remove_const_t<decltype(mdy)>;
 constexpr Roles dmy = {Role::day, Role::month, Role::year};
 constexpr Roles ymd = {Role::year, Role::month, Role::day};
 constexpr Roles ydm = {Role::year, Role::day, Role::month};
 constexpr Roles myd = {Role::month, Role::year, Role::day};
 
 /// The user's order first, then what else it can be.
-std::array<Roles, 4> orders(DateOrder order) {
+auto orders(DateOrder order) {
     switch (order) {
     case DateOrder::month_day_year:
-        return {mdy, ymd, ydm, dmy};
+        return std::array{mdy, ymd, ydm, dmy};
     case DateOrder::day_month_year:
-        return {dmy, ymd, mdy, ydm};
+        return std::array{dmy, ymd, mdy, ydm};
     case DateOrder::year_month_day:
         break;
     }
-    return {ymd, mdy, ydm, dmy};
+    return std::array{ymd, mdy, ydm, dmy};
 }
 
 class DateReader {
@@ -204,10 +208,10 @@ private:
     }
 
     std::optional<int> find_day(std::span<const Field> date) const {
-        std::array<int, 3> values = {date[0].value, date[1].value, this_year_};
+        // As a month or a day this year makes no date.
+        std::array values = {date[0].value, date[1].value, this_year_};
         if (date.size() == 3) values[2] = date[2].value;
         for (const Roles& roles : orders(locale_.date_order)) {
-            if (date.size() == 2 && roles[2] != Role::year) continue;
             if (!names_fit(date, roles)) continue;
             if (const auto day = place(values, roles)) return day;
         }
@@ -231,7 +235,6 @@ private:
         std::array<int, 3> by_role{};
         for (std::size_t i = 0; i < 3; ++i) by_role[static_cast<std::size_t>(roles[i])] = values[i];
         const auto [year, month, day] = by_role;
-        if (year > 9999 || month > 12 || day > 31) return std::nullopt;
         return day_number(full_year(year), static_cast<unsigned>(month), static_cast<unsigned>(day));
     }
 

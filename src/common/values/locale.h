@@ -17,7 +17,7 @@ struct Locale {
     std::string money_grouping_separator = ",";
     std::string currency_symbol = "$";
     std::string positive_sign = "+";
-    std::string negative_sign = "-";
+    std::string negative_sign = "-"; ///< of a number that is read; a written one has a plain minus
 
     DateOrder date_order = DateOrder::month_day_year;
     std::string date_separator = "/";

@@ -26,7 +26,7 @@ bool is_half(double value, std::size_t digits) {
 
 template <class Number> std::string number_text(Number value, int digits, const Locale& locale) {
     if (std::isnan(value)) return std::signbit(value) ? "-1.#IND" : "1.#QNAN";
-    if (std::isinf(value)) return value < 0 ? "-1.#INF" : "1.#INF";
+    if (std::isinf(value)) return std::signbit(value) ? "-1.#INF" : "1.#INF";
     if (value == 0) return "0"; // a negative zero too
     // A half goes away from zero here, to an even digit in to_chars.
     if (is_half(static_cast<double>(value), static_cast<std::size_t>(digits))) {
@@ -39,9 +39,6 @@ template <class Number> std::string number_text(Number value, int digits, const 
     std::string text;
     for (const char* c = buffer.data(); c != end; ++c) {
         switch (*c) {
-        case '-':
-            text += c == buffer.data() ? locale.negative_sign : "-";
-            break;
         case '.':
             text += locale.decimal_separator;
             break;
@@ -65,7 +62,7 @@ std::string currency_text(Currency value, const Locale& locale) {
     const bool negative = value.ten_thousandths < 0;
     const auto bits = static_cast<std::uint64_t>(value.ten_thousandths);
     const std::uint64_t magnitude = negative ? ~bits + 1 : bits;
-    std::string text = negative ? locale.negative_sign : "";
+    std::string text = negative ? "-" : "";
     text += std::to_string(magnitude / 10000);
     std::string decimals = std::to_string(10000 + magnitude % 10000).substr(1);
     decimals.erase(decimals.find_last_not_of('0') + 1);

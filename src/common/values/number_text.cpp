@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <limits>
+#include <memory>
 
 namespace brx {
 namespace {
@@ -24,7 +26,7 @@ public:
 
     std::optional<NumberText> read() {
         take_prefix();
-        if (!(peek() == U'&' ? take_based() : take_decimal())) return std::nullopt;
+        if (!take_number()) return std::nullopt;
         take_suffix();
         if (position_ != text_.size() || open_ != closed_) return std::nullopt;
         if (negative_ || open_) number_.decimal.insert(0, 1, '-');
@@ -32,12 +34,11 @@ public:
     }
 
 private:
-    char32_t peek(std::size_t ahead = 0) const {
-        return position_ + ahead < text_.size() ? text_[position_ + ahead] : U'\0';
-    }
+    /// The end of the text is U'\0'.
+    char32_t peek(std::size_t ahead = 0) const { return text_[position_ + ahead]; }
 
     bool take(char32_t c) {
-        if (position_ == text_.size() || text_[position_] != c) return false;
+        if (peek() != c) return false;
         ++position_;
         return true;
     }
@@ -49,7 +50,7 @@ private:
     }
 
     bool take_blank() {
-        if (position_ == text_.size() || !is_white_space(text_[position_])) return false;
+        if (!is_white_space(peek())) return false;
         ++position_;
         return true;
     }
@@ -64,8 +65,6 @@ private:
             decimal_ = money_decimal_;
             grouping_ = money_grouping_;
         }
-        // A no-break blank between the digits is typed as a plain one.
-        blank_groups_ = grouping_ == U"\u00A0" || grouping_ == U"\u202F";
     }
 
     void take_suffix() {
@@ -75,27 +74,27 @@ private:
         }
     }
 
-    bool take_based() {
-        const char32_t letter = peek(1);
-        const bool hex = letter == U'H' || letter == U'h';
-        if (money_ || (!hex && letter != U'O' && letter != U'o')) return false;
-        position_ += 2;
-        number_.hex_or_octal = true;
-        const unsigned shift = hex ? 4 : 3;
-        bool any = false;
-        for (int digit; (digit = digit_value(peek())) >= 0 && digit < (1 << shift); ++position_) {
-            any = true;
-            number_.too_long = number_.too_long || (number_.bits >> (64 - shift)) != 0;
-            number_.bits = (number_.bits << shift) | static_cast<std::uint64_t>(digit);
-        }
-        return any;
+    bool take_number() {
+        if (take_base(U'H')) return take_based(4);
+        if (take_base(U'O')) return take_based(3);
+        return take_decimal();
     }
 
-    static int digit_value(char32_t c) {
-        if (c >= U'0' && c <= U'9') return static_cast<int>(c - U'0');
-        if (c >= U'a' && c <= U'f') return static_cast<int>(c - U'a') + 10;
-        if (c >= U'A' && c <= U'F') return static_cast<int>(c - U'A') + 10;
-        return -1;
+    bool take_base(char32_t letter) {
+        if (money_ || peek() != U'&' || to_upper(peek(1)) != letter) return false;
+        position_ += 2;
+        number_.hex_or_octal = true;
+        return true;
+    }
+
+    bool take_based(unsigned shift) {
+        const std::size_t start = position_;
+        const std::uint64_t base = 1U << shift;
+        for (std::uint64_t digit; (digit = digit_value(peek())) < base; ++position_) {
+            number_.too_long = number_.too_long || (number_.bits >> (64 - shift)) != 0;
+            number_.bits = (number_.bits << shift) | digit;
+        }
+        return position_ != start;
     }
 
     bool take_digits() {
@@ -104,7 +103,8 @@ private:
         return position_ != start;
     }
 
-    bool take_grouping() { return take(grouping_) || (blank_groups_ && take(U' ')); }
+    /// A no-break blank between the digits is typed as a plain one.
+    bool take_grouping() { return take(grouping_) || (grouping_ == U"\u00A0" && take(U' ')); }
 
     bool take_decimal() {
         bool digits = false;
@@ -146,27 +146,24 @@ private:
     bool money_ = false;
     bool open_ = false;
     bool closed_ = false;
-    bool blank_groups_ = false;
 };
 
-/// The power of ten of the first digit that is not 0, as far as it tells very large from very small.
-bool is_large(std::string_view decimal) {
-    const std::size_t e = std::min(decimal.find('e'), decimal.size());
-    const std::string_view digits = decimal.substr(0, e);
-    const std::string_view exponent = decimal.substr(std::min(e + 1, decimal.size()));
-    std::int64_t power = 0;
-    const auto parsed = std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
-    constexpr std::int64_t limit = std::numeric_limits<std::int64_t>::max() / 2;
-    if (parsed.ec == std::errc::result_out_of_range) power = exponent.starts_with('-') ? -limit : limit;
-    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
-    const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
-    return power + point - first > 0;
+/// Whether a number that is no double is too large for one, not too small.
+bool is_large(const std::string& decimal) {
+    const std::size_t e = decimal.find('e');
+    // One that is out of range itself becomes the largest or the smallest there is.
+    const long long power = e == std::string::npos ? 0 : std::strtoll(decimal.c_str() + e + 1, nullptr, 10);
+    const auto point = static_cast<long long>(std::min(decimal.find_first_of(".e"), decimal.size()));
+    const auto first = static_cast<long long>(decimal.find_first_of("123456789"));
+    return power > first - point;
 }
 
 } // namespace
 
+std::size_t digit_value(char32_t c) { return std::u32string_view(U"0123456789ABCDEF").find(to_upper(c)); }
+
 double nearest_double(const std::string& decimal) {
-    const char* const end = decimal.data() + decimal.size();
+    const char* const end = std::to_address(decimal.end());
     double value = 0;
     if (std::from_chars(decimal.data(), end, value).ec != std::errc::result_out_of_range) return value;
     const double magnitude = is_large(decimal) ? std::numeric_limits<double>::infinity() : 0.0;

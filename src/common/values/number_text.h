@@ -2,6 +2,7 @@
 
 #include "common/values/locale.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -26,6 +27,9 @@ struct NumberText {
 /// brackets, which mean a negative number. An amount of money has neither exponent nor &H. Empty when it is
 /// not a number.
 std::optional<NumberText> read_number(std::string_view text, const Locale& locale);
+
+/// The value of a digit up to 15, in either letter case; anything else is far more than that.
+std::size_t digit_value(char32_t c);
 
 /// The nearest double of a decimal number as in C; an infinity when it is too large.
 double nearest_double(const std::string& decimal);

@@ -14,10 +14,10 @@ struct Lead {
 
 Lead lead_of(unsigned char byte) {
     if (byte < 0x80) return {1, byte, 0};
-    if (byte >= 0xC2 && byte <= 0xDF) return {2, byte & 0x1FU, 0x80};
-    if (byte >= 0xE0 && byte <= 0xEF) return {3, byte & 0x0FU, 0x800};
-    if (byte >= 0xF0 && byte <= 0xF4) return {4, byte & 0x07U, 0x10000};
-    return {0, 0, 0};
+    if (byte < 0xC2) return {}; // inside a sequence, or before one that is longer than need be
+    if (byte < 0xE0) return {2, byte & 0x1FU, 0x80};
+    if (byte < 0xF0) return {3, byte & 0x0FU, 0x800};
+    return {4, byte & 0x0FU, 0x10000}; // from 0xF5 on beyond Unicode
 }
 
 } // namespace

@@ -66,7 +66,7 @@ template <class Unit> void write_utf16(std::basic_string<Unit>& result, std::str
         if (c == malformed_byte) c = 0xFFFD;
         if (c >= 0x10000) {
             *to++ = static_cast<Unit>(0xD800 + ((c - 0x10000) >> 10));
-            c = 0xDC00 + ((c - 0x10000) & 0x3FF);
+            c = 0xDC00 + (c & 0x3FF);
         }
         *to++ = static_cast<Unit>(c);
     }

@@ -15,22 +15,15 @@ std::string without_blanks(std::string_view text) {
     return result;
 }
 
-int digit_value(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
-
 /// Up to 64 bits. The sign bit is that of the smallest of 16, 32 and 64 bits that holds the digits, an &
 /// behind them excluding 16.
 double based_value(std::string_view digits, unsigned shift) {
     std::uint64_t bits = 0;
     std::size_t position = 0;
     for (; position < digits.size() && (bits >> (64 - shift)) == 0; ++position) {
-        const int digit = digit_value(digits[position]);
-        if (digit < 0 || digit >= (1 << shift)) break;
-        bits = (bits << shift) | static_cast<std::uint64_t>(digit);
+        const std::uint64_t digit = digit_value(static_cast<unsigned char>(digits[position]));
+        if (digit >= 1U << shift) break;
+        bits = (bits << shift) | digit;
     }
     const bool wide = position < digits.size() && digits[position] == '&';
     if (bits <= 0xFFFF && !wide) return static_cast<std::int16_t>(static_cast<std::uint16_t>(bits));
@@ -49,9 +42,7 @@ double val(std::string_view text) {
 
     std::size_t position = 0;
     std::string decimal;
-    const auto peek = [&](std::size_t ahead = 0) {
-        return position + ahead < all.size() ? all[position + ahead] : '\0';
-    };
+    const auto peek = [&](std::size_t ahead = 0) { return all[position + ahead]; }; // '\0' at the end
     const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
     const auto take_digits = [&] {
         const std::size_t start = position;
