@@ -10,37 +10,37 @@ constexpr std::int32_t unspecified = -2147467259; // 0x80004005
 
 }
 
-void FakeBrowser::note(const std::string& member, const std::string& arguments) {
+void FakeBrowser::is_asked(const std::string& member, const std::string& arguments) {
     before(member);
-    calls_.note("OPCBrowser." + member + arguments);
+    note(member + arguments);
     if (failing.contains(member)) throw Error(unspecified, member + " is out of order", "OPCBrowser");
 }
 
 std::int32_t FakeBrowser::Organization() {
-    note("Organization");
+    is_asked("Organization");
     return organization;
 }
 
 std::int32_t FakeBrowser::Count() {
-    note("Count");
+    is_asked("Count");
     return claimed_count.value_or(static_cast<std::int32_t>(list_.size()));
 }
 
 std::string FakeBrowser::Item(std::int32_t index) {
-    note("Item", "(" + std::to_string(index) + ")");
+    is_asked("Item", "(" + std::to_string(index) + ")");
     if (index < 1 || static_cast<std::size_t>(index) > list_.size())
         throw Error(error::subscript_out_of_range);
     return list_[static_cast<std::size_t>(index) - 1];
 }
 
 void FakeBrowser::ShowBranches() {
-    note("ShowBranches");
+    is_asked("ShowBranches");
     list_.clear();
     for (const FakeBranch& branch : here_->branches) list_.push_back(branch.name);
 }
 
 void FakeBrowser::ShowLeafs(bool flat) {
-    note("ShowLeafs", flat ? "(True)" : "(False)");
+    is_asked("ShowLeafs", flat ? "(True)" : "(False)");
     list_.clear();
     if (flat)
         list_all_below(*here_, "");
@@ -54,7 +54,7 @@ void FakeBrowser::list_all_below(const FakeBranch& branch, const std::string& pa
 }
 
 void FakeBrowser::MoveToRoot() {
-    note("MoveToRoot");
+    is_asked("MoveToRoot");
     here_ = &root;
     path_.clear();
 }
@@ -62,7 +62,7 @@ void FakeBrowser::MoveToRoot() {
 void FakeBrowser::MoveTo(const StringArray& branches) {
     std::string names;
     for (const std::string& name : branches.elements) names += (names.empty() ? "" : "|") + name;
-    note("MoveTo", "(" + names + ")");
+    is_asked("MoveTo", "(" + names + ")");
     lower_bound = branches.lower_bound;
     here_ = &root;
     path_.clear();
@@ -76,7 +76,7 @@ void FakeBrowser::MoveTo(const StringArray& branches) {
 }
 
 std::string FakeBrowser::GetItemID(const std::string& leaf) {
-    note("GetItemID", "(" + leaf + ")");
+    is_asked("GetItemID", "(" + leaf + ")");
     if (std::find(list_.begin(), list_.end(), leaf) == list_.end())
         throw Error(unspecified, "There is no " + leaf, "OPCBrowser");
     return path_ + leaf;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/model/opc_automation.h"
-#include "host/call_log.h"
+#include "host/recorded.h"
 
 #include <deque>
 #include <functional>
@@ -25,9 +25,9 @@ struct FakeBranch {
 };
 
 /// A simulated browser. An item's identifier is its branches and its name, joined with full stops.
-class FakeBrowser : public OPCBrowser {
+class FakeBrowser : public OPCBrowser, public Recorded {
 public:
-    explicit FakeBrowser(CallLog& calls) : calls_(calls) {}
+    explicit FakeBrowser(CallLog& calls) : Recorded(calls, "OPCBrowser") {}
 
     FakeBranch root;
     std::int32_t organization = 1;
@@ -50,10 +50,9 @@ public:
     std::string GetItemID(const std::string& leaf) override;
 
 private:
-    void note(const std::string& member, const std::string& arguments = "");
+    void is_asked(const std::string& member, const std::string& arguments = "");
     void list_all_below(const FakeBranch& branch, const std::string& path);
 
-    CallLog& calls_;
     const FakeBranch* here_ = &root;
     std::string path_; ///< of `here_`, with the full stop that an item's name follows
     std::vector<std::string> list_;

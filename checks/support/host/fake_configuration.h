@@ -30,36 +30,24 @@ struct ConfigurationFields {
 };
 
 /// What a configuration refers to its server by.
-class FakeServerHolder : public hlxOPCServerHolder {
+class FakeServerHolder : public hlxOPCServerHolder, public Recorded {
 public:
-    explicit FakeServerHolder(CallLog& calls) : calls_(calls) {}
+    explicit FakeServerHolder(CallLog& calls) : Recorded(calls, "hlxOPCServerHolder") {}
     hlxOPCServerPtr entry;
-    hlxOPCServerPtr ServerEntry() override {
-        calls_.note("hlxOPCServerHolder.ServerEntry");
-        return entry;
-    }
-
-private:
-    CallLog& calls_;
+    hlxOPCServerPtr ServerEntry() override { return read("ServerEntry", entry); }
 };
 
-class FakeApplication : public hlxApplication {
+class FakeApplication : public hlxApplication, public Recorded {
 public:
-    explicit FakeApplication(CallLog& calls) : calls_(calls) {}
+    explicit FakeApplication(CallLog& calls) : Recorded(calls, "hlxApplication") {}
     ObjectPtr database;
-    ObjectPtr Database() override {
-        calls_.note("hlxApplication.Database");
-        return database;
-    }
-
-private:
-    CallLog& calls_;
+    ObjectPtr Database() override { return read("Database", database); }
 };
 
 /// One collection configuration of the fake host.
-class FakeConfiguration : public hlxOPCConfiguration {
+class FakeConfiguration : public hlxOPCConfiguration, public Recorded {
 public:
-    explicit FakeConfiguration(CallLog& calls) : calls_(calls) {}
+    explicit FakeConfiguration(CallLog& calls) : Recorded(calls, "hlxOPCConfiguration") {}
 
     ConfigurationFields fields;
     std::shared_ptr<FakeServerHolder> server;
@@ -72,77 +60,63 @@ public:
     hlxOPCDescriptorsPtr Descriptors() override { return read("Descriptors", descriptors); }
     hlxOPCTestsPtr Tests() override { return read("Tests", tests); }
     std::int32_t SubgroupSize() override { return read("SubgroupSize", fields.subgroup_size); }
-    void set_SubgroupSize(std::int32_t value) override {
-        write("SubgroupSize=", fields.subgroup_size, value);
-    }
+    void set_SubgroupSize(std::int32_t value) override { write("SubgroupSize", fields.subgroup_size, value); }
     std::string SubgroupTriggerItem() override {
         return read("SubgroupTriggerItem", fields.subgroup_trigger_item);
     }
     void set_SubgroupTriggerItem(const std::string& value) override {
-        write("SubgroupTriggerItem=", fields.subgroup_trigger_item, value);
+        write("SubgroupTriggerItem", fields.subgroup_trigger_item, value);
     }
     std::int32_t SubgroupInterval() override { return read("SubgroupInterval", fields.subgroup_interval); }
     void set_SubgroupInterval(std::int32_t value) override {
-        write("SubgroupInterval=", fields.subgroup_interval, value);
+        write("SubgroupInterval", fields.subgroup_interval, value);
     }
     std::int16_t SubgroupTimeUnit() override { return read("SubgroupTimeUnit", fields.subgroup_time_unit); }
     void set_SubgroupTimeUnit(std::int16_t value) override {
-        write("SubgroupTimeUnit=", fields.subgroup_time_unit, value);
+        write("SubgroupTimeUnit", fields.subgroup_time_unit, value);
     }
     std::string PieceTriggerItem() override { return read("PieceTriggerItem", fields.piece_trigger_item); }
     void set_PieceTriggerItem(const std::string& value) override {
-        write("PieceTriggerItem=", fields.piece_trigger_item, value);
+        write("PieceTriggerItem", fields.piece_trigger_item, value);
     }
     std::int32_t PieceInterval() override { return read("PieceInterval", fields.piece_interval); }
     void set_PieceInterval(std::int32_t value) override {
-        write("PieceInterval=", fields.piece_interval, value);
+        write("PieceInterval", fields.piece_interval, value);
     }
     std::int16_t PieceTimeUnit() override { return read("PieceTimeUnit", fields.piece_time_unit); }
     void set_PieceTimeUnit(std::int16_t value) override {
-        write("PieceTimeUnit=", fields.piece_time_unit, value);
+        write("PieceTimeUnit", fields.piece_time_unit, value);
     }
     Date SyncDateTime() override { return read("SyncDateTime", fields.sync_date_time); }
-    void set_SyncDateTime(Date value) override { write("SyncDateTime=", fields.sync_date_time, value); }
+    void set_SyncDateTime(Date value) override { write("SyncDateTime", fields.sync_date_time, value); }
     std::int16_t SubgroupTriggerType() override {
         return read("SubgroupTriggerType", fields.subgroup_trigger_type);
     }
     void set_SubgroupTriggerType(std::int16_t value) override {
-        write("SubgroupTriggerType=", fields.subgroup_trigger_type, value);
+        write("SubgroupTriggerType", fields.subgroup_trigger_type, value);
     }
     Variant SubgroupTriggerValue() override {
         return read("SubgroupTriggerValue", fields.subgroup_trigger_value);
     }
     void set_SubgroupTriggerValue(const Variant& value) override {
-        write("SubgroupTriggerValue=", fields.subgroup_trigger_value, value);
+        write("SubgroupTriggerValue", fields.subgroup_trigger_value, value);
     }
     std::int16_t PieceTriggerType() override { return read("PieceTriggerType", fields.piece_trigger_type); }
     void set_PieceTriggerType(std::int16_t value) override {
-        write("PieceTriggerType=", fields.piece_trigger_type, value);
+        write("PieceTriggerType", fields.piece_trigger_type, value);
     }
     Variant PieceTriggerValue() override { return read("PieceTriggerValue", fields.piece_trigger_value); }
     void set_PieceTriggerValue(const Variant& value) override {
-        write("PieceTriggerValue=", fields.piece_trigger_value, value);
+        write("PieceTriggerValue", fields.piece_trigger_value, value);
     }
     std::string Name() override { return read("Name", fields.name); }
-    void set_Name(const std::string& value) override { write("Name=", fields.name, value); }
+    void set_Name(const std::string& value) override { write("Name", fields.name, value); }
     bool Active() override { return read("Active", fields.active); }
-    void set_Active(bool value) override { write("Active=", fields.active, value); }
+    void set_Active(bool value) override { write("Active", fields.active, value); }
     float DeadBand() override { return read("DeadBand", fields.dead_band); }
-    void set_DeadBand(float value) override { write("DeadBand=", fields.dead_band, value); }
+    void set_DeadBand(float value) override { write("DeadBand", fields.dead_band, value); }
     std::int32_t UpdateRate() override { return read("UpdateRate", fields.update_rate); }
-    void set_UpdateRate(std::int32_t value) override { write("UpdateRate=", fields.update_rate, value); }
-
-private:
-    template <class Value> Value read(const std::string& member, const Value& value) {
-        calls_.note("hlxOPCConfiguration." + member);
-        return value;
-    }
-    template <class Value> void write(const std::string& member, Value& field, const Value& value) {
-        calls_.note("hlxOPCConfiguration." + member);
-        field = value;
-    }
-
-    CallLog& calls_;
+    void set_UpdateRate(std::int32_t value) override { write("UpdateRate", fields.update_rate, value); }
 };
 
 } // namespace brx::checks

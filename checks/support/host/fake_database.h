@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/model/database.h"
-#include "host/call_log.h"
+#include "host/recorded.h"
 
 #include <map>
 #include <memory>
@@ -16,10 +16,10 @@ class FakeDatabase : public hlxDatabase {};
 bool is_the_hosts_database(const hlxDatabasePtr& database);
 
 /// The record of a test characteristic.
-class FakeTestData : public hlxTestData {
+class FakeTestData : public hlxTestData, public Recorded {
 public:
     FakeTestData(CallLog& calls, std::int32_t of_id, std::int32_t of_group, std::string named)
-        : id(of_id), group_id(of_group), name(std::move(named)), calls_(calls) {}
+        : Recorded(calls, "hlxTestData"), id(of_id), group_id(of_group), name(std::move(named)) {}
 
     std::int32_t id;
     std::int32_t group_id;
@@ -38,68 +38,35 @@ public:
     };
     std::vector<Saving> savings;
 
-    std::int32_t ID() override {
-        calls_.note("hlxTestData.ID");
-        return id;
-    }
-    void set_ID(std::int32_t value) override {
-        calls_.note("hlxTestData.ID=");
-        id = value;
-    }
-    std::int32_t GroupID() override {
-        calls_.note("hlxTestData.GroupID");
-        return group_id;
-    }
-    std::string Name() override {
-        calls_.note("hlxTestData.Name");
-        return name;
-    }
-    void set_Flag(std::int16_t value) override {
-        calls_.note("hlxTestData.Flag=");
-        flag = value;
-    }
-    void set_Mode(std::int16_t value) override {
-        calls_.note("hlxTestData.Mode=");
-        mode = value;
-    }
-    bool Load(const hlxDatabasePtr&) override {
-        calls_.note("hlxTestData.Load");
-        return true;
-    }
+    std::int32_t ID() override { return read("ID", id); }
+    void set_ID(std::int32_t value) override { write("ID", id, value); }
+    std::int32_t GroupID() override { return read("GroupID", group_id); }
+    std::string Name() override { return read("Name", name); }
+    void set_Flag(std::int16_t value) override { write("Flag", flag, value); }
+    void set_Mode(std::int16_t value) override { write("Mode", mode, value); }
+    bool Load(const hlxDatabasePtr&) override { return read("Load", true); }
     void Save(const hlxDatabasePtr& database) override {
-        calls_.note("hlxTestData.Save");
+        note("Save");
         if (names && names->contains(id)) name = names->at(id);
         savings.push_back({id, flag, mode, is_the_hosts_database(database)});
     }
-
-private:
-    CallLog& calls_;
 };
 
 /// A look-up by id, of a test group.
-class FakeTestGroup : public hlxRecord {
+class FakeTestGroup : public hlxRecord, public Recorded {
 public:
     FakeTestGroup(CallLog& calls, const std::map<std::int32_t, std::string>& names)
-        : calls_(calls), names_(names) {}
+        : Recorded(calls, "hlxRecord"), names_(names) {}
 
     std::int32_t ID() override { return id_; }
-    void set_ID(std::int32_t value) override {
-        calls_.note("hlxRecord.ID=");
-        id_ = value;
-    }
-    std::string Name() override {
-        calls_.note("hlxRecord.Name");
-        return name_;
-    }
+    void set_ID(std::int32_t value) override { write("ID", id_, value); }
+    std::string Name() override { return read("Name", name_); }
     void set_Name(const std::string&) override { throw Error(error::internal, "A group is looked up by id"); }
     std::int32_t GroupID() override { return 0; }
     void set_GroupID(std::int32_t) override { throw Error(error::internal, "A group is in no group"); }
-    void set_SearchFlag(std::int16_t value) override {
-        calls_.note("hlxRecord.SearchFlag=");
-        flag_ = value;
-    }
+    void set_SearchFlag(std::int16_t value) override { write("SearchFlag", flag_, value); }
     bool Load(const hlxDatabasePtr& database) override {
-        calls_.note("hlxRecord.Load");
+        note("Load");
         const auto found = names_.find(id_);
         if (flag_ != 1 || !is_the_hosts_database(database) || found == names_.end()) return false;
         name_ = found->second;
@@ -107,7 +74,6 @@ public:
     }
 
 private:
-    CallLog& calls_;
     const std::map<std::int32_t, std::string>& names_;
     std::int32_t id_ = 0;
     std::int16_t flag_ = 0;
@@ -115,9 +81,9 @@ private:
 };
 
 /// The picker of characteristics: it picks what the story says without asking anybody.
-class FakePicker : public hlxSelection {
+class FakePicker : public hlxSelection, public Recorded {
 public:
-    explicit FakePicker(CallLog& calls) : calls_(calls) {}
+    explicit FakePicker(CallLog& calls) : Recorded(calls, "hlxSelection") {}
 
     /// What will be picked; Nothing when the person cancels.
     ObjectPtr picks;
@@ -127,19 +93,13 @@ public:
     bool shows_the_hosts_database = false;
 
     bool Show(const hlxDatabasePtr& connection, std::int32_t id, std::int32_t group_id) override {
-        calls_.note("hlxSelection.Show");
+        note("Show");
         shown_with.push_back(id);
         shown_with_groups.push_back(group_id);
         shows_the_hosts_database = is_the_hosts_database(connection);
         return picks != nullptr;
     }
-    ObjectPtr Record() override {
-        calls_.note("hlxSelection.Record");
-        return picks;
-    }
-
-private:
-    CallLog& calls_;
+    ObjectPtr Record() override { return read("Record", picks); }
 };
 
 } // namespace brx::checks

@@ -36,12 +36,12 @@ std::int32_t FakeOPCItems::error_of(const std::string& item_id) const {
 }
 
 std::int32_t FakeOPCItems::Count() {
-    calls_.note("OPCItems.Count");
+    note("Count");
     return static_cast<std::int32_t>(entries_.size());
 }
 
 OPCItemPtr FakeOPCItems::Item(const Variant& item_specifier) {
-    calls_.note("OPCItems.Item");
+    note("Item");
     if (const auto* position = std::get_if<std::int32_t>(&item_specifier))
         if (*position >= 1 && static_cast<std::size_t>(*position) <= entries_.size())
             return entries_[static_cast<std::size_t>(*position) - 1].item;
@@ -54,7 +54,7 @@ OPCItemPtr FakeOPCItems::Item(const Variant& item_specifier) {
 AddedItems FakeOPCItems::AddItems(const StringArray& item_ids, const LongArray& handles,
                                   const std::optional<ShortArray>& types,
                                   const std::optional<StringArray>& paths) {
-    calls_.note("OPCItems.AddItems");
+    note("AddItems");
     added.push_back(item_ids);
     client_handles.push_back(handles);
     requested_types.push_back(types);
@@ -69,7 +69,7 @@ AddedItems FakeOPCItems::AddItems(const StringArray& item_ids, const LongArray& 
 }
 
 LongArray FakeOPCItems::Remove(const LongArray& server_handles) {
-    calls_.note("OPCItems.Remove");
+    note("Remove");
     removed.push_back(server_handles);
     LongArray errors;
     for (const std::int32_t handle : server_handles.elements)
@@ -83,7 +83,7 @@ LongArray FakeOPCItems::Remove(const LongArray& server_handles) {
 LongArray FakeOPCItems::Validate(const StringArray& item_ids,
                                  const std::optional<ShortArray>& requested_data_types,
                                  const std::optional<StringArray>& access_paths) {
-    calls_.note("OPCItems.Validate");
+    note("Validate");
     validations.push_back({item_ids, requested_data_types, access_paths});
     if (claimed_errors) return *claimed_errors;
     LongArray errors;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/model/opc_automation.h"
-#include "host/call_log.h"
+#include "host/recorded.h"
 
 #include <map>
 #include <memory>
@@ -20,44 +20,31 @@ struct Validation {
 };
 
 /// One item of the simulated group.
-class FakeOPCItem : public OPCItem {
+class FakeOPCItem : public OPCItem, public Recorded {
 public:
     FakeOPCItem(CallLog& calls, std::string item_id, std::int16_t data_type)
-        : calls_(calls), item_id_(std::move(item_id)), data_type_(data_type) {}
+        : Recorded(calls, "OPCItem"), item_id_(std::move(item_id)), data_type_(data_type) {}
 
-    std::string ItemID() override {
-        calls_.note("OPCItem.ItemID");
-        return item_id_;
-    }
-    bool IsActive() override {
-        calls_.note("OPCItem.IsActive");
-        return active_;
-    }
-    void set_IsActive(bool value) override {
-        calls_.note("OPCItem.IsActive=");
-        active_ = value;
-    }
+    std::string ItemID() override { return read("ItemID", item_id_); }
+    bool IsActive() override { return read("IsActive", active_); }
+    void set_IsActive(bool value) override { write("IsActive", active_, value); }
     bool active() const { return active_; }
-    std::int16_t CanonicalDataType() override {
-        calls_.note("OPCItem.CanonicalDataType");
-        return data_type_;
-    }
+    std::int16_t CanonicalDataType() override { return read("CanonicalDataType", data_type_); }
     const std::string& id() const { return item_id_; }
 
 private:
-    CallLog& calls_;
     std::string item_id_;
     std::int16_t data_type_;
     bool active_ = false;
 };
 
 /// The items of the simulated group.
-class FakeOPCItems : public OPCItems {
+class FakeOPCItems : public OPCItems, public Recorded {
 public:
     static constexpr std::int32_t unknown_item = -1073479673;   // 0xC0040007
     static constexpr std::int32_t invalid_handle = -1073479679; // 0xC0040001
 
-    explicit FakeOPCItems(CallLog& calls) : calls_(calls) {}
+    explicit FakeOPCItems(CallLog& calls) : Recorded(calls, "OPCItems") {}
 
     /// The error code for each item; an item that is not listed is unknown.
     std::map<std::string, std::int32_t> answers;
@@ -96,7 +83,6 @@ public:
 private:
     std::int32_t error_of(const std::string& item_id) const;
 
-    CallLog& calls_;
     struct Entry {
         std::int32_t handle;
         std::shared_ptr<FakeOPCItem> item;
@@ -106,35 +92,24 @@ private:
 };
 
 /// A simulated group.
-class FakeOPCGroup : public OPCGroup {
+class FakeOPCGroup : public OPCGroup, public Recorded {
 public:
-    explicit FakeOPCGroup(CallLog& calls) : items(std::make_shared<FakeOPCItems>(calls)), calls_(calls) {}
+    explicit FakeOPCGroup(CallLog& calls)
+        : Recorded(calls, "OPCGroup"), items(std::make_shared<FakeOPCItems>(calls)) {}
 
     std::weak_ptr<brx::OPCServer> server;
     std::string name = "Group1";
     std::shared_ptr<FakeOPCItems> items;
 
-    OPCServerPtr Parent() override {
-        calls_.note("OPCGroup.Parent");
-        return server.lock();
-    }
-    std::string Name() override {
-        calls_.note("OPCGroup.Name");
-        return name;
-    }
-    OPCItemsPtr OPCItems() override {
-        calls_.note("OPCGroup.OPCItems");
-        return items;
-    }
-
-private:
-    CallLog& calls_;
+    OPCServerPtr Parent() override { return read("Parent", server.lock()); }
+    std::string Name() override { return read("Name", name); }
+    OPCItemsPtr OPCItems() override { return read("OPCItems", items); }
 };
 
 /// The groups of the simulated server.
-class FakeOPCGroups : public OPCGroups {
+class FakeOPCGroups : public OPCGroups, public Recorded {
 public:
-    explicit FakeOPCGroups(CallLog& calls) : calls_(calls) {}
+    explicit FakeOPCGroups(CallLog& calls) : Recorded(calls, "OPCGroups") {}
 
     std::vector<std::shared_ptr<FakeOPCGroup>> entries;
     void has(const std::string& name) {
@@ -142,12 +117,9 @@ public:
         entries.back()->name = name;
     }
 
-    std::int32_t Count() override {
-        calls_.note("OPCGroups.Count");
-        return static_cast<std::int32_t>(entries.size());
-    }
+    std::int32_t Count() override { return read("Count", static_cast<std::int32_t>(entries.size())); }
     OPCGroupPtr Item(const Variant& position) override {
-        calls_.note("OPCGroups.Item");
+        note("Item");
         return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
     }
     OPCGroupPtr Add(const std::optional<std::string>&) override {
@@ -155,9 +127,6 @@ public:
     }
     void RemoveAll() override { throw Error(error::internal, "No group was to be removed"); }
     void Remove(const Variant&) override { throw Error(error::internal, "No group was to be removed"); }
-
-private:
-    CallLog& calls_;
 };
 
 } // namespace brx::checks

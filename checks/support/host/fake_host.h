@@ -27,32 +27,23 @@ struct Report {
 enum class ErrorClass { works, fails, missing };
 
 /// A message service of the host's own: it notes the message and presses OK.
-class FakeMessageService : public hlxMessage {
+class FakeMessageService : public hlxMessage, public Recorded {
 public:
-    explicit FakeMessageService(CallLog& calls) : calls_(calls) {}
+    explicit FakeMessageService(CallLog& calls) : Recorded(calls, "hlxMessage") {}
     std::vector<Message> shown;
     std::int32_t Show(const std::string& text, std::int32_t style, const std::string& title,
                       const Variant&) override {
-        calls_.note("hlxMessage.Show");
+        note("Show");
         shown.push_back({text, style, title});
         return message::ok;
     }
-
-private:
-    CallLog& calls_;
 };
 
-class FakeHelpService : public hlxHelp {
+class FakeHelpService : public hlxHelp, public Recorded {
 public:
-    explicit FakeHelpService(CallLog& calls) : calls_(calls) {}
+    explicit FakeHelpService(CallLog& calls) : Recorded(calls, "hlxHelp") {}
     std::string path = "C:\\Plant\\collection.chm";
-    std::string HelpFile() override {
-        calls_.note("hlxHelp.HelpFile");
-        return path;
-    }
-
-private:
-    CallLog& calls_;
+    std::string HelpFile() override { return read("HelpFile", path); }
 };
 
 /// The host of the scenarios: its objects, the classes that the component creates, and where its reports go.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/model/opc_automation.h"
-#include "host/call_log.h"
+#include "host/recorded.h"
 
 #include <functional>
 #include <map>
@@ -12,9 +12,9 @@
 namespace brx::checks {
 
 /// A simulated connection to an OPC server. What it answers is in its fields.
-class FakeOPCServer : public OPCServer {
+class FakeOPCServer : public OPCServer, public Recorded {
 public:
-    explicit FakeOPCServer(CallLog& calls) : calls_(calls) {}
+    explicit FakeOPCServer(CallLog& calls) : Recorded(calls, "OPCServer") {}
 
     std::string server_name;
     std::string server_node;
@@ -35,46 +35,38 @@ public:
     /// Runs inside each enumeration.
     std::function<void()> while_enumerating = [] {};
 
-    Date StartTime() override { return answer("OPCServer.StartTime", start_time); }
-    Date CurrentTime() override { return answer("OPCServer.CurrentTime", current_time); }
-    Date LastUpdateTime() override { return answer("OPCServer.LastUpdateTime", last_update_time); }
-    std::int16_t MajorVersion() override { return answer("OPCServer.MajorVersion", major_version); }
-    std::int16_t MinorVersion() override { return answer("OPCServer.MinorVersion", minor_version); }
-    std::int16_t BuildNumber() override { return answer("OPCServer.BuildNumber", std::int16_t{17}); }
-    std::string VendorInfo() override { return answer("OPCServer.VendorInfo", vendor_info); }
-    std::int32_t ServerState() override { return answer("OPCServer.ServerState", 1); }
-    std::string ServerName() override { return answer("OPCServer.ServerName", server_name); }
-    std::string ServerNode() override { return answer("OPCServer.ServerNode", server_node); }
-    std::string ClientName() override { return answer("OPCServer.ClientName", std::string()); }
-    std::int32_t Bandwidth() override { return answer("OPCServer.Bandwidth", 4); }
-    OPCGroupsPtr OPCGroups() override { return answer("OPCServer.OPCGroups", groups); }
+    Date StartTime() override { return read("StartTime", start_time); }
+    Date CurrentTime() override { return read("CurrentTime", current_time); }
+    Date LastUpdateTime() override { return read("LastUpdateTime", last_update_time); }
+    std::int16_t MajorVersion() override { return read("MajorVersion", major_version); }
+    std::int16_t MinorVersion() override { return read("MinorVersion", minor_version); }
+    std::int16_t BuildNumber() override { return read("BuildNumber", std::int16_t{17}); }
+    std::string VendorInfo() override { return read("VendorInfo", vendor_info); }
+    std::int32_t ServerState() override { return read("ServerState", 1); }
+    std::string ServerName() override { return read("ServerName", server_name); }
+    std::string ServerNode() override { return read("ServerNode", server_node); }
+    std::string ClientName() override { return read("ClientName", std::string()); }
+    std::int32_t Bandwidth() override { return read("Bandwidth", 4); }
+    OPCGroupsPtr OPCGroups() override { return read("OPCGroups", groups); }
     OPCBrowserPtr CreateBrowser() override {
-        calls_.note("OPCServer.CreateBrowser");
+        note("CreateBrowser");
         if (!can_browse) throw Error(-2147467263, "Not implemented", "OPCServer"); // 0x80004001
         return browser;
     }
     std::string GetErrorString(std::int32_t error_code) override {
-        calls_.note("OPCServer.GetErrorString");
+        note("GetErrorString");
         error_codes.push_back(error_code);
         return error_string;
     }
 
     Variant GetOPCServers(const std::optional<std::string>& node) override {
-        calls_.note(node ? "OPCServer.GetOPCServers(" + *node + ")" : "OPCServer.GetOPCServers()");
+        note("GetOPCServers(" + node.value_or("") + ")");
         while_enumerating();
         const auto found = registered.find(node.value_or(""));
         if (found == registered.end())
             throw Error(-2147023174, "The RPC server is unavailable.", "OPCServer");
         return found->second;
     }
-
-private:
-    template <class Value> Value answer(const char* member, const Value& value) {
-        calls_.note(member);
-        return value;
-    }
-
-    CallLog& calls_;
 };
 
 } // namespace brx::checks

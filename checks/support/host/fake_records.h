@@ -33,23 +33,23 @@ struct Records {
 };
 
 /// A look-up of one record.
-class FakeRecord : public hlxRecord {
+class FakeRecord : public hlxRecord, public Recorded {
 public:
     FakeRecord(CallLog& calls, Records& records, std::string record_class)
-        : calls_(calls), records_(records), search_{std::move(record_class), "", 0, -1} {}
+        : Recorded(calls, "hlxRecord"), records_(records), search_{std::move(record_class), "", 0, -1} {}
     /// A record that was found already.
     FakeRecord(CallLog& calls, Records& records, RecordFields found)
-        : calls_(calls), records_(records), found_(std::move(found)) {}
+        : Recorded(calls, "hlxRecord"), records_(records), found_(std::move(found)) {}
 
-    std::int32_t ID() override { return note("ID", found_.id); }
-    void set_ID(std::int32_t value) override { search_.id = note("ID=", value); }
-    std::string Name() override { return note("Name", found_.name); }
-    void set_Name(const std::string& value) override { search_.name = note("Name=", value); }
-    std::int32_t GroupID() override { return note("GroupID", found_.group_id); }
-    void set_GroupID(std::int32_t value) override { search_.group_id = note("GroupID=", value); }
-    void set_SearchFlag(std::int16_t value) override { flag_ = note("SearchFlag=", value); }
+    std::int32_t ID() override { return read("ID", found_.id); }
+    void set_ID(std::int32_t value) override { write("ID", search_.id, value); }
+    std::string Name() override { return read("Name", found_.name); }
+    void set_Name(const std::string& value) override { write("Name", search_.name, value); }
+    std::int32_t GroupID() override { return read("GroupID", found_.group_id); }
+    void set_GroupID(std::int32_t value) override { write("GroupID", search_.group_id, value); }
+    void set_SearchFlag(std::int16_t value) override { write("SearchFlag", flag_, value); }
     bool Load(const hlxDatabasePtr& database) override {
-        note("Load", 0);
+        note("Load");
         records_.searches.push_back(search_);
         if (flag_ != 1 || !is_the_hosts_database(database)) return false;
         for (const RecordFields& each : records_.by_class[search_.record_class]) {
@@ -62,12 +62,6 @@ public:
     }
 
 private:
-    template <class Value> Value note(const std::string& member, const Value& value) {
-        calls_.note("hlxRecord." + member);
-        return value;
-    }
-
-    CallLog& calls_;
     Records& records_;
     Search search_;
     RecordFields found_;

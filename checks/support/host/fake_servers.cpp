@@ -18,13 +18,10 @@ std::shared_ptr<FakeServer> FakeServers::has_connected(const std::string& server
     return entry;
 }
 
-ObjectPtr FakeServers::Parent() {
-    calls_.note("hlxOPCServers.Parent");
-    return application;
-}
+ObjectPtr FakeServers::Parent() { return read("Parent", application); }
 
 hlxOPCServerPtr FakeServers::Add(const std::string& server_name, const std::string& node, bool connect) {
-    calls_.note("hlxOPCServers.Add");
+    note("Add");
     additions_.push_back({server_name, node, connect});
     if (!last_error_.empty()) return nullptr;
     ++added_;
@@ -38,13 +35,10 @@ std::string FakeServers::damage() const {
     return entries_.size() == configured_ + added_ ? "" : "The collection has entries that nobody put there.";
 }
 
-std::string FakeServers::LastError() {
-    calls_.note("hlxOPCServers.LastError");
-    return last_error_;
-}
+std::string FakeServers::LastError() { return read("LastError", last_error_); }
 
 hlxOPCServerPtr FakeServers::Item(const Variant& index) {
-    calls_.note("hlxOPCServers.Item");
+    note("Item");
     const auto* position = std::get_if<std::int32_t>(&index);
     if (!position || *position < 1 || *position > static_cast<std::int32_t>(entries_.size()))
         throw Error(error::subscript_out_of_range, error_text(error::subscript_out_of_range), "FakeHost");
@@ -52,7 +46,7 @@ hlxOPCServerPtr FakeServers::Item(const Variant& index) {
 }
 
 std::int32_t FakeServers::Count() {
-    calls_.note("hlxOPCServers.Count");
+    note("Count");
     return claimed_count_ >= 0 ? claimed_count_ : static_cast<std::int32_t>(entries_.size());
 }
 

@@ -11,35 +11,22 @@
 namespace brx::checks {
 
 /// One configured server of the fake host.
-class FakeServer : public hlxOPCServer {
+class FakeServer : public hlxOPCServer, public Recorded {
 public:
     FakeServer(CallLog& calls, std::string server_name, std::string node)
-        : calls_(calls), server_name_(std::move(server_name)), node_(std::move(node)) {}
+        : Recorded(calls, "hlxOPCServer"), server_name_(std::move(server_name)), node_(std::move(node)) {}
 
     /// Its connection; null when it is not connected.
     std::shared_ptr<Object> connection;
     /// The collection that it belongs to.
     std::weak_ptr<Object> parent;
 
-    std::string ServerName() override {
-        calls_.note("hlxOPCServer.ServerName");
-        return server_name_;
-    }
-    std::string Node() override {
-        calls_.note("hlxOPCServer.Node");
-        return node_;
-    }
-    ObjectPtr Parent() override {
-        calls_.note("hlxOPCServer.Parent");
-        return parent.lock();
-    }
-    ObjectPtr OPCServer() override {
-        calls_.note("hlxOPCServer.OPCServer");
-        return connection;
-    }
+    std::string ServerName() override { return read("ServerName", server_name_); }
+    std::string Node() override { return read("Node", node_); }
+    ObjectPtr Parent() override { return read("Parent", parent.lock()); }
+    ObjectPtr OPCServer() override { return read("OPCServer", connection); }
 
 private:
-    CallLog& calls_;
     std::string server_name_;
     std::string node_;
 };
@@ -53,9 +40,9 @@ struct Addition {
 };
 
 /// The fake host's collection of servers.
-class FakeServers : public hlxOPCServers {
+class FakeServers : public hlxOPCServers, public Recorded {
 public:
-    explicit FakeServers(CallLog& calls) : calls_(calls) {}
+    explicit FakeServers(CallLog& calls) : Recorded(calls, "hlxOPCServers") {}
 
     /// The application object that it belongs to.
     ObjectPtr application;
@@ -87,7 +74,6 @@ public:
     std::int32_t Count() override;
 
 private:
-    CallLog& calls_;
     std::vector<std::shared_ptr<FakeServer>> entries_;
     std::vector<Addition> additions_;
     std::string last_error_;
