@@ -162,7 +162,10 @@ TEST_F(ItemForm, ARefusedItemIsForgottenUntilTheEntryChanges) {
 TEST_F(ItemForm, SearchingFindsALeafInWhateverLetterCase) {
     while_open([&] {
         form.set_Leaf("line1.SPEED");
+        host.browser->root.branches[1].leaves = {"Count"};
+        const int before = host.calls.count("OPCBrowser.Item(2)");
         EXPECT_TRUE(form.SearchForPath(false));
+        EXPECT_EQ(host.calls.count("OPCBrowser.Item(2)"), before) << "It was found before that.";
         form.set_Leaf("Line1.Spee");
         EXPECT_FALSE(form.SearchForPath(false));
         EXPECT_EQ(find<TextBox>("txtFullPath").text(), "");

@@ -43,6 +43,16 @@ public:
     }
 };
 
+/// The number of the error that `deed` ends with, 0 for none.
+inline std::int32_t number_of_error(const std::function<void()>& deed) {
+    try {
+        deed();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
 /// The control of the form with this name.
 template <class Which> Which& control_of(Form& form, const std::string& name) {
     for (Control* control : form.controls())
@@ -61,7 +71,6 @@ public:
     std::function<void()> on_click = [] {};
     std::function<void()> on_tick = [] {};
     std::function<void()> on_got_focus = [] {};
-    std::function<void()> on_list = [] {};
     std::function<void(std::int32_t&)> on_key = [](std::int32_t&) {};
 
     // clang-format off
@@ -75,7 +84,7 @@ public:
                                       .KeyUp = [this](std::int32_t) { notes.emplace_back("box_KeyUp"); },
                                       .GotFocus = [this] { notes.emplace_back("box_GotFocus"); on_got_focus(); }, .LostFocus = note("box_LostFocus")}};
     ListBox  list  {*this, "list",   {.place = {0, 110, 90, 60}, .tab = 3,
-                                      .Click = [this] { notes.emplace_back("list_Click"); on_list(); },
+                                      .Click = note("list_Click"),
                                       .DblClick = note("list_DblClick")}};
     ComboBox combo {*this, "combo",  {.place = {100, 110, 90, 23}, .tab = 4, .Click = note("combo_Click"),
                                       .Change = note("combo_Change")}};

@@ -17,10 +17,9 @@ namespace brx::checks {
 class BarePages : public Form {
 public:
     explicit BarePages(Environment& environment)
-        : Form(environment, {.name = "PageForm", .caption = "Pages", .size = {300, 200}}) {}
+        : Form(environment, {.name = "BarePages", .caption = "Pages", .size = {300, 200}}) {}
 
     Notes notes;
-    std::function<void()> on_change = [] {};
 
     // clang-format off
     TextBox    box   {*this,  "box",    {.place = {0, 0, 50, 23}, .tab = 1}};
@@ -33,7 +32,7 @@ public:
     Button     go    {first,  "go",     {.place = {110, 0, 75, 23}, .caption = "&Go", .tab = 6}};
     Panel      second{*this,  "second", {.place = {5, 50, 290, 120}, .tab = 7, .visible = false}};
     DatePicker day   {second, "day",    {.place = {0, 0, 90, 23}, .tab = 8,
-                                         .Change = [this] { notes.push_back("day " + day.text()); on_change(); }}};
+                                         .Change = [this] { notes.push_back("day " + day.text()); }}};
     DatePicker time  {second, "time",   {.place = {0, 30, 90, 23}, .part = DatePart::time, .tab = 9,
                                          .Change = [this] { notes.push_back("time " + time.text()); }}};
     ListView   plain {second, "plain",  {.place = {0, 60, 90, 40}, .tab = 11}};
@@ -60,14 +59,6 @@ struct OnePage {
             story();
         };
         form.show_modal();
-    }
-    static std::int32_t number_of_error(const std::function<void()>& deed) {
-        try {
-            deed();
-        } catch (const Error& error) {
-            return error.number();
-        }
-        return 0;
     }
     static Date date(int year, unsigned month, unsigned day, int second = 0) {
         return to_date({.day = day_number(year, month, day).value(), .second = second});

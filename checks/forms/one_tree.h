@@ -20,14 +20,6 @@ struct OneTree {
         form.show_modal();
     }
     void add_food() { form.add_food(); }
-    static std::int32_t number_of_error(const std::function<void()>& deed) {
-        try {
-            deed();
-        } catch (const Error& error) {
-            return error.number();
-        }
-        return 0;
-    }
     std::string selected() const { return tree.selected() ? tree.selected()->text() : "none"; }
 };
 

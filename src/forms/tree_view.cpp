@@ -183,7 +183,7 @@ void TreeView::reset() {
     Control::reset();
     tree_look_ = {};
     drop_all();
-    changes_.clear();
+    forget_changes();
 }
 
 void TreeView::read_content(Aspect aspects, Reading& into, int most_lines) const {

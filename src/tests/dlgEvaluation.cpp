@@ -24,7 +24,6 @@ void dlgEvaluation::Form_Load() {
     trap("Form_Load", [&] {
         ok_clicked_ = false;
         added_new_item_ = false;
-        data_type_ = data_type::unread;
         SetupForm(*this, 196);
         fill_operators(cboExpression);
         BuildDlg();
@@ -42,13 +41,11 @@ void dlgEvaluation::BuildDlg() {
         cboItem.select(std::max(cboItem.selected(), 0));
         cboExpression.select(expression_);
         txtValue.set_text(to_text(value_, environment().locale));
-        if (item_id_.empty()) {
+        if (item_id_.empty())
             cboExpression.select(trigger_operator::always);
-        } else {
+        else
             CheckDataType();
-            follow_operator();
-        }
-        EnableValueField(cboExpression.selected() >= 1);
+        follow_operator();
     });
 }
 

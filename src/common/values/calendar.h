@@ -13,8 +13,8 @@ inline constexpr int last_day = 2958465;
 
 /// A Date taken apart, rounded to whole seconds.
 struct Moment {
-    int day;    ///< since 30 December 1899
-    int second; ///< of the day
+    int day = 0;    ///< since 30 December 1899
+    int second = 0; ///< of the day
 
     std::chrono::year_month_day calendar_day() const;
     std::chrono::weekday weekday() const;

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <span>
-#include <type_traits>
 #include <vector>
 
 namespace brx {
@@ -136,24 +135,24 @@ private:
 
 /// The roles that a date's fields can have, by position.
 enum class Role { year, month, day };
-constexpr std::array mdy = {Role::month, Role::day, Role::year};
-using Roles = std::remove_const_t<decltype(mdy)>;
+using Roles = std::array<Role, 3>;
+constexpr Roles mdy = {Role::month, Role::day, Role::year};
 constexpr Roles dmy = {Role::day, Role::month, Role::year};
 constexpr Roles ymd = {Role::year, Role::month, Role::day};
 constexpr Roles ydm = {Role::year, Role::day, Role::month};
 constexpr Roles myd = {Role::month, Role::year, Role::day};
 
 /// The user's order first, then what else it can be.
-auto orders(DateOrder order) {
+std::array<Roles, 4> orders(DateOrder order) {
     switch (order) {
     case DateOrder::month_day_year:
-        return std::array{mdy, ymd, ydm, dmy};
+        return {mdy, ymd, ydm, dmy};
     case DateOrder::day_month_year:
-        return std::array{dmy, ymd, mdy, ydm};
+        return {dmy, ymd, mdy, ydm};
     case DateOrder::year_month_day:
         break;
     }
-    return std::array{ymd, mdy, ydm, dmy};
+    return {ymd, mdy, ydm, dmy};
 }
 
 class DateReader {

@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cstdlib>
 #include <limits>
-#include <memory>
 
 namespace brx {
 namespace {
@@ -163,7 +162,7 @@ bool is_large(const std::string& decimal) {
 std::size_t digit_value(char32_t c) { return std::u32string_view(U"0123456789ABCDEF").find(to_upper(c)); }
 
 double nearest_double(const std::string& decimal) {
-    const char* const end = std::to_address(decimal.end());
+    const char* const end = decimal.data() + decimal.size();
     double value = 0;
     if (std::from_chars(decimal.data(), end, value).ec != std::errc::result_out_of_range) return value;
     const double magnitude = is_large(decimal) ? std::numeric_limits<double>::infinity() : 0.0;

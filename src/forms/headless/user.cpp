@@ -177,7 +177,7 @@ bool HeadlessUser::set_date(const std::string& name, const std::string& text) {
     if (!picker || !picker->can_focus() || std::sscanf(text.c_str(), "%d%*c%u%*c%u", &a, &b, &c) != 3)
         return false;
     picker->user_focus();
-    Moment moment{};
+    Moment moment;
     if (picker->part() == DatePart::date)
         moment.day = day_number(a, b, c).value();
     else
