@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scenarios/calls.h"
+#include "stories/calls.h"
 
 #include <string>
 

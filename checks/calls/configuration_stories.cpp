@@ -1,6 +1,6 @@
 #include "calls_of.h"
 
-#include "scenarios/configuring.h"
+#include "stories/configuring.h"
 
 // The same of the configuration dialog and of those that it opens.
 

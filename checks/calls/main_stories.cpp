@@ -1,8 +1,8 @@
 #include "calls_of.h"
 
-#include "scenarios/browsing.h"
-#include "scenarios/configuring.h"
-#include "scenarios/testing.h"
+#include "stories/browsing.h"
+#include "stories/configuring.h"
+#include "stories/testing.h"
 
 // What a host sees of each dialog's main story: every call, in the order of its making. The same source is
 // built by every compiler, for the order must not be one compiler's choice.

@@ -7,7 +7,7 @@
 #include "conversions/generator.h"
 #include "conversions/reasons.h"
 #include "conversions/reference.h"
-#include "tests/limit_texts.h"
+#include "dialogs/limit_texts.h"
 
 #include <cmath>
 #include <limits>

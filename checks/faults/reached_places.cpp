@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-// The last check of its program: what is known of failing calls is still true when all scenarios have been
+// The last check of its program: what is known of failing calls is still true when all stories have been
 // played.
 
 using namespace brx::checks;

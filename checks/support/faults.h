@@ -5,10 +5,10 @@
 
 namespace brx::checks {
 
-/// Whether the checks of this suite are scenarios that are played with failing calls.
+/// Whether the checks of this suite are stories that are played with failing calls.
 bool plays_with_a_failing_host(const std::string& suite);
 
-/// Where calls failed in the scenarios that have been played so far.
+/// Where calls failed in the stories that have been played so far.
 const std::set<std::string>& places_that_stories_reached();
 
 } // namespace brx::checks

@@ -1,4 +1,4 @@
-// The tools of the scenarios themselves, on a dialog made of the system's controls alone.
+// The tools of the stories themselves, on a dialog made of the system's controls alone.
 
 #include "windows/screen_test.h"
 

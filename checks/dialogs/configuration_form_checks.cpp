@@ -1,4 +1,4 @@
-#include "configuration_form.h"
+#include "dialogs/configuration_form.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "common/locales.h"
+#include "dialogs/limit_texts.h"
 #include "forms/one_form.h"
 #include "tests/dlgEvaluation.h"
 #include "tests/dlgOPCTest.h"
-#include "tests/limit_texts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "scenarios/adding.h"
+#include "stories/adding.h"
 
 using namespace brx;
 using namespace brx::checks;

@@ -1,6 +1,6 @@
 #include "classes/ConfigurationSetup.h"
 #include "common/locales.h"
-#include "configuration_form.h"
+#include "dialogs/configuration_form.h"
 
 #include <utility>
 

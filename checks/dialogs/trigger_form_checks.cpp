@@ -1,4 +1,4 @@
-#include "tests/trigger_form.h"
+#include "dialogs/trigger_form.h"
 
 using namespace brx;
 using namespace brx::checks;

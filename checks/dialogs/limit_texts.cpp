@@ -1,4 +1,4 @@
-#include "tests/limit_texts.h"
+#include "dialogs/limit_texts.h"
 
 #include "common/error.h"
 

@@ -46,7 +46,8 @@ public:
     std::string HelpFile() override { return read("HelpFile", path); }
 };
 
-/// The host of the scenarios: its objects, the classes that the component creates, and where its reports go.
+/// The host of the stories and rules: its objects, the classes that the component creates, and where its
+/// reports go.
 class FakeHost : public ErrorLibraries, public ObjectFactory {
 public:
     FakeHost();
