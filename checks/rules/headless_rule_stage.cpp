@@ -12,6 +12,8 @@ public:
     Screen& screen() override { return stage_.screen(); }
     Environment& environment() override { return stage_.environment(); }
     void start(std::function<void()> job) override { stage_.start(std::move(job)); }
+    void pump() override { stage_.pump(); }
+    void end_pump() override { stage_.end_pump(); }
     bool busy() override { return stage_.busy(); }
     std::string differences() override { return stage_.leaks(); }
 

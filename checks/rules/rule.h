@@ -52,6 +52,19 @@ protected:
     void code(const Story& handler) {
         stage_->start([this, handler] { form().run_event(handler); });
     }
+    /// The story happens while a handler of the form waits for foreign code that takes input. The handler
+    /// goes on with `afterwards`.
+    void while_code_pumps(
+        const Story& story, const Story& afterwards = [] {}) {
+        code([this, afterwards] {
+            pump();
+            afterwards();
+        });
+        story();
+        end_pump();
+    }
+    void pump() { stage_->pump(); }
+    void end_pump() { stage_->end_pump(); }
     /// What the form has noted since it was asked last.
     std::string told() { return std::exchange(form().events, {}); }
     /// The control with the focus, "none" when it is none of the form's.

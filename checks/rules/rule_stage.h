@@ -22,6 +22,10 @@ public:
     /// Runs `job` on the forms' thread; returns when it has ended or a window waits for input.
     virtual void start(std::function<void()> job) = 0;
 
+    /// On the forms' thread: takes input until `end_pump`, as foreign code does that waits for messages.
+    virtual void pump() = 0;
+    virtual void end_pump() = 0;
+
     /// Whether a job that was started has not ended.
     virtual bool busy() = 0;
 

@@ -23,6 +23,8 @@ public:
     Screen& screen() override { return screen_; }
     Environment& environment() override { return forms_->environment; }
     void start(std::function<void()> job) override { ui_.start(std::move(job)); }
+    void pump() override { ui_.pump(); }
+    void end_pump() override { ui_.end_pump(); }
     bool busy() override { return ui_.busy(); }
     std::string differences() override { return screen_.differences(); }
 

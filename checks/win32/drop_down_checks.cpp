@@ -1,5 +1,7 @@
 #include "lists.h"
 
+#include "desk/hands.h"
+
 #include "forms/win32/gdi.h"
 #include "forms/win32/wide.h"
 
@@ -20,6 +22,31 @@ TEST_F(ListTest, TheKeyboardOpensADropDownListAndChoosesInIt) {
         EXPECT_EQ(Hands::text(hands.control("Lists", "Combo")), L"three");
     });
     EXPECT_EQ(form.events, "Combo1 Combo2 ");
+}
+
+TEST_F(ListTest, WhatIsChosenInAnOpenListWhileCodeRunsIsTakenWhenItHasRun) {
+    ListForm form(environment);
+    form.on_load = [&] { add_three(form.Combo); };
+    show(form, [&](Hands& hands) {
+        hands.form("Lists");
+        const HWND combo = hands.control("Lists", "Combo");
+        hands.run([&] {
+            SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+            COMBOBOXINFO info{};
+            info.cbSize = sizeof info;
+            GetComboBoxInfo(combo, &info);
+            const POINT line = centre_of_line(info.hwndList, 1);
+            form.run_event([&] {
+                SendMessageW(info.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(line.x, line.y));
+                SendMessageW(info.hwndList, WM_LBUTTONUP, 0, MAKELPARAM(line.x, line.y));
+                EXPECT_EQ(SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0), FALSE);
+                EXPECT_EQ(form.Combo.selected(), -1);
+            });
+        });
+        hands.wait_until_idle();
+        EXPECT_EQ(Hands::text(combo), L"two");
+    });
+    EXPECT_EQ(form.events, "Combo1 ");
 }
 
 TEST_F(ListTest, ADropDownListIsWideEnoughForItsLines) {

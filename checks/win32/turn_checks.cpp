@@ -1,6 +1,9 @@
 #include "small_form.h"
 
+#include "desk/hands.h"
 #include "forms/timer.h"
+
+#include <atomic>
 
 namespace brx::checks {
 
@@ -10,20 +13,27 @@ class TurnTest : public OnWindows {};
 
 } // namespace
 
-TEST_F(TurnTest, WhatComesWhileAHandlerRunsIsRefused) {
+TEST_F(TurnTest, WhatComesWhileAHandlerRunsWaitsAndWhatNoPersonDoesIsRefused) {
     Small form(environment);
-    int presses = 0;
+    std::atomic<int> presses = 0;
+    std::atomic<bool> works = true;
+    std::atomic<int> rounds = 0;
     form.on_press = [&] {
         ++presses;
         // A host that serves messages while it works.
-        for (int i = 0; i < 40; ++i) {
+        while (works) {
             MSG message{};
             while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
                 TranslateMessage(&message);
                 DispatchMessageW(&message);
             }
-            Sleep(10);
+            ++rounds;
+            Sleep(1);
         }
+    };
+    const auto takes_what_came = [&] {
+        const int before = rounds;
+        EXPECT_TRUE(Hands::eventually([&] { return rounds > before + 100; }));
     };
     show(form, [&](Hands& hands) {
         const HWND window = hands.form("Small");
@@ -31,21 +41,27 @@ TEST_F(TurnTest, WhatComesWhileAHandlerRunsIsRefused) {
         const HWND text = hands.control("Small", "Text");
         PostMessageW(press, BM_CLICK, 0, 0);
         EXPECT_TRUE(Hands::eventually([&] { return presses == 1; }));
-        PostMessageW(press, BM_CLICK, 0, 0);
         SendMessageW(text, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"sneaked in"));
-        PostMessageW(text, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
-        PostMessageW(text, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
-        PostMessageW(window, WM_CLOSE, 0, 0);
-        Sleep(500);
+        click(text, {3, 3});
+        Hands::strike({'A'});
+        Hands::strike({VK_SHIFT, 'B'});
+        takes_what_came();
+        EXPECT_EQ(Hands::text(text), L"");
+        EXPECT_EQ(hands.focus(), press);
+        works = false;
         hands.wait_until_idle();
         EXPECT_EQ(presses, 1);
-        EXPECT_EQ(Hands::text(text), L"");
-        hands.run([&] {
-            EXPECT_TRUE(form.loaded());
-            EXPECT_EQ(form.Text.text(), "");
-            EXPECT_EQ(form.focused(), &form.Press);
-        });
-        EXPECT_EQ(hands.focus(), press);
+        EXPECT_EQ(hands.focus(), text);
+        hands.run([&] { EXPECT_EQ(form.Text.text(), "aB"); });
+
+        works = true;
+        PostMessageW(press, BM_CLICK, 0, 0);
+        EXPECT_TRUE(Hands::eventually([&] { return presses == 2; }));
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        takes_what_came();
+        hands.run([&] { EXPECT_TRUE(form.loaded()); });
+        works = false;
+        EXPECT_TRUE(Hands::eventually([&] { return !IsWindow(window); }));
     });
 }
 

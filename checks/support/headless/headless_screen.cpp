@@ -138,11 +138,7 @@ bool HeadlessScreen::answer(std::int32_t button) {
 }
 
 void HeadlessScreen::pass_ticks(int times) {
-    for (int i = 0; i < times; ++i)
-        deed([this] {
-            user_.tick();
-            return true;
-        });
+    for (int i = 0; i < times; ++i) baton_.hand_over([this] { user_.tick(); });
 }
 
 std::string HeadlessScreen::help() {

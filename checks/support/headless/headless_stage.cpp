@@ -68,6 +68,15 @@ void HeadlessStage::start(std::function<void()> job) {
     });
 }
 
+void HeadlessStage::pump() {
+    pumps_ = true;
+    baton_.serve([&] { return !pumps_; });
+}
+
+void HeadlessStage::end_pump() {
+    baton_.hand_over([&] { pumps_ = false; });
+}
+
 std::unique_ptr<PublicClass> HeadlessStage::create(const std::string& name) {
     if (name == "ConfigurationSetup") return std::make_unique<Portable<ConfigurationSetup>>(environment_);
     if (name == "LeafSelect") return std::make_unique<Portable<LeafSelect>>(environment_);

@@ -50,10 +50,11 @@ private:
     }
 
     /// Does something on the forms' thread. A deed that has opened a window has not ended yet, and was
-    /// possible.
+    /// possible; so is one that has to wait until code has run.
     bool deed(std::function<bool()> work) {
+        if (std::this_thread::get_id() == forms_thread_) return engine_.person_does(std::move(work));
         const auto possible = std::make_shared<bool>(true);
-        baton_.hand_over([possible, work = std::move(work)] { *possible = work(); });
+        baton_.hand_over([this, possible, work = std::move(work)] { *possible = engine_.person_does(work); });
         return *possible;
     }
 
@@ -77,6 +78,10 @@ public:
     std::string leaks() override;
     std::string differences() override { return {}; }
 
+    /// On the forms' thread: takes input until `end_pump`, as foreign code does that waits for messages.
+    void pump();
+    void end_pump();
+
     HeadlessEngine& engine() { return engine_; }
     Environment& environment() { return environment_; }
 
@@ -87,6 +92,7 @@ private:
     HeadlessScreen screen_{baton_, engine_};
     std::atomic<int> jobs_running_ = 0;
     std::atomic<bool> over_ = false;
+    bool pumps_ = false;
     std::thread thread_;
 };
 

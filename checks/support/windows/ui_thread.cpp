@@ -237,6 +237,20 @@ void UiThread::give_up(const char* why) {
                              std::to_string(patience) + " ms.");
 }
 
+void UiThread::pump() {
+    pumps_ = true;
+    MSG message{};
+    while (pumps_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+void UiThread::end_pump() {
+    call([this] { pumps_ = false; });
+    settle();
+}
+
 void UiThread::tick() {
     call([this] { clock_.begin_tick(); });
     const auto end = std::chrono::steady_clock::now() + longest_tick;

@@ -45,6 +45,10 @@ public:
     /// waits for input. On the thread itself: handles what is queued now.
     void settle();
 
+    /// On the thread itself: serves messages until `end_pump`, as foreign code does that waits for them.
+    void pump();
+    void end_pump();
+
     /// Lets the dialogs' timers tick once.
     void tick();
 
@@ -80,6 +84,7 @@ private:
     std::map<WPARAM, std::shared_ptr<Errand>> jobs_;
     std::exception_ptr job_failure_;
     std::atomic<int> jobs_running_ = 0;
+    bool pumps_ = false;
 
     DialogClock clock_;
     DWORD id_ = 0;

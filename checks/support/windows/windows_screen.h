@@ -14,8 +14,8 @@ namespace brx::checks {
 /// The windows of a user-interface thread, and a person before them, whose input reaches them as messages in
 /// the thread's queue.
 ///
-/// Deeds on that thread itself, as from a host's object while a handler runs, come to nothing and return
-/// false: the input is handled at once, while it is the code's turn.
+/// Input from that thread itself, as from a host's object while a handler runs, waits until the handler has
+/// returned.
 class WindowsScreen : public Screen {
 public:
     /// After every deed `compare` is asked, on the thread, what is wrong with the form on top; "" for
@@ -60,8 +60,7 @@ private:
     template <class Deed> bool done(Deed&& deed) {
         if (!asked(deed)) return false;
         ui_.settle();
-        if (ui_.is_this()) return false;
-        note_differences();
+        if (!ui_.is_this()) note_differences();
         return true;
     }
     bool stroke(const Stroke& stroke);

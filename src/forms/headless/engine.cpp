@@ -8,11 +8,29 @@
 namespace brx {
 
 void HeadlessEngine::show_modal(Form& form) {
+    miss_held();
     HeadlessWindow window(form);
     ++opened_;
     windows_.push_back(&window);
-    baton_.serve([&] { return !form.loaded(); });
+    baton_.serve([&] {
+        while (form.loaded()) {
+            const HeldDeeds::Deed deed = window.held().next();
+            if (!deed) return false;
+            deed();
+        }
+        return true;
+    });
     windows_.pop_back();
+}
+
+void HeadlessEngine::miss_held() {
+    if (!windows_.empty()) windows_.back()->held().miss();
+}
+
+bool HeadlessEngine::person_does(std::function<bool()> deed) {
+    if (!front() || !turn::is_code_running()) return deed();
+    front()->held().hold([deed = std::move(deed)] { deed(); });
+    return true;
 }
 
 /// The peers are up to date already, and there is nothing to draw.
@@ -21,6 +39,7 @@ void HeadlessEngine::repaint(Form&) {}
 void HeadlessEngine::hourglass(Form&, bool on) { hourglasses_ += on ? 1 : -1; }
 
 std::int32_t HeadlessEngine::message_box(const Message& message) {
+    miss_held();
     const auto outer_message = std::exchange(message_, message);
     answer_ = 0;
     ++opened_;

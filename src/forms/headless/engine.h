@@ -4,6 +4,7 @@
 #include "forms/headless/baton.h"
 #include "forms/headless/screen_state.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,6 +24,8 @@ public:
     std::int32_t message_box(const Message& message) override;
     HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
 
+    /// Does what a person does, later when code runs; false when it was not possible.
+    bool person_does(std::function<bool()> deed);
     /// The window that takes input; null when there is none or a message box lies over it.
     HeadlessWindow* front() const;
     const std::vector<HeadlessWindow*>& windows() const { return windows_; }
@@ -34,6 +37,8 @@ public:
     const std::string& help_shown() const { return help_shown_; }
 
 private:
+    void miss_held();
+
     Baton& baton_;
     std::vector<HeadlessWindow*> windows_;
     std::optional<Message> message_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/held_deeds.h"
 #include "forms/peer.h"
 
 #include <memory>
@@ -36,10 +37,13 @@ public:
     /// The peer of a control, or null when the form has none of this name.
     const HeadlessPeer* find(const std::string& name) const;
 
+    HeldDeeds& held() { return held_; }
+
     void refresh(Aspect aspects) override;
 
 private:
     Form& form_;
+    HeldDeeds held_;
     std::string caption_;
     Control* focused_ = nullptr;
     std::vector<std::unique_ptr<HeadlessPeer>> peers_;

@@ -83,6 +83,12 @@ void ComboBoxPeer::font_changed() {
 void ComboBoxPeer::report_selection() {
     const auto index = static_cast<int>(send(CB_GETCURSEL));
     if (window().is_showing() || index == list_.selected() || index < 0) return;
+    // Its list, which is a window of its own, was open already.
+    if (window().has_to_wait()) return window().hold([this, index] { select(index); });
+    select(index);
+}
+
+void ComboBoxPeer::select(int index) {
     if (!window().deliver([&] { return list_.user_select(index); })) refresh(Aspect::selection);
 }
 

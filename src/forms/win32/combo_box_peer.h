@@ -21,6 +21,7 @@ private:
     void show_lines();
     void fit_drop_down();
     void report_selection();
+    void select(int index);
 
     ComboBox& list_;
 };

@@ -88,7 +88,10 @@ LRESULT CALLBACK ControlPeer::procedure(HWND handle, UINT message, WPARAM wparam
     if (!self.handle_ || self.closing_)
         return CallWindowProcW(self.native_procedure_, handle, message, wparam, lparam);
     LRESULT result = 0;
-    attempt([&] { result = self.handle_message(message, wparam, lparam); });
+    attempt([&] {
+        if (!self.window_.holds(handle, message, wparam, lparam))
+            result = self.handle_message(message, wparam, lparam);
+    });
     if (message == WM_SETFOCUS) self.window_.focus_came_to(self);
     return result;
 }

@@ -58,8 +58,17 @@ void DatePickerPeer::show(Aspect aspects) {
 LRESULT DatePickerPeer::notified_of(NMHDR& notification) {
     if (notification.code != DTN_DATETIMECHANGE || window().is_showing()) return 0;
     const auto entered = from_system_time(reinterpret_cast<const NMDATETIMECHANGE&>(notification).st);
-    if (!entered || !window().deliver([&] { return picker_.user_set(*entered); })) refresh(Aspect::value);
+    if (!entered)
+        refresh(Aspect::value);
+    else if (window().has_to_wait()) // its calendar and its arrows are windows of their own
+        window().hold([this, date = *entered] { set(date); });
+    else
+        set(*entered);
     return 0;
+}
+
+void DatePickerPeer::set(Date date) {
+    if (!window().deliver([&] { return picker_.user_set(date); })) refresh(Aspect::value);
 }
 
 /// A picker takes over the digits of a field when a person goes on to the next one.

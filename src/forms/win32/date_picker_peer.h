@@ -18,6 +18,8 @@ protected:
     void show(Aspect aspects) override;
 
 private:
+    void set(Date date);
+
     DatePicker& picker_;
 };
 

@@ -17,6 +17,7 @@ namespace {
 /// Serves the window until its form is no longer loaded. Gives the exit code when the thread is asked to end.
 std::optional<WPARAM> serve(FormWindow& window) {
     while (window.form().loaded()) {
+        if (window.do_held()) continue;
         MSG message{};
         if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             // Looking for messages has dealt with sent ones, which can unload the form and are never seen
@@ -26,9 +27,8 @@ std::optional<WPARAM> serve(FormWindow& window) {
         } else if (message.message == WM_QUIT) {
             window.form().unload();
             return message.wParam;
-        } else if (!window.takes(message)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
+        } else {
+            window.deal_with(message);
         }
     }
     return std::nullopt;
@@ -56,6 +56,7 @@ void Win32Engine::show_modal(Form& form) {
     {
         const HWND owner = window_in_front();
         DisabledThreadWindows others;
+        if (over_own_form) open_forms_.back()->miss_held();
         FormWindow window(*this, form, owner);
         open_forms_.push_back(&window);
         window.open();
@@ -100,6 +101,7 @@ void Win32Engine::hourglass(Form& form, bool on) {
 }
 
 std::int32_t Win32Engine::message_box(const Message& message) {
+    if (!open_forms_.empty()) open_forms_.back()->miss_held();
     const HWND owner = window_in_front();
     const HWND focus_before = GetFocus();
     const auto style = static_cast<UINT>(message.style) | (owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND);

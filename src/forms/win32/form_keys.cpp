@@ -24,6 +24,7 @@ bool is_held(int key) { return (GetKeyState(key) & 0x8000) != 0; }
 } // namespace
 
 bool FormWindow::takes(MSG& message) {
+    if (is_key(message)) holds_key_ = false;
     const bool outer = std::exchange(by_key_, is_key(message));
     const bool taken = takes_key(message) || IsDialogMessageW(handle_, &message);
     by_key_ = outer;

@@ -17,7 +17,12 @@ INT_PTR CALLBACK FormWindow::procedure(HWND handle, UINT message, WPARAM wparam,
     }
     auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, DWLP_USER));
     INT_PTR handled = FALSE;
-    if (self) attempt([&] { handled = self->handle_message(handle, message, wparam, lparam); });
+    if (self)
+        attempt([&] {
+            handled = self->holds(handle, message, wparam, lparam)
+                          ? TRUE
+                          : self->handle_message(handle, message, wparam, lparam);
+        });
     return handled;
 }
 

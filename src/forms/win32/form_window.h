@@ -2,12 +2,14 @@
 
 #include "common/trap.h"
 #include "forms/form.h"
+#include "forms/held_deeds.h"
 #include "forms/win32/control_peer.h"
 #include "forms/win32/palette.h"
 #include "forms/win32/visual_styles.h"
 
 #include <windows.h>
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,11 +32,20 @@ public:
     /// Puts it on the screen, with the focus where the form has it.
     void open();
     void refresh(Aspect aspects) override;
-    /// Deals with a message of its controls, here or in the dialog manager; false when it is neither's.
-    bool takes(MSG& message);
+    /// Deals with a message from the queue.
+    void deal_with(MSG message);
+    /// Does the next of what a person did while code ran; false when there is nothing.
+    bool do_held();
+    /// Something comes before it: the rest of what was being done is not meant for that.
+    void miss_held() { held_.miss(); }
 
     // For the peers of its controls.
 
+    /// Whether what a person does now has to wait, since code runs.
+    bool has_to_wait() const;
+    void hold(HeldDeeds::Deed deed) { held_.hold(std::move(deed)); }
+    /// The same for a message to a window of the form; false when it need not wait.
+    bool holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam);
     HFONT font() const { return font_.get(); }
     unsigned dpi() const { return dpi_; }
     Palette& palette() { return palette_; }
@@ -100,6 +111,10 @@ private:
     static INT_PTR CALLBACK procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
     INT_PTR handle_message(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     bool command(WPARAM wparam, HWND sender);
+    /// Deals with a message of its controls, here or in the dialog manager; false when it is neither's.
+    bool takes(MSG& message);
+    void press_again(MSG key, const std::array<BYTE, 256>& states);
+    void click_again(MSG click);
     bool takes_key(const MSG& message);
     bool turn_tabs();
     bool take_accelerator(WPARAM character);
@@ -120,7 +135,9 @@ private:
     LONG line_height_ = 0;
     UINT_PTR next_id_ = 100; // clear of the numbers that Enter and Escape send
     int showing_ = 0;
-    bool by_key_ = false; ///< a key is dealt with: where the focus comes, it comes from the keyboard
+    HeldDeeds held_;
+    bool holds_key_ = false; ///< the key that was pressed last waits, and its characters with it
+    bool by_key_ = false;    ///< a key is dealt with: where the focus comes, it comes from the keyboard
 };
 
 } // namespace brx

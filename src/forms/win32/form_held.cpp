@@ -1,0 +1,128 @@
+// Keys and the mouse while code of the thread runs: foreign code that pumps messages hands them to the
+// windows, where they wait until the handler has returned.
+
+#include "forms/turn.h"
+#include "forms/win32/form_window.h"
+
+#include <array>
+#include <optional>
+
+namespace brx {
+
+namespace {
+
+constexpr UINT f1_message = 0x004D; // WM_KEYF1, which has no name in the headers
+
+enum class Input { none, key, character, mouse, closing };
+
+Input kind_of(UINT message, WPARAM wparam) {
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case f1_message:
+        return Input::key;
+    case WM_CHAR:
+    case WM_DEADCHAR:
+    case WM_SYSCHAR:
+    case WM_SYSDEADCHAR:
+        return Input::character;
+    case WM_CLOSE:
+        return Input::closing;
+    case WM_SYSCOMMAND:
+        return (wparam & 0xFFF0U) == SC_CLOSE ? Input::closing : Input::none;
+    default:
+        return message > WM_MOUSEMOVE && message <= WM_MOUSELAST ? Input::mouse : Input::none;
+    }
+}
+
+bool is_pressed_key(UINT message) { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }
+
+using KeyStates = std::array<BYTE, 256>;
+
+KeyStates key_states() {
+    KeyStates states{};
+    GetKeyboardState(states.data());
+    return states;
+}
+
+/// For its lifetime the keys are held down that were so at another time.
+class KeysAsThen {
+public:
+    explicit KeysAsThen(KeyStates then) { SetKeyboardState(then.data()); }
+    ~KeysAsThen() { SetKeyboardState(now_.data()); }
+    KeysAsThen(const KeysAsThen&) = delete;
+    KeysAsThen& operator=(const KeysAsThen&) = delete;
+
+private:
+    KeyStates now_ = key_states();
+};
+
+/// Of the key that was dealt with last.
+bool take_character(MSG& message) {
+    return PeekMessageW(&message, nullptr, WM_CHAR, WM_DEADCHAR, PM_REMOVE) ||
+           PeekMessageW(&message, nullptr, WM_SYSCHAR, WM_SYSDEADCHAR, PM_REMOVE);
+}
+
+} // namespace
+
+bool FormWindow::has_to_wait() const {
+    return turn::is_code_running() && turn::front() == &form_ && !is_showing();
+}
+
+bool FormWindow::holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam) {
+    const Input input = kind_of(message, wparam);
+    if (input == Input::none || !has_to_wait()) return false;
+    const MSG held{
+        .hwnd = target, .message = message, .wParam = wparam, .lParam = lparam, .time = 0, .pt = {}};
+    switch (input) {
+    case Input::key:
+        if (is_pressed_key(message)) holds_key_ = true;
+        held_.hold([this, held, states = key_states()] { press_again(held, states); });
+        break;
+    case Input::character:
+        // A key that is held gives its characters when its time has come. One whose turn it is has its own.
+        if (!holds_key_) held_.hold_next([this, held] { press_again(held, key_states()); });
+        break;
+    case Input::mouse:
+        held_.hold([this, held] { click_again(held); });
+        break;
+    case Input::closing:
+    case Input::none:
+        held_.hold([this, held] { deal_with(held); });
+        break;
+    }
+    return true;
+}
+
+bool FormWindow::do_held() {
+    const HeldDeeds::Deed deed = held_.next();
+    if (!deed) return false;
+    attempt(deed);
+    return true;
+}
+
+void FormWindow::deal_with(MSG message) {
+    if (takes(message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+/// In the control that has the focus by now.
+void FormWindow::press_again(MSG key, const std::array<BYTE, 256>& states) {
+    const KeysAsThen keys(states);
+    const auto press = [&](MSG message) {
+        const HWND focused = GetFocus();
+        message.hwnd = focused && IsChild(handle_, focused) ? focused : handle_;
+        if (message.hwnd) deal_with(message);
+    };
+    press(key);
+    while (form_.loaded() && take_character(key)) press(key);
+}
+
+void FormWindow::click_again(MSG click) {
+    if (IsWindowVisible(click.hwnd) && IsWindowEnabled(click.hwnd)) deal_with(click);
+}
+
+} // namespace brx
