@@ -7,7 +7,7 @@ using namespace brx;
 using namespace brx::checks;
 
 TEST(Designs, OfItemBrowserKeepNamesPlacesTabsAndCaptions) {
-    EXPECT_EQ(design_of<dlgItemSelect>(), R"(dlgItemSelect 'Select Item' 560x425 resizable
+    EXPECT_EQ(design_of<dlgItemSelect>(), R"(dlgItemSelect 'Select Item' 560x443 resizable
 Label1: label 11,15 92x15 tab 1 'Server Name:'
 txtServer: text box 107,11 442x23 tab 2 wide display only
 Label2: label 11,45 265x15 tab 3 '&A. Groups:'
@@ -15,10 +15,11 @@ TrView: tree view 11,63 265x265 tab 4 high half-wide
 picTrView: panel 11,63 265x265 tab 0 high half-wide edge
 Label3: label 283,45 266x15 tab 5 middle '&B. Items:'
 lstItem: list box 283,63 266x265 tab 6 high middle half-wide
-Label4: label 11,339 538x15 tab 7 bottom wide '&C. Item (Examples: somegroup.someitem or [mytopic]myitem)'
-txtFullPath: text box 11,357 538x23 tab 8 bottom wide
-cmdRefresh: button 11,391 75x23 tab 9 bottom '&Refresh'
-bnOK: button 392,391 75x23 tab 10 right bottom 'OK' default
-bnCancel: button 474,391 75x23 tab 11 right bottom '&Cancel' cancel
+lblNotice: label 11,332 538x15 tab 0 bottom wide '' as data
+Label4: label 11,357 538x15 tab 7 bottom wide '&C. Item (Examples: somegroup.someitem or [mytopic]myitem)'
+txtFullPath: text box 11,375 538x23 tab 8 bottom wide
+cmdRefresh: button 11,409 75x23 tab 9 bottom '&Refresh'
+bnOK: button 392,409 75x23 tab 10 right bottom 'OK' default
+bnCancel: button 474,409 75x23 tab 11 right bottom '&Cancel' cancel
 )");
 }

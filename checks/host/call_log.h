@@ -2,6 +2,8 @@
 
 #include "common/error.h"
 
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,11 @@ public:
     /// Notes the call; throws when it is the one to fail.
     void note(const std::string& member) {
         made_.push_back({member, current_location_text()});
+        if (const auto found = during_.find(member); found != during_.end()) {
+            const std::function<void()> deed = std::move(found->second);
+            during_.erase(found);
+            deed();
+        }
         const bool is_to_fail = member == failing_member_ && ++asked_of_it_ > spared_;
         made_.back().failed = static_cast<int>(made_.size()) == fail_at_ || is_to_fail;
         if (made_.back().failed)
@@ -43,6 +50,9 @@ public:
         spared_ = spared;
         asked_of_it_ = 0;
     }
+
+    /// Runs the next time that this member is called, in the call.
+    void during(const std::string& member, std::function<void()> deed) { during_[member] = std::move(deed); }
 
     const std::vector<HostCall>& made() const { return made_; }
     std::vector<std::string> members() const {
@@ -61,6 +71,7 @@ private:
 
     std::vector<HostCall> made_;
     int fail_at_ = 0;
+    std::map<std::string, std::function<void()>> during_;
     std::string failing_member_;
     int spared_ = 0;
     int asked_of_it_ = 0;

@@ -13,7 +13,7 @@ constexpr std::int32_t unspecified = -2147467259; // 0x80004005
 void FakeBrowser::is_asked(const std::string& member, const std::string& arguments) {
     before(member);
     note(member + arguments);
-    if (failing.contains(member)) throw Error(unspecified, member + " is out of order", "OPCBrowser");
+    if (failing.contains(member)) throw Error(failure, member + " is out of order", "OPCBrowser");
 }
 
 std::int32_t FakeBrowser::Organization() {

@@ -37,6 +37,7 @@ public:
     std::int32_t lower_bound = -1;
     /// These members fail, whoever calls them.
     std::set<std::string> failing;
+    std::int32_t failure = -2147467259; ///< how they fail: 0x80004005
     /// Runs before each call, with the member's name.
     std::function<void(const std::string& member)> before = [](const std::string&) {};
 

@@ -42,6 +42,13 @@ enum class Key {
     previous_tab
 };
 
+/// What a person is told of work that lasts.
+struct Waiting {
+    std::string what;
+    std::string how_far; ///< "12 s", "12 s - 5 of 20"
+    bool operator==(const Waiting&) const = default;
+};
+
 /// A screen with dialogs on it, and the hands of a person before it. Deeds return when everything that they
 /// led to is done and the program waits for input again; false when a person could not do it (no such
 /// control, disabled, hidden, another window in front). Names are those of forms and controls.
@@ -76,6 +83,10 @@ public:
     virtual bool accelerator(char letter) = 0;
     virtual bool close_box() = 0;
     virtual bool answer(std::int32_t button) = 0; ///< the message box, by one of its buttons
+
+    /// The small window that tells of work that lasts; none while there is no such work.
+    virtual std::optional<Waiting> waiting() = 0;
+    virtual bool stop() = 0; ///< presses its Stop
 
     /// The help that was opened last, as "file at topic", "" for none.
     virtual std::string help() = 0;

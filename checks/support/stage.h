@@ -3,6 +3,7 @@
 #include "common/model/object.h"
 #include "screen.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -42,6 +43,9 @@ public:
 
     /// On the user-interface thread only: a new instance of `brxOpcDlgs6.<name>`.
     virtual std::unique_ptr<PublicClass> create(const std::string& name) = 0;
+
+    /// On the user-interface thread only: so much time passes there, as in a call to a slow server.
+    virtual void pass(std::chrono::milliseconds time) = 0;
 
     /// What the run can tell of things that leaked, "" for nothing. Asked when nothing is open any more.
     virtual std::string leaks() = 0;

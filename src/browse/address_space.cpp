@@ -25,15 +25,29 @@ StringArray branches_of(const std::string& key) {
     return branches;
 }
 
+/// The server or what it runs on has gone, by the codes that the system has for that.
+bool tells_of_a_lost_server(std::int32_t number) {
+    const auto code = static_cast<std::uint32_t>(number);
+    constexpr std::uint32_t calls = 0x80010000;          // RPC_E_...
+    constexpr std::uint32_t first_remote = 0x800706A4;   // RPC_S_INVALID_STRING_BINDING
+    constexpr std::uint32_t last_remote = 0x80070721;    // RPC_S_SEC_PKG_ERROR
+    constexpr std::uint32_t not_connected = 0x800401FD;  // CO_E_OBJNOTCONNECTED
+    constexpr std::uint32_t does_not_start = 0x80080005; // CO_E_SERVER_EXEC_FAILURE
+    return (code & 0xFFFF0000U) == calls || (code >= first_remote && code <= last_remote) ||
+           code == not_connected || code == does_not_start;
+}
+
 } // namespace
 
 void dlgItemSelect::ConnectServer() {
     trap("ConnectServer", [&] {
         const BusyCursor busy(*this);
+        work().waits_for("Reading the groups of " + server_title_);
+        note("", "");
         TrView.clear();
         lstItem.clear();
         set_path("");
-        if (!browser_) attempt([&] { browser_ = the(server_).CreateBrowser(); });
+        if (!browser_) ignoring([&] { browser_ = the(server_).CreateBrowser(); });
         if (!browser_) return show_nothing_to_browse();
         browser_->MoveToRoot();
         browser_->ShowBranches();
@@ -72,7 +86,10 @@ void dlgItemSelect::BuildGroupList() {
         browser_->ShowBranches();
         const std::int32_t count = browser_->Count();
         if (count < 1) return GetAllLeaves();
+        work().counts_to(count);
         for (std::int32_t i = 1; i <= count; ++i) {
+            if (work().is_stopped()) return note(stopped_after(i - 1, count, "groups", "Refresh"), "");
+            work().has_done(i - 1);
             const std::string name = browser_->Item(i);
             TreeNode& node = TrView.add(name, name);
             node.set_tag(name);
@@ -96,13 +113,15 @@ void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
     trap("BuildNodes", [&] {
         lstItem.clear();
         set_path("");
+        note(groups_notice_, "");
         const StringArray branches = branches_of(ParentKey);
         if (!browser_) return;
+        work().waits_for("Reading branch " + ParentKey + " of " + server_title_);
         if (browser_->Organization() == flat_organization) return GetAllLeaves();
         browser_->MoveToRoot();
         // After a failed move the branches of wherever the browser stands are read.
-        attempt([&] { browser_->MoveTo(branches); });
-        attempt([&] { browser_->ShowBranches(); });
+        ignoring([&] { browser_->MoveTo(branches); });
+        ignoring([&] { browser_->ShowBranches(); });
         const std::int32_t count = browser_->Count();
         if (count < 1) {
             TreeNode* child = TrView.node(ParentIndex).child();
@@ -112,7 +131,10 @@ void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
             return;
         }
         TreeNode& parent = TrView.node(ParentKey);
+        work().counts_to(count);
         for (std::int32_t i = 1; i <= count; ++i) {
+            if (work().is_stopped()) return note(stopped_after(i - 1, count, "groups", "Refresh"), "");
+            work().has_done(i - 1);
             const std::string name = browser_->Item(i);
             const std::string key = parent.tag() + "." + name;
             TreeNode& node = TrView.add_child(parent, key, name);
@@ -135,14 +157,17 @@ void dlgItemSelect::TrView_Click() {
 
 void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
     trap("BuildLeaves", [&] {
+        if (work().is_stopped()) return; // what the same click has read so far stays
         lstItem.clear();
         set_path("");
+        note(groups_notice_, "");
         const StringArray branches = branches_of(Key);
         if (!browser_) return;
+        work().waits_for("Reading branch " + Key + " of " + server_title_);
         browser_->MoveToRoot();
-        attempt([&] { browser_->MoveTo(branches); });
-        attempt([&] { browser_->ShowLeafs(false); });
-        list_items(browser_->Count());
+        ignoring([&] { browser_->MoveTo(branches); });
+        ignoring([&] { browser_->ShowLeafs(false); });
+        list_items(browser_->Count(), "a click on the group");
     });
 }
 
@@ -150,20 +175,47 @@ void dlgItemSelect::GetAllLeaves() {
     trap("GetAllLeaves", [&] {
         lstItem.clear();
         if (!browser_) return;
+        work().waits_for("Reading all items of " + server_title_);
         browser_->MoveToRoot();
         browser_->ShowLeafs(true);
         const std::int32_t count = browser_->Count();
         if (count > 0) TrView.set_visible(false);
-        list_items(count);
+        list_items(count, "Refresh");
     });
 }
 
-void dlgItemSelect::list_items(std::int32_t count) {
+void dlgItemSelect::list_items(std::int32_t count, const char* again) {
+    work().counts_to(count);
     std::string name;
     for (std::int32_t i = 1; i <= count; ++i) {
+        if (work().is_stopped()) return note(groups_notice_, stopped_after(i - 1, count, "items", again));
+        work().has_done(i - 1);
         browser_->read_item(i, name);
         hlxListTools::add(lstItem, name);
     }
+}
+
+void dlgItemSelect::ignoring(const std::function<void()>& step) {
+    attempt([&] {
+        try {
+            step();
+        } catch (const Error& error) {
+            if (tells_of_a_lost_server(error.number()))
+                note(groups_notice_, "The server does not answer: " + error.description());
+        }
+    });
+}
+
+void dlgItemSelect::note(const std::string& of_groups, const std::string& of_items) {
+    groups_notice_ = of_groups;
+    const char* const between = of_groups.empty() || of_items.empty() ? "" : "  ";
+    lblNotice.set_caption(of_groups + between + of_items);
+}
+
+std::string dlgItemSelect::stopped_after(int read, int of_all, const char* what, const char* again) const {
+    const Locale& locale = environment().locale;
+    return "Reading was stopped at " + grouped(read, locale) + " of " + grouped(of_all, locale) + " " + what +
+           ". To read them all: " + again + ".";
 }
 
 } // namespace brx

@@ -9,7 +9,7 @@ namespace brx {
 
 dlgItemSelect::dlgItemSelect(Environment& environment)
     : Form(environment,
-           {.name = "dlgItemSelect", .caption = "Select Item", .size = {560, 425}, .resizable = true}) {}
+           {.name = "dlgItemSelect", .caption = "Select Item", .size = {560, 443}, .resizable = true}) {}
 
 void dlgItemSelect::Form_Load() {
     trap("Form_Load", [&] {
@@ -19,7 +19,9 @@ void dlgItemSelect::Form_Load() {
         const BusyCursor busy(*this);
         bnOK.set_enabled(false);
         const std::string node = the(server_).ServerNode();
-        txtServer.set_text(node + " " + server_->ServerName());
+        const std::string name = server_->ServerName();
+        txtServer.set_text(node + " " + name);
+        server_title_ = name + (node.empty() ? "" : " on " + node);
         ConnectServer();
         TrView.set_label_edit(LabelEdit::manual);
         TrView.set_line_style(LineStyle::root_lines);
@@ -42,12 +44,15 @@ void dlgItemSelect::cmdRefresh_Click() {
 bool dlgItemSelect::SearchForPath(bool SelectFlag) {
     bool found = false;
     trap("SearchForPath", [&] {
-        if (!browser_) return;
+        if (!browser_ || work().is_stopped()) return;
         const BusyCursor busy(*this);
+        work().waits_for("Looking for " + leaf_ + " in " + server_title_);
         browser_->MoveToRoot();
         browser_->ShowLeafs(true);
         const std::int32_t count = browser_->Count();
-        for (std::int32_t i = 1; i <= count; ++i) {
+        work().counts_to(count);
+        for (std::int32_t i = 1; i <= count && !work().is_stopped(); ++i) {
+            work().has_done(i - 1);
             if (SelectFlag) return set_path(leaf_);
             if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
             found = true;
@@ -69,7 +74,7 @@ void dlgItemSelect::lstItem_Click() {
         selected_leaf_ = lstItem.text();
         if (selected_leaf_.empty()) return;
         // The browser still stands at the branch that was listed.
-        attempt([&] { leaf_ = browser_->GetItemID(selected_leaf_); });
+        ignoring([&] { leaf_ = browser_->GetItemID(selected_leaf_); });
         set_path(leaf_);
     });
 }

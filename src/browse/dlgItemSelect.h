@@ -9,6 +9,7 @@
 #include "forms/tree_view.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace brx {
@@ -55,19 +56,21 @@ private:
                                                 .anchor = Anchor::middle | tree_anchor,
                                                 .Click = [this] { lstItem_Click(); },
                                                 .DblClick = [this] { lstItem_DblClick(); }}};
-    Label    Label4     {*this, "Label4",      {.place = {11, 339, 538, 15},
+    Label    lblNotice  {*this, "lblNotice",   {.place = {11, 332, 538, 15}, .mnemonic = false,
+                                                .anchor = Anchor::bottom | Anchor::stretch_width}};
+    Label    Label4     {*this, "Label4",      {.place = {11, 357, 538, 15},
                                                 .caption = "&C. Item (Examples: somegroup.someitem or [mytopic]myitem)",
                                                 .tab = 7, .anchor = Anchor::bottom | Anchor::stretch_width}};
-    TextBox  txtFullPath{*this, "txtFullPath", {.place = {11, 357, 538, 23}, .tab = 8,
+    TextBox  txtFullPath{*this, "txtFullPath", {.place = {11, 375, 538, 23}, .tab = 8,
                                                 .anchor = Anchor::bottom | Anchor::stretch_width,
                                                 .Change = [this] { txtFullPath_Change(); },
                                                 .KeyPress = [this](auto&) { txtFullPath_KeyPress(); }}};
-    Button   cmdRefresh {*this, "cmdRefresh",  {.place = {11, 391, 75, 23}, .caption = "&Refresh", .tab = 9,
+    Button   cmdRefresh {*this, "cmdRefresh",  {.place = {11, 409, 75, 23}, .caption = "&Refresh", .tab = 9,
                                                 .anchor = Anchor::bottom, .Click = [this] { cmdRefresh_Click(); }}};
-    Button   bnOK       {*this, "bnOK",        {.place = {392, 391, 75, 23}, .caption = "OK", .tab = 10,
+    Button   bnOK       {*this, "bnOK",        {.place = {392, 409, 75, 23}, .caption = "OK", .tab = 10,
                                                 .is_default = true, .anchor = last_row,
                                                 .Click = [this] { bnOK_Click(); }}};
-    Button   bnCancel   {*this, "bnCancel",    {.place = {474, 391, 75, 23}, .caption = "&Cancel", .tab = 11,
+    Button   bnCancel   {*this, "bnCancel",    {.place = {474, 409, 75, 23}, .caption = "&Cancel", .tab = 11,
                                                 .is_cancel = true, .anchor = last_row,
                                                 .Click = [this] { bnCancel_Click(); }}};
     // clang-format on
@@ -95,12 +98,19 @@ private:
 
     void show_nothing_to_browse();
     void show_browsing();
-    void list_items(std::int32_t count);
+    /// `again`: how they are read again when that is stopped.
+    void list_items(std::int32_t count, const char* again);
+    /// A step whose error is ignored, but for telling that the server does not answer.
+    void ignoring(const std::function<void()>& step);
+    void note(const std::string& of_groups, const std::string& of_items);
+    std::string stopped_after(int read, int of_all, const char* what, const char* again) const;
     void set_path(const std::string& text);
 
     OPCServerPtr server_;
     OPCGroupPtr group_;
     OPCBrowserPtr browser_;
+    std::string server_title_;
+    std::string groups_notice_; ///< until they are read again
     std::string selected_leaf_;
     std::string leaf_;
     bool ok_clicked_ = false;

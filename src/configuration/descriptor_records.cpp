@@ -52,7 +52,7 @@ void dlgDescriptorProperties::SelectDescriptor() {
 void dlgDescriptorProperties::pick(const char* selection, std::int32_t id, std::int32_t group_id,
                                    GroupName name_of_group) {
     const auto dialog = create<hlxSelection>(environment().objects, selection);
-    if (!dialog->Show(database_, id, group_id)) return;
+    if (!answered([&] { return dialog->Show(database_, id, group_id); })) return;
     const auto record = resolve<hlxRecord>(dialog->Record());
     const std::string name = record->Name();
     const std::optional<std::string> group = (this->*name_of_group)(record->GroupID());

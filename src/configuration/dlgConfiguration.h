@@ -11,6 +11,7 @@
 #include "forms/label.h"
 #include "forms/list_control.h"
 #include "forms/list_view.h"
+#include "forms/parted_tick.h"
 #include "forms/tab_strip.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
@@ -207,6 +208,7 @@ private:
     ListedObjects descriptors_{lvwDescriptors, bnEditDesc, bnRemoveDesc};
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
+    PartedTick tick_;
     std::array<std::optional<Variant>, 12> server_values_; ///< as the status shows them
     std::vector<std::optional<std::string>> groups_; ///< names of the server's, as the status shows them
     std::optional<dlgDescriptorType> type_dialog_;

@@ -8,28 +8,30 @@ void dlgConfiguration::Timer1_Timer() {
         const ObjectPtr connection = connection_of(the(configuration_));
         if (!connection) return;
         const auto server = resolve<OPCServer>(connection);
+        tick_.begin();
         std::size_t place = 0;
-        const auto show = [&](const char* key, const char* caption, const Variant& value) {
-            show_value(server_values_.at(place++), key, caption, value);
+        const auto show = [&](const char* key, const char* caption, const auto& read) {
+            std::optional<Variant>& shown = server_values_.at(place++);
+            if (tick_.takes_step(work())) show_value(shown, key, caption, read());
         };
-        show("Node", "Server Node", server->ServerNode());
-        show("Name", "Server Name", server->ServerName());
-        show("StartTime", "Start Time", server->StartTime());
-        show("CurrentTime", "Current Time", server->CurrentTime());
-        show("LastUpdate", "Last Updated", server->LastUpdateTime());
-        show("Bandwidth", "Band Width", server->Bandwidth());
-        show("Build", "Build Number", server->BuildNumber());
-        show("Client", "Client Name", server->ClientName());
-        show("Major", "Major Version", server->MajorVersion());
-        show("Minor", "Minor Version", server->MinorVersion());
-        show("State", "Server State", server->ServerState());
-        show("Vendor", "Vendor Information", server->VendorInfo());
+        show("Node", "Server Node", [&] { return server->ServerNode(); });
+        show("Name", "Server Name", [&] { return server->ServerName(); });
+        show("StartTime", "Start Time", [&] { return server->StartTime(); });
+        show("CurrentTime", "Current Time", [&] { return server->CurrentTime(); });
+        show("LastUpdate", "Last Updated", [&] { return server->LastUpdateTime(); });
+        show("Bandwidth", "Band Width", [&] { return server->Bandwidth(); });
+        show("Build", "Build Number", [&] { return server->BuildNumber(); });
+        show("Client", "Client Name", [&] { return server->ClientName(); });
+        show("Major", "Major Version", [&] { return server->MajorVersion(); });
+        show("Minor", "Minor Version", [&] { return server->MinorVersion(); });
+        show("State", "Server State", [&] { return server->ServerState(); });
+        show("Vendor", "Vendor Information", [&] { return server->VendorInfo(); });
+        if (tick_.has_given_way()) return;
 
         const OPCGroupsPtr groups = server->OPCGroups();
         const std::int32_t count = the(groups).Count();
-        for (std::int32_t n = 1; n <= count; ++n) {
-            show_group(n, the(groups->Item(n)).Name());
-        }
+        for (std::int32_t n = 1; n <= count && !tick_.has_given_way(); ++n)
+            if (tick_.takes_step(work())) show_group(n, the(groups->Item(n)).Name());
     });
 }
 

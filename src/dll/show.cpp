@@ -39,6 +39,7 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     bool outcome = false;
     ShowProcedure(class_name, here.environment.errors).run([&] {
         here.environment.locale = system_locale();
+        here.engine.work().set_locale(here.environment.locale);
         outcome = dialog(here.environment);
     });
     if (result) *result = outcome ? VARIANT_TRUE : VARIANT_FALSE;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/error.h"
+#include "forms/work.h"
 
 #include <cstdint>
 #include <string>
@@ -60,6 +61,12 @@ public:
 
     /// Opens the help file at the topic, with 0 at its contents.
     virtual HelpOutcome show_help(const std::string& help_file, std::int32_t topic) = 0;
+
+    /// The work that the handlers of its forms do.
+    virtual Work& work() { return work_; }
+
+private:
+    Work work_;
 };
 
 } // namespace brx

@@ -17,6 +17,7 @@ Message error_message(const ErrorReport& report) {
 }
 
 void ErrorReports::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
+    const Work::Pause pause; // the host's way to tell may wait for the person
     attempt([&] { libraries_.Show(library, report, [&] { attempt([&] { tell(report); }); }); });
 }
 

@@ -73,6 +73,9 @@ public:
     /// A person pressed F1: the help file opens, where the host has one.
     bool user_help();
 
+    /// What its handlers do, as a person is told of it when it lasts.
+    Work& work() const { return environment_.engine.work(); }
+
     /// Whether a person can do anything with this form now.
     bool in_front() const { return loaded_ && !turn::is_code_running() && turn::front() == this; }
 
@@ -80,6 +83,7 @@ public:
     template <class Event> void run_event(Event&& event) noexcept {
         {
             const CodeTurn code;
+            const Work::Scope scope(work());
             trap("event", event);
         }
         settle();
@@ -90,6 +94,12 @@ protected:
 
     /// Shows a message box over this form and returns the button pressed.
     std::int32_t show_message(const Message& message);
+
+    /// What a dialog of the host's answers, which waits for a person.
+    template <class Question> static auto answered(Question&& question) {
+        const Work::Pause pause;
+        return question();
+    }
 
     virtual void Form_Load() {}
     /// The form has closed: the place to let go of the host's objects.

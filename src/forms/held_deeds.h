@@ -17,6 +17,8 @@ public:
     /// The other half of the deed that is being done.
     void hold_next(Deed deed) { due_.push_front(std::move(deed)); }
 
+    bool empty() const { return due_.empty() && held_.empty(); }
+
     /// The next deed, empty when there is none. What is held while it is done comes after all that was held
     /// before.
     Deed next() {

@@ -20,16 +20,29 @@ public:
     const char* kind() const override { return "timer"; }
     int interval() const { return design_.interval; }
 
-    /// The interval has passed. False, and nothing happens, while other code of the thread runs.
+    /// The interval has passed. False, and nothing happens, while other code of the thread runs, and for a
+    /// while after a tick that took long.
     bool tick() {
         if (!form().loaded() || !enabled() || turn::is_code_running()) return false;
+        Work& work = form().work();
+        if (work.now() < rests_until_) return false;
         const TimerTurn timer;
-        form().run_event([&] { fire(design_.Timer); });
+        form().run_event([&] {
+            fire(design_.Timer);
+            // What took long leaves the thread alone for as long again.
+            const Work::Milliseconds took = work.lasted();
+            if (took >= Work::long_for_a_tick) rests_until_ = work.now() + took;
+        });
         return true;
+    }
+    void reset() override {
+        Control::reset();
+        rests_until_ = {};
     }
 
 private:
     TimerDesign design_;
+    Work::Milliseconds rests_until_{};
 };
 
 } // namespace brx

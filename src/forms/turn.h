@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/work.h"
+
 namespace brx {
 
 class Form;
@@ -66,6 +68,7 @@ private:
     const ModalTurn* below_;
     bool code_was_running_;
     bool timer_was_running_;
+    const Work::Pause pause_;
 };
 
 } // namespace brx

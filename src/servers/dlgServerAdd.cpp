@@ -67,6 +67,7 @@ void dlgServerAdd::cmdRefreshList_Click() {
 /// On a named node whatever fails leaves nothing found; on the local computer errors are passed on.
 Variant dlgServerAdd::FindServers(const std::string& node) {
     OPCServerPtr server;
+    work().waits_for("Asking " + (node.empty() ? "this computer" : node) + " for its OPC servers");
     if (node.empty()) {
         server = tools_.ResolveOPCServer(the(entry_).OPCServer());
         return the(server).GetOPCServers(std::nullopt);

@@ -15,7 +15,7 @@ void dlgServerInformation::Form_Load() {
         if (!server_) return;
         const std::string node = server_->ServerNode();
         set_caption(server_display_text(node, server_->ServerName()));
-        ShowTimes();
+        ShowTimes([] { return true; });
         const std::string major = to_text(server_->MajorVersion(), environment().locale);
         Version.set_text(major + "." + to_text(server_->MinorVersion(), environment().locale));
         Vendor.set_text(server_->VendorInfo());
@@ -25,7 +25,8 @@ void dlgServerInformation::Form_Load() {
 
 void dlgServerInformation::Timer1_Timer() {
     trap("Timer1_Timer", [&] {
-        if (server_) ShowTimes();
+        tick_.begin();
+        if (server_) ShowTimes([&] { return tick_.takes_step(work()); });
     });
 }
 
@@ -34,11 +35,11 @@ void dlgServerInformation::bnOK_Click() {
 }
 
 /// Passes its errors on.
-void dlgServerInformation::ShowTimes() {
+void dlgServerInformation::ShowTimes(const std::function<bool()>& now) {
     const Locale& locale = environment().locale;
-    Start.set_text(to_text(server_->StartTime(), locale));
-    Current.set_text(to_text(server_->CurrentTime(), locale));
-    Last.set_text(to_text(server_->LastUpdateTime(), locale));
+    if (now()) Start.set_text(to_text(server_->StartTime(), locale));
+    if (now()) Current.set_text(to_text(server_->CurrentTime(), locale));
+    if (now()) Last.set_text(to_text(server_->LastUpdateTime(), locale));
 }
 
 } // namespace brx

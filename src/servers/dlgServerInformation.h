@@ -4,8 +4,11 @@
 #include "forms/button.h"
 #include "forms/frame.h"
 #include "forms/label.h"
+#include "forms/parted_tick.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
+
+#include <functional>
 
 namespace brx {
 
@@ -39,8 +42,10 @@ private:
     void Timer1_Timer();
     void bnOK_Click();
 
-    void ShowTimes();
+    /// `now` says for each whether it is read now.
+    void ShowTimes(const std::function<bool()>& now);
 
+    PartedTick tick_;
     OPCServerPtr server_;
 };
 

@@ -11,7 +11,8 @@ namespace brx {
 void dlgOPCTest::bnTest_Click() {
     trap("bnTest_Click", [&] {
         const auto picker = create<hlxSelection>(environment().objects, class_name::hlxTestSelection);
-        if (!picker->Show(database_, test_id_, test_group_id_)) return allow_confirming();
+        if (!answered([&] { return picker->Show(database_, test_id_, test_group_id_); }))
+            return allow_confirming();
         const hlxTestDataPtr picked = ResolveTestDat(picker->Record());
         if (!picked) return;
         const std::int32_t id = picked->ID();

@@ -75,7 +75,24 @@ bool HeadlessScreen::copy(const std::string& text) {
     return true;
 }
 
+std::optional<Waiting> HeadlessScreen::waiting() {
+    return there([&]() -> std::optional<Waiting> {
+        if (!engine_.work().is_shown()) return std::nullopt;
+        const Work::Report report = engine_.work().report();
+        return Waiting{told_what(report), told_how_far(report, Locale{})};
+    });
+}
+
+bool HeadlessScreen::stop() {
+    return there([&] {
+        if (!engine_.work().is_shown()) return false;
+        engine_.work().stop();
+        return true;
+    });
+}
+
 bool HeadlessScreen::key(Key key) {
+    if (key == Key::escape && stop()) return true;
     return deed([=, this] {
         switch (key) {
         case Key::enter:

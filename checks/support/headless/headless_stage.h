@@ -39,6 +39,8 @@ public:
     bool answer(std::int32_t button) override;
     void pass_ticks(int times) override;
     std::string help() override;
+    std::optional<Waiting> waiting() override;
+    bool stop() override;
 
 private:
     /// Looks on the forms' thread, at once when this is it.
@@ -75,6 +77,7 @@ public:
     void start(std::function<void()> job) override;
     bool busy() override { return jobs_running_ > 0; }
     std::unique_ptr<PublicClass> create(const std::string& name) override;
+    void pass(std::chrono::milliseconds time) override { engine_.work().pass(time); }
     std::string leaks() override;
     std::string differences() override { return {}; }
 

@@ -138,6 +138,10 @@ LRESULT CALLBACK UiThread::hook_procedure(int code, WPARAM removed, LPARAM data)
 
 void UiThread::taken_from_queue(MSG& message) {
     if (message.message == probe_message() && message.hwnd == agent_) {
+        if (works_) {
+            put_off_ = message.wParam;
+            return;
+        }
         const std::lock_guard lock(mutex_);
         probes_seen_ = static_cast<unsigned>(message.wParam);
         changed_.notify_all();
@@ -208,16 +212,24 @@ void UiThread::start(Work job) {
 }
 
 void UiThread::settle() {
-    if (is_this()) {
-        MSG message{};
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (message.message == WM_QUIT) return PostQuitMessage(static_cast<int>(message.wParam));
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-        return;
-    }
+    if (is_this()) return handle_queued();
     for (int i = 0; i < probes_to_settle; ++i) wait_for_probe();
+}
+
+/// The thread is not back to waiting for input by that.
+void UiThread::handle_queued() {
+    const bool outer = std::exchange(works_, true);
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            break;
+        }
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    works_ = outer;
+    if (const WPARAM probe = std::exchange(put_off_, 0)) PostMessageW(agent_, probe_message(), probe, 0);
 }
 
 void UiThread::wait_for_probe() {

@@ -64,6 +64,7 @@ private:
     void run_job(WPARAM number);
     void taken_from_queue(MSG& message);
     void wait_for_probe();
+    void handle_queued();
     std::shared_ptr<Errand> take(std::map<WPARAM, std::shared_ptr<Errand>>& from, WPARAM number);
     WPARAM leave(std::map<WPARAM, std::shared_ptr<Errand>>& in, std::shared_ptr<Errand> errand);
     [[noreturn]] void give_up(const char* why);
@@ -85,6 +86,8 @@ private:
     std::exception_ptr job_failure_;
     std::atomic<int> jobs_running_ = 0;
     bool pumps_ = false;
+    bool works_ = false; ///< it handles what is queued, in the middle of something else
+    WPARAM put_off_ = 0; ///< the probe that came meanwhile
 
     DialogClock clock_;
     DWORD id_ = 0;

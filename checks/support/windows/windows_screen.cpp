@@ -15,6 +15,17 @@ HWND dropped_list_of(HWND combo_box) {
     return GetComboBoxInfo(combo_box, &info) ? info.hwndList : nullptr;
 }
 
+/// The window that tells of work that lasts, which is another thread's; null when there is none.
+HWND waiting_window() {
+    HWND found = nullptr;
+    while ((found = FindWindowExW(nullptr, found, L"brx.Waiting", nullptr)) != nullptr) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(found, &process);
+        if (process == GetCurrentProcessId() && IsWindowVisible(found)) return found;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 HWND WindowsScreen::top_window() const {
@@ -89,6 +100,19 @@ bool WindowsScreen::hourglass() {
 
 std::string WindowsScreen::help() {
     return asked([] { return WatchedHelp::shown(); });
+}
+
+std::optional<Waiting> WindowsScreen::waiting() {
+    const HWND window = waiting_window();
+    if (!window) return std::nullopt;
+    std::string what = text_of(GetDlgItem(window, 100));
+    if (const auto end = what.find('.'); end != std::string::npos) what.resize(end);
+    return Waiting{what, text_of(GetDlgItem(window, 101))};
+}
+
+bool WindowsScreen::stop() {
+    const HWND window = waiting_window();
+    return window && SendMessageW(GetDlgItem(window, IDCANCEL), BM_CLICK, 0, 0) == 0;
 }
 
 bool WindowsScreen::press(const std::string& button) {

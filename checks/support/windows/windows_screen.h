@@ -45,6 +45,8 @@ public:
     bool close_box() override;
     bool answer(std::int32_t button) override;
     std::string help() override;
+    std::optional<Waiting> waiting() override;
+    bool stop() override;
     void pass_ticks(int times) override;
 
     /// What was found wrong after any deed, or is so now; "" for nothing.

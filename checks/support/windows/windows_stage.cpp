@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace brx::checks {
 
 WindowsStage::WindowsStage(FakeHost& host) {
@@ -37,6 +39,11 @@ void WindowsStage::start(std::function<void()> job) {
 
 std::unique_ptr<PublicClass> WindowsStage::create(const std::string& name) {
     return component_->create(name);
+}
+
+/// And a little more: what counts the time is another thread, on a machine that has other work.
+void WindowsStage::pass(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time + std::chrono::milliseconds(400));
 }
 
 std::string WindowsStage::leaks() {

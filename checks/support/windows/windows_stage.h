@@ -24,6 +24,7 @@ public:
     void start(std::function<void()> job) override;
     bool busy() override { return ui_.busy(); }
     std::unique_ptr<PublicClass> create(const std::string& name) override;
+    void pass(std::chrono::milliseconds time) override;
     std::string leaks() override;
     std::string differences() override { return screen_.differences(); }
 

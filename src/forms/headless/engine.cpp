@@ -27,6 +27,8 @@ void HeadlessEngine::miss_held() {
     if (!windows_.empty()) windows_.back()->held().miss();
 }
 
+bool HeadlessWork::keeps_a_person_waiting() { return engine_.front() && !engine_.front()->held().empty(); }
+
 bool HeadlessEngine::person_does(std::function<bool()> deed) {
     if (!front() || !turn::is_code_running()) return deed();
     front()->held().hold([deed = std::move(deed)] { deed(); });

@@ -12,6 +12,23 @@
 
 namespace brx {
 
+class HeadlessEngine;
+
+/// Work by a clock that only passes when somebody says so.
+class HeadlessWork : public Work {
+public:
+    explicit HeadlessWork(const HeadlessEngine& engine) : engine_(engine) {}
+    Milliseconds now() const override { return now_; }
+    void pass(Milliseconds time) { now_ += time; }
+    bool keeps_a_person_waiting() override;
+    /// Whether a person sees by now what is waited for.
+    bool is_shown() const { return is_going_on() && lasted() >= shown_after; }
+
+private:
+    const HeadlessEngine& engine_;
+    Milliseconds now_{};
+};
+
 /// The engine of the checks: forms open and close, nothing is drawn, and a scripted user works through
 /// `Baton`.
 class HeadlessEngine : public FormEngine {
@@ -23,6 +40,7 @@ public:
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
     HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
+    HeadlessWork& work() override { return work_; }
 
     /// Does what a person does, later when code runs; false when it was not possible.
     bool person_does(std::function<bool()> deed);
@@ -40,6 +58,7 @@ private:
     void miss_held();
 
     Baton& baton_;
+    HeadlessWork work_{*this};
     std::vector<HeadlessWindow*> windows_;
     std::optional<Message> message_;
     std::int32_t answer_ = 0;

@@ -126,6 +126,8 @@ HelpOutcome Win32Engine::show_help(const std::string& help_file, std::int32_t to
     return open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
 }
 
+bool Win32Engine::holds_deeds() const { return !open_forms_.empty() && open_forms_.back()->holds_deeds(); }
+
 HWND Win32Engine::window_in_front() const {
     for (auto window = open_forms_.rbegin(); window != open_forms_.rend(); ++window)
         if ((*window)->handle()) return (*window)->handle();

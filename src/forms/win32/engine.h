@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/engine.h"
+#include "forms/win32/watched_work.h"
 
 #include <windows.h>
 
@@ -28,16 +29,19 @@ public:
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
     HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
+    WatchedWork& work() override { return work_; }
 
     /// Whether the form shows the hourglass.
     bool is_busy(const Form& form) const { return busy_.count(&form) != 0; }
 
 private:
     HWND window_in_front() const;
+    bool holds_deeds() const;
 
     HelpOpener open_help_;
     std::vector<FormWindow*> open_forms_; ///< the one in front is the last
     std::map<const Form*, int> busy_;     ///< how many procedures of it show the hourglass
+    WatchedWork work_{[this] { return window_in_front(); }, [this] { return holds_deeds(); }};
 };
 
 } // namespace brx

@@ -2,6 +2,7 @@
 // windows, where they wait until the handler has returned.
 
 #include "forms/turn.h"
+#include "forms/win32/engine.h"
 #include "forms/win32/form_window.h"
 
 #include <array>
@@ -74,6 +75,10 @@ bool FormWindow::has_to_wait() const {
 bool FormWindow::holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam) {
     const Input input = kind_of(message, wparam);
     if (input == Input::none || !has_to_wait()) return false;
+    if (message == WM_KEYDOWN && wparam == VK_ESCAPE && engine_.work().is_shown()) {
+        engine_.work().stop();
+        return true;
+    }
     const MSG held{
         .hwnd = target, .message = message, .wParam = wparam, .lParam = lparam, .time = 0, .pt = {}};
     switch (input) {

@@ -36,6 +36,7 @@ public:
     void deal_with(MSG message);
     /// Does the next of what a person did while code ran; false when there is nothing.
     bool do_held();
+    bool holds_deeds() const { return !held_.empty(); }
     /// Something comes before it: the rest of what was being done is not meant for that.
     void miss_held() { held_.miss(); }
 

@@ -1,0 +1,80 @@
+#include "common/locales.h"
+#include "forms/headless/engine.h"
+#include "forms/parted_tick.h"
+#include "forms/turn.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+using std::chrono::milliseconds;
+
+struct WorkOf : testing::Test {
+    Baton baton;
+    HeadlessEngine engine{baton};
+    HeadlessWork& work = engine.work();
+};
+
+} // namespace
+
+TEST_F(WorkOf, IsShownOnceItHasLastedASecond) {
+    const Work::Scope scope(work);
+    work.pass(milliseconds(999));
+    EXPECT_FALSE(work.is_shown());
+    work.pass(milliseconds(1));
+    EXPECT_TRUE(work.is_shown());
+}
+
+TEST_F(WorkOf, IsTheOutermostHandlers) {
+    const Work::Scope outer(work);
+    work.waits_for("the outer one");
+    work.pass(milliseconds(1000));
+    {
+        const Work::Scope inner(work);
+        EXPECT_EQ(work.report().what, "the outer one");
+    }
+    EXPECT_TRUE(work.is_shown());
+}
+
+TEST_F(WorkOf, StopsCountingWhileAPersonIsAskedSomethingAndBeginsAnewThen) {
+    const Work::Scope scope(work);
+    work.pass(milliseconds(5000));
+    {
+        const ModalTurn box(nullptr);
+        EXPECT_FALSE(work.is_shown());
+        const Work::Scope of_a_tick(work);
+        EXPECT_FALSE(work.is_shown()) << "It has just begun.";
+        work.pass(milliseconds(5000));
+    }
+    EXPECT_FALSE(work.is_shown());
+    work.pass(milliseconds(1000));
+    EXPECT_TRUE(work.is_shown());
+}
+
+TEST_F(WorkOf, EachHandlerBeginsWithNothingStoppedAndNothingTold) {
+    {
+        const Work::Scope scope(work);
+        work.waits_for("something");
+        work.counts_to(5);
+        work.stop();
+        EXPECT_TRUE(work.is_stopped());
+    }
+    const Work::Scope scope(work);
+    EXPECT_FALSE(work.is_stopped());
+    EXPECT_EQ(told_what(work.report()), "Waiting for the server");
+    EXPECT_EQ(told_how_far(work.report(), Locale{}), "0 s");
+}
+
+TEST_F(WorkOf, IsToldWithTheUsersSignBetweenThousands) {
+    Work::Report report{.what = "", .done = 12000, .total = 1234567, .lasted = milliseconds(1059999)};
+    EXPECT_EQ(told_how_far(report, Locale{}), "1,059 s - 12,000 of 1,234,567");
+    EXPECT_EQ(told_how_far(report, make_german()), "1.059 s - 12.000 of 1.234.567");
+    report.done = 999;
+    report.total = 1000;
+    EXPECT_EQ(told_how_far(report, Locale{}), "1,059 s - 999 of 1,000");
+}

@@ -1,0 +1,139 @@
+#include "browsing.h"
+
+// What a person sees and does while a server takes its time.
+
+using namespace brx;
+using namespace brx::checks;
+
+namespace {
+
+constexpr std::chrono::seconds a_second{1};
+
+const std::string stopped_at_two =
+    "Reading was stopped at 2 of 5 items. To read them all: a click on the group.";
+
+/// A branch with more than a person wants to wait for.
+void a_long_branch(Play& its) {
+    its.host.connection->server_name = "Matrix";
+    its.host.connection->server_node = "PC7";
+    its.host.browser->root.has("Line1", {"A", "B", "C", "D", "E"});
+    its.host.browser->root.has("Line2", {"F"});
+    its.host.browser->root.has("Line3");
+}
+
+} // namespace
+
+SCENARIO(SlowServers, WhatIsWaitedForIsTold) {
+    a_long_branch(its);
+    std::optional<Waiting> early;
+    std::optional<Waiting> late;
+    Browsing dialog(its);
+    its.host.calls.during("OPCBrowser.Item(1)", [&] { early = its.person.screen().waiting(); });
+    its.host.calls.during("OPCBrowser.Item(4)", [&] {
+        its.stage->pass(a_second);
+        late = its.person.screen().waiting();
+    });
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(early, std::nullopt);
+    EXPECT_EQ(late, (Waiting{"Reading branch Line1 of Matrix on PC7", "1 s - 3 of 5"}));
+    EXPECT_EQ(its.person.screen().waiting(), std::nullopt) << "It is over.";
+    EXPECT_EQ(its.person.lines_of("lstItem").size(), 5U);
+    EXPECT_EQ(its.person.reads("lblNotice"), "");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, WhatIsWaitedForBeforeADialogOpensIsTold) {
+    a_long_branch(its);
+    std::optional<Waiting> seen;
+    its.host.calls.during("OPCBrowser.Item(2)", [&] {
+        its.stage->pass(a_second);
+        seen = its.person.screen().waiting();
+    });
+    Browsing dialog(its);
+    EXPECT_EQ(seen, (Waiting{"Reading the groups of Matrix on PC7", "1 s - 1 of 3"}));
+    EXPECT_EQ(its.person.screen().waiting(), std::nullopt);
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, StopEndsAListBeforeItsNextCallAndTheDialogSaysSo) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    dialog.calls();
+    its.host.calls.during("OPCBrowser.Item(2)", [&] {
+        its.stage->pass(a_second);
+        EXPECT_TRUE(its.person.screen().stop());
+    });
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("lstItem"), (Lines{"A", "B"}));
+    EXPECT_EQ(its.person.reads("lblNotice"), stopped_at_two);
+    EXPECT_EQ(dialog.calls(),
+              (Lines{"OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)", "OPCBrowser.ShowLeafs(False)",
+                     "OPCBrowser.Count", "OPCBrowser.Item(1)", "OPCBrowser.Item(2)"}));
+    its.person.picks("lstItem", "B");
+    EXPECT_EQ(its.person.reads("txtFullPath"), "Line1.B") << "What was read can be used.";
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("lstItem").size(), 5U);
+    EXPECT_EQ(its.person.reads("lblNotice"), "");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, EscapeIsStopWhileTheWaitingIsShownAndNothingElse) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    its.host.calls.during("OPCBrowser.Item(2)", [&] {
+        its.stage->pass(a_second);
+        static_cast<void>(its.person.screen().key(Key::escape));
+    });
+    its.person.clicks_node("TrView", "Line1");
+    its.person.is_at("dlgItemSelect");
+    EXPECT_EQ(its.person.reads("lblNotice"), stopped_at_two);
+    its.person.hits(Key::escape);
+    its.person.is_at("");
+    dialog.result();
+}
+
+SCENARIO(SlowServers, GroupsThatWereNotAllReadAreToldOfUntilTheyAre) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    const auto stop = [&] {
+        its.stage->pass(a_second);
+        EXPECT_TRUE(its.person.screen().stop());
+    };
+    its.host.calls.during("OPCBrowser.Item(2)", stop);
+    its.person.presses("cmdRefresh");
+    const std::string notice = "Reading was stopped at 2 of 3 groups. To read them all: Refresh.";
+    EXPECT_EQ(its.person.lines_of("TrView"), (Lines{"+Line1", "+Line2"}));
+    EXPECT_EQ(its.person.reads("lblNotice"), notice);
+    its.person.clicks_node("TrView", "Line2");
+    EXPECT_EQ(its.person.lines_of("lstItem"), Lines{"F"});
+    EXPECT_EQ(its.person.reads("lblNotice"), notice);
+    its.host.calls.during("OPCBrowser.Item(2)", stop);
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.reads("lblNotice"), notice + "  " + stopped_at_two);
+    its.person.presses("cmdRefresh");
+    EXPECT_EQ(its.person.lines_of("TrView").size(), 3U);
+    EXPECT_EQ(its.person.reads("lblNotice"), "");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, AServerThatHasGoneIsToldOfWhereItsErrorsAreIgnored) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    its.host.browser->failing = {"MoveTo"};
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.reads("lblNotice"), "") << "A branch that is not there is no dead server.";
+    for (const std::int32_t code : {-2147023174 /* 0x800706BA */, -2147417848 /* 0x80010108 */}) {
+        its.host.browser->failure = code;
+        its.person.clicks_node("TrView", "Line1");
+        EXPECT_EQ(its.person.reads("lblNotice"), "The server does not answer: MoveTo is out of order");
+    }
+    its.host.browser->failing.clear();
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.reads("lblNotice"), "");
+    its.person.closes_the_window();
+    dialog.result();
+}

@@ -1,0 +1,140 @@
+#include "forms/win32/waiting_window.h"
+
+#include "common/trap.h"
+#include "forms/win32/common_controls.h"
+#include "forms/win32/dpi.h"
+#include "forms/win32/wide.h"
+#include "win32/this_module.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+namespace brx {
+
+namespace {
+
+constexpr const wchar_t* waiting_class = L"brx.Waiting";
+
+// At 96 DPI.
+constexpr SIZE inside = {380, 108};
+constexpr RECT what_place = {11, 11, 369, 41};
+constexpr RECT bar_place = {11, 47, 369, 60};
+constexpr RECT how_far_place = {11, 78, 280, 93};
+constexpr RECT stop_place = {294, 74, 369, 97};
+
+constexpr DWORD frame = WS_POPUP | WS_CAPTION;
+constexpr DWORD frame_ex = WS_EX_DLGMODALFRAME | WS_EX_TOOLWINDOW;
+
+RECT at_scale(const RECT& place, unsigned dpi) {
+    return {scaled(place.left, dpi), scaled(place.top, dpi), scaled(place.right, dpi),
+            scaled(place.bottom, dpi)};
+}
+
+std::string sentence(const Work::Report& report, WaitingWindow::Stopping stopping) {
+    switch (stopping) {
+    case WaitingWindow::Stopping::asked:
+        return told_what(report) + ".\nIt is stopped as soon as the server answers.";
+    case WaitingWindow::Stopping::impossible:
+        return told_what(report) +
+               ".\nThis call cannot be broken off: it is stopped when the server answers.";
+    case WaitingWindow::Stopping::not_asked:
+        break;
+    }
+    return told_what(report) + ".";
+}
+
+} // namespace
+
+WaitingWindow::WaitingWindow(HWND over, const Locale& locale, std::function<void()> stop)
+    : over_(over),
+      locale_(locale),
+      stop_(std::move(stop)),
+      dpi_(over ? dpi_of(over) : dpi_of(GetDesktopWindow())) {
+    const LOGFONTW look = message_font(dpi_);
+    font_.reset(CreateFontIndirectW(&look));
+    WNDCLASSW description{};
+    description.lpfnWndProc = procedure;
+    description.hInstance = this_module();
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    description.lpszClassName = waiting_class;
+    RegisterClassW(&description); // fails where another thread has done it
+    const SIZE size = frame_around({scaled(inside.cx, dpi_), scaled(inside.cy, dpi_)}, frame, frame_ex, dpi_);
+    handle_ = CreateWindowExW(frame_ex, waiting_class, L"Please wait", frame, 0, 0, size.cx, size.cy, nullptr,
+                              nullptr, this_module(), this);
+    if (!handle_) return;
+    add(WC_STATICW, L"", SS_LEFT | SS_NOPREFIX, what_part, what_place);
+    add(common_control(PROGRESS_CLASSW), L"", 0, bar_part, bar_place);
+    add(WC_STATICW, L"", SS_LEFT | SS_NOPREFIX, how_far_part, how_far_place);
+    add(WC_BUTTONW, L"Stop", BS_DEFPUSHBUTTON | WS_TABSTOP, IDCANCEL, stop_place);
+}
+
+WaitingWindow::~WaitingWindow() {
+    if (handle_) DestroyWindow(handle_);
+}
+
+HWND WaitingWindow::add(const wchar_t* window_class, const wchar_t* text, DWORD style, int id,
+                        RECT place) const {
+    const RECT here = at_scale(place, dpi_);
+    const HWND part =
+        CreateWindowExW(0, window_class, text, WS_CHILD | WS_VISIBLE | style, here.left, here.top,
+                        here.right - here.left, here.bottom - here.top, handle_,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), this_module(), nullptr);
+    SendMessageW(part, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
+    return part;
+}
+
+void WaitingWindow::write(int id, const std::string& text) const {
+    const HWND part = GetDlgItem(handle_, id);
+    const std::wstring wanted = to_wide(text);
+    if (wanted != window_text(part)) SetWindowTextW(part, wanted.c_str());
+}
+
+void WaitingWindow::tell(const Work::Report& report, Stopping stopping) {
+    if (!handle_) return;
+    write(what_part, sentence(report, stopping));
+    write(how_far_part, told_how_far(report, locale_));
+    const HWND bar = GetDlgItem(handle_, bar_part);
+    ShowWindow(bar, report.total > 0 ? SW_SHOWNA : SW_HIDE);
+    SendMessageW(bar, PBM_SETRANGE32, 0, report.total);
+    SendMessageW(bar, PBM_SETPOS, static_cast<WPARAM>(report.done), 0);
+    EnableWindow(GetDlgItem(handle_, IDCANCEL), stopping == Stopping::not_asked);
+    follow();
+}
+
+/// Stays in the middle of the dialog; above everything else only while the program is the one that a person
+/// works with.
+void WaitingWindow::follow() {
+    DWORD in_front = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &in_front);
+    UINT how = SWP_NOACTIVATE | SWP_NOSIZE | SWP_SHOWWINDOW;
+    RECT place{};
+    if (!over_ || !IsWindowVisible(over_) || !GetWindowRect(over_, &place))
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &place, 0);
+    if (EqualRect(&place, &over_place_) && IsWindowVisible(handle_)) how |= SWP_NOMOVE;
+    over_place_ = place;
+    RECT own{};
+    GetWindowRect(handle_, &own);
+    SetWindowPos(handle_, in_front == GetCurrentProcessId() ? HWND_TOPMOST : HWND_NOTOPMOST,
+                 place.left + (place.right - place.left - (own.right - own.left)) / 2,
+                 place.top + (place.bottom - place.top - (own.bottom - own.top)) / 2, 0, 0, how);
+}
+
+LRESULT CALLBACK WaitingWindow::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+    if (message == WM_NCCREATE)
+        SetWindowLongPtrW(
+            window, GWLP_USERDATA,
+            reinterpret_cast<LONG_PTR>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams));
+    auto* const self = reinterpret_cast<WaitingWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_ACTIVATE && LOWORD(wparam) != WA_INACTIVE) {
+        SetFocus(GetDlgItem(window, IDCANCEL));
+        return 0;
+    }
+    const bool asked = message == WM_CLOSE || (message == WM_COMMAND && LOWORD(wparam) == IDCANCEL);
+    if (!self || !asked) return DefWindowProcW(window, message, wparam, lparam);
+    attempt(self->stop_);
+    return 0;
+}
+
+} // namespace brx

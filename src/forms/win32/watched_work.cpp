@@ -1,0 +1,125 @@
+#include "forms/win32/watched_work.h"
+
+#include "common/trap.h"
+
+#include <utility>
+
+namespace brx {
+
+namespace {
+
+constexpr DWORD refreshed_every = 100;          // ms
+constexpr ULONGLONG looks_for_a_key_every = 50; // ms
+
+using EnableCancellation = HRESULT(WINAPI*)(void*);
+using CancelCall = HRESULT(WINAPI*)(DWORD thread, ULONG timeout);
+
+/// Of the COM library, where it has it: not every system's has.
+template <class Function> Function com_function(const char* name) {
+    const HMODULE library = GetModuleHandleW(L"ole32.dll");
+    return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
+                   : nullptr;
+}
+
+bool cancel_call_of(DWORD thread) {
+    const auto cancel = com_function<CancelCall>("CoCancelCall");
+    return cancel && SUCCEEDED(cancel(thread, 0));
+}
+
+/// Takes it out of the queue, so that it does nothing else.
+bool take_escape() {
+    MSG key{};
+    if (!PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) || key.wParam != VK_ESCAPE)
+        return false;
+    return PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE) != FALSE;
+}
+
+} // namespace
+
+WatchedWork::WatchedWork(std::function<HWND()> window_in_front, std::function<bool()> holds_deeds)
+    : window_in_front_(std::move(window_in_front)), holds_deeds_(std::move(holds_deeds)) {
+    if (const auto enable = com_function<EnableCancellation>("CoEnableCallCancellation")) enable(nullptr);
+}
+
+WatchedWork::~WatchedWork() {
+    if (const auto disable = com_function<EnableCancellation>("CoDisableCallCancellation")) disable(nullptr);
+    if (!thread_) return;
+    ends_ = true;
+    SetEvent(woken_.get());
+    WaitForSingleObject(thread_.get(), INFINITE);
+}
+
+void WatchedWork::changed() {
+    if (is_going_on()) {
+        over_ = window_in_front_();
+        stopping_ = WaitingWindow::Stopping::not_asked;
+        if (!thread_) thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
+        if (idle_.exchange(false)) SetEvent(woken_.get());
+    } else if (shown_) {
+        SetEvent(woken_.get());
+    }
+}
+
+bool WatchedWork::is_stopped() {
+    // A question to the system, which the work pays for only when it lasts.
+    if (shown_ && GetTickCount64() - looked_ >= looks_for_a_key_every) {
+        looked_ = GetTickCount64();
+        if (take_escape()) stop();
+    }
+    return Work::is_stopped();
+}
+
+bool WatchedWork::keeps_a_person_waiting() {
+    return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0 || holds_deeds_();
+}
+
+void WatchedWork::stop() {
+    Work::stop();
+    stopping_ =
+        cancel_call_of(worker_) ? WaitingWindow::Stopping::asked : WaitingWindow::Stopping::impossible;
+}
+
+DWORD WINAPI WatchedWork::thread(void* self) noexcept {
+    attempt([&] { static_cast<WatchedWork*>(self)->watch(); });
+    return 0;
+}
+
+void WatchedWork::watch() {
+    while (!ends_) {
+        if (!is_going_on()) {
+            idle_ = true;
+            // Work that began before has not found it idle, and wakes nobody.
+            if (!is_going_on()) WaitForSingleObject(woken_.get(), INFINITE);
+            idle_ = false;
+            continue;
+        }
+        const Milliseconds lasted = this->lasted();
+        if (lasted >= shown_after)
+            show_it();
+        else
+            WaitForSingleObject(woken_.get(), static_cast<DWORD>((shown_after - lasted).count()));
+    }
+}
+
+bool WatchedWork::is_over() const { return ends_ || !is_going_on() || lasted() < shown_after; }
+
+void WatchedWork::show_it() {
+    WaitingWindow window(over_, locale_, [this] {
+        if (!is_over()) stop();
+    });
+    shown_ = true;
+    HANDLE const woken = woken_.get();
+    while (!is_over()) {
+        window.tell(report(), stopping_);
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (IsDialogMessageW(window.handle(), &message)) continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        MsgWaitForMultipleObjects(1, &woken, FALSE, refreshed_every, QS_ALLINPUT);
+    }
+    shown_ = false;
+}
+
+} // namespace brx

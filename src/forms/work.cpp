@@ -1,0 +1,76 @@
+#include "forms/work.h"
+
+#include "common/values/locale.h"
+
+#include <utility>
+
+namespace brx {
+
+namespace {
+// The thread's. Nothing here may need a destructor: that would keep the module loaded until the thread ends.
+thread_local Work* running = nullptr;
+} // namespace
+
+void Work::waits_for(const std::string& what) {
+    counts_to(0);
+    const std::lock_guard lock(mutex_);
+    what_ = what;
+}
+
+Work::Milliseconds Work::now() const {
+    return std::chrono::duration_cast<Milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+Work::Report Work::report() const {
+    const std::lock_guard lock(mutex_);
+    return {.what = what_, .done = done_, .total = total_, .lasted = lasted()};
+}
+
+void Work::go_on(bool on) {
+    if (on) began_ = now();
+    going_on_ = on;
+    changed();
+}
+
+Work::Scope::Scope(Work& work) : own_(running ? nullptr : &work) {
+    if (!own_) return;
+    running = own_;
+    own_->waits_for({});
+    own_->stopped_ = false;
+    own_->go_on(true);
+}
+
+Work::Scope::~Scope() {
+    if (!own_) return;
+    own_->go_on(false);
+    running = nullptr;
+}
+
+Work::Pause::Pause() : paused_(std::exchange(running, nullptr)) {
+    if (paused_) paused_->go_on(false);
+}
+
+Work::Pause::~Pause() {
+    running = paused_;
+    if (paused_) paused_->go_on(true);
+}
+
+std::string grouped(int number, const Locale& locale) {
+    std::string text = std::to_string(number);
+    for (auto place = static_cast<std::ptrdiff_t>(text.size()) - 3; place > 0; place -= 3)
+        text.insert(static_cast<std::size_t>(place), locale.grouping_separator);
+    return text;
+}
+
+std::string told_what(const Work::Report& report) {
+    return report.what.empty() ? "Waiting for the server" : report.what;
+}
+
+std::string told_how_far(const Work::Report& report, const Locale& locale) {
+    std::string text = grouped(static_cast<int>(report.lasted.count() / 1000), locale) + " s";
+    if (report.total > 0)
+        text += " - " + grouped(report.done, locale) + " of " + grouped(report.total, locale);
+    return text;
+}
+
+} // namespace brx

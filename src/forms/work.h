@@ -1,0 +1,103 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <string>
+
+namespace brx {
+
+struct Locale;
+
+/// The work of one handler, from its first statement to its last: what it waits for, how far it is, and
+/// whether a person wants it to end. The thread of the forms does it; an engine shows work that lasts, from
+/// another thread where that is the one that lives.
+class Work {
+public:
+    using Milliseconds = std::chrono::milliseconds;
+
+    /// Work that is shorter than this is shown by nothing.
+    static constexpr Milliseconds shown_after{1000};
+    /// What nobody waits for in particular leaves the thread to a person by then.
+    static constexpr Milliseconds long_for_a_tick{500};
+
+    /// What there is to tell of it.
+    struct Report {
+        std::string what;      ///< is waited for, as a sentence without its full stop
+        int done = 0;          ///< of `total`
+        int total = 0;         ///< 0 where nobody knows
+        Milliseconds lasted{}; ///< since it began, or went on after a person was asked something
+    };
+
+    Work() = default;
+    virtual ~Work() = default;
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
+
+    // For what does the work.
+
+    /// From here on this is waited for.
+    void waits_for(const std::string& what);
+    /// There is so much of it to be done, one after the other.
+    void counts_to(int total) { done_ = 0, total_ = total; }
+    void has_done(int count) { done_.store(count, std::memory_order_relaxed); }
+    /// Whether a person wants it to end before its next call.
+    virtual bool is_stopped() { return stopped_; }
+    /// Whether a person has done something that waits for it to end.
+    virtual bool keeps_a_person_waiting() { return false; }
+    Milliseconds lasted() const { return now() - began_.load(); }
+    virtual Milliseconds now() const;
+
+    // For what shows it.
+
+    Report report() const;
+    /// Whether there is work, and no person is being asked something meanwhile.
+    bool is_going_on() const { return going_on_; }
+    void stop() { stopped_ = true; }
+
+    /// For its lifetime a handler runs, unless one runs already.
+    class Scope {
+    public:
+        explicit Scope(Work& work);
+        ~Scope();
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+
+    private:
+        Work* own_;
+    };
+
+    /// For its lifetime the thread waits for a person, not a person for it.
+    class Pause {
+    public:
+        Pause();
+        ~Pause();
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
+
+    private:
+        Work* paused_;
+    };
+
+protected:
+    /// It begins, ends, is paused or goes on.
+    virtual void changed() {}
+
+private:
+    void go_on(bool on);
+
+    mutable std::mutex mutex_; ///< of `what_`
+    std::string what_;
+    std::atomic<int> done_ = 0;
+    std::atomic<int> total_ = 0;
+    std::atomic<bool> stopped_ = false;
+    std::atomic<bool> going_on_ = false;
+    std::atomic<Milliseconds> began_{};
+};
+
+/// As a person reads it: "Reading the items of Line1", and "12 s - 5,000 of 20,000".
+std::string told_what(const Work::Report& report);
+std::string grouped(int number, const Locale& locale); ///< with the user's sign between thousands
+std::string told_how_far(const Work::Report& report, const Locale& locale);
+
+} // namespace brx
