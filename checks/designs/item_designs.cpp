@@ -19,7 +19,10 @@ lblNotice: label 11,332 538x15 tab 0 bottom wide '' as data
 Label4: label 11,357 538x15 tab 7 bottom wide '&C. Item (Examples: somegroup.someitem or [mytopic]myitem)'
 txtFullPath: text box 11,375 538x23 tab 8 bottom wide
 cmdRefresh: button 11,409 75x23 tab 9 bottom '&Refresh'
-bnOK: button 392,409 75x23 tab 10 right bottom 'OK' default
-bnCancel: button 474,409 75x23 tab 11 right bottom '&Cancel' cancel
+lblFind: label 97,413 34x15 tab 10 bottom hidden '&Find:'
+txtFind: text box 135,409 150x23 tab 11 bottom hidden
+lblFound: label 292,413 96x15 tab 0 bottom hidden '' as data
+bnOK: button 392,409 75x23 tab 12 right bottom 'OK' default
+bnCancel: button 474,409 75x23 tab 13 right bottom '&Cancel' cancel
 )");
 }

@@ -35,6 +35,9 @@ enum class Key {
     plus,
     minus,
     f1,
+    f3,
+    shift_f3,
+    control_f,
     backspace,
     erase, ///< all of a box's text: Home, Shift+End, Delete
     control_v,

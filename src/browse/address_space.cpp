@@ -11,9 +11,6 @@ namespace {
 
 constexpr std::int32_t flat_organization = 2;
 
-/// What only makes a branch show that it can be opened, until its children are read.
-bool is_placeholder(const TreeNode& node) { return to_upper(node.text()) == "XXX"; }
-
 /// A branch's path as the list of names from the root down. A name with a full stop in it falls apart here.
 StringArray branches_of(const std::string& key) {
     StringArray branches;
@@ -38,6 +35,8 @@ bool tells_of_a_lost_server(std::int32_t number) {
 }
 
 } // namespace
+
+bool dlgItemSelect::is_placeholder(const TreeNode& node) { return to_upper(node.text()) == "XXX"; }
 
 void dlgItemSelect::ConnectServer() {
     trap("ConnectServer", [&] {

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace brx {
 
@@ -67,10 +68,16 @@ private:
                                                 .KeyPress = [this](auto&) { txtFullPath_KeyPress(); }}};
     Button   cmdRefresh {*this, "cmdRefresh",  {.place = {11, 409, 75, 23}, .caption = "&Refresh", .tab = 9,
                                                 .anchor = Anchor::bottom, .Click = [this] { cmdRefresh_Click(); }}};
-    Button   bnOK       {*this, "bnOK",        {.place = {392, 409, 75, 23}, .caption = "OK", .tab = 10,
+    Label    lblFind    {*this, "lblFind",     {.place = {97, 413, 34, 15}, .caption = "&Find:", .tab = 10,
+                                                .visible = false, .anchor = Anchor::bottom}};
+    TextBox  txtFind    {*this, "txtFind",     {.place = {135, 409, 150, 23}, .tab = 11, .visible = false,
+                                                .anchor = Anchor::bottom, .Change = [this] { txtFind_Change(); }}};
+    Label    lblFound   {*this, "lblFound",    {.place = {292, 413, 96, 15}, .mnemonic = false, .visible = false,
+                                                .anchor = Anchor::bottom}};
+    Button   bnOK       {*this, "bnOK",        {.place = {392, 409, 75, 23}, .caption = "OK", .tab = 12,
                                                 .is_default = true, .anchor = last_row,
                                                 .Click = [this] { bnOK_Click(); }}};
-    Button   bnCancel   {*this, "bnCancel",    {.place = {474, 409, 75, 23}, .caption = "&Cancel", .tab = 11,
+    Button   bnCancel   {*this, "bnCancel",    {.place = {474, 409, 75, 23}, .caption = "&Cancel", .tab = 13,
                                                 .is_cancel = true, .anchor = last_row,
                                                 .Click = [this] { bnCancel_Click(); }}};
     // clang-format on
@@ -87,6 +94,8 @@ private:
     void txtFullPath_KeyPress();
     void bnOK_Click();
     void bnCancel_Click();
+    void txtFind_Change();
+    bool takes(Shortcut which) override;
 
     void ConnectServer();
     void BuildGroupList();
@@ -95,6 +104,20 @@ private:
     void GetAllLeaves();
     bool CheckItem();
     bool ValidateItem(const std::string& ItemID);
+
+    enum class Towards { here, next, previous };
+    void show_find_line(bool shown);
+    struct Hits;
+    template <class NameOf>
+    static Hits find_hits(const std::string& text, int count, int selected, Towards where, NameOf&& name_of);
+    void find(Towards where);
+    /// What is told of the hits, "" for none.
+    std::string find_item(Towards where);
+    std::string find_group(Towards where);
+    std::string told(const Hits& hits) const;
+    std::vector<TreeNode*> groups() const;
+    /// What only makes a branch show that it can be opened, until its children are read.
+    static bool is_placeholder(const TreeNode& node);
 
     void show_nothing_to_browse();
     void show_browsing();
@@ -111,6 +134,7 @@ private:
     OPCBrowserPtr browser_;
     std::string server_title_;
     std::string groups_notice_; ///< until they are read again
+    bool finds_groups_ = false; ///< by what was typed last, not items
     std::string selected_leaf_;
     std::string leaf_;
     bool ok_clicked_ = false;

@@ -143,6 +143,13 @@ bool Form::user_close() {
     return true;
 }
 
+bool Form::user_shortcut(Shortcut which) {
+    if (!in_front()) return false;
+    bool taken = false;
+    run_event([&] { taken = takes(which); });
+    return taken;
+}
+
 bool Form::user_help() {
     if (!in_front()) return false;
     // No procedure of the dialog's: nobody is reported to.

@@ -21,6 +21,14 @@ struct FormDesign {
     ErrorLibrary errors = ErrorLibrary::brxError6;
 };
 
+/// Keys that mean the same wherever in the dialog the focus is.
+enum class Shortcut {
+    find,          ///< Ctrl+F
+    find_next,     ///< F3
+    find_previous, ///< Shift+F3
+    leave,         ///< Escape, which presses the Cancel button where the dialog has no other use for it
+};
+
 /// A modal dialog. Its own fields may be set before it is shown and read after it has closed; its controls
 /// are in their design state whenever it loads.
 class Form : public Element, public Container, protected Module {
@@ -70,6 +78,8 @@ public:
 
     /// A person closed the window by other means than a button.
     bool user_close();
+    /// A person pressed keys that a dialog can have a use for. False where this one has none now.
+    bool user_shortcut(Shortcut which);
     /// A person pressed F1: the help file opens, where the host has one.
     bool user_help();
 
@@ -100,6 +110,9 @@ protected:
         const Work::Pause pause;
         return question();
     }
+
+    /// Whether it has a use for the keys: then it has done what they are for.
+    virtual bool takes(Shortcut) { return false; }
 
     virtual void Form_Load() {}
     /// The form has closed: the place to let go of the host's objects.

@@ -100,6 +100,13 @@ void TreeView::select(TreeNode* node) {
     changed(Aspect::selection);
 }
 
+void TreeView::bring_into_view(const TreeNode& node) {
+    std::vector<TreeNode*> closed;
+    for (TreeNode* around = node.parent_; around; around = around->parent_)
+        if (!around->expanded_) closed.push_back(around);
+    for (auto each = closed.rbegin(); each != closed.rend(); ++each) expand(**each);
+}
+
 void TreeView::note(Change::Kind kind, int index) {
     // Nobody reads the changes of a tree that is not on the screen yet; the first look is at everything.
     if (!peer()) return;

@@ -104,6 +104,8 @@ public:
     TreeNode* selected() const { return selected_; }
     /// Null selects none. Nothing fires.
     void select(TreeNode* node);
+    /// Opens what lies around the node, so that it can be seen; Expand fires for each.
+    void bring_into_view(const TreeNode& node);
 
     LabelEdit label_edit() const { return tree_look_.label_edit; }
     LineStyle line_style() const { return tree_look_.line_style; }

@@ -123,6 +123,12 @@ bool HeadlessScreen::key(Key key) {
             return user_.minus();
         case Key::f1:
             return user_.help();
+        case Key::f3:
+            return user_.shortcut(Shortcut::find_next);
+        case Key::shift_f3:
+            return user_.shortcut(Shortcut::find_previous);
+        case Key::control_f:
+            return user_.shortcut(Shortcut::find);
         case Key::backspace:
             return user_.backspace();
         case Key::erase:

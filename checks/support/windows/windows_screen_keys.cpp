@@ -171,6 +171,12 @@ bool WindowsScreen::key(Key key) {
         return stroke({.key = VK_SUBTRACT});
     case Key::f1:
         return stroke({.key = VK_F1});
+    case Key::f3:
+        return stroke({.key = VK_F3});
+    case Key::shift_f3:
+        return stroke({.key = VK_F3, .shift = true});
+    case Key::control_f:
+        return stroke({.key = 'F', .control = true});
     case Key::backspace:
         return stroke({.key = VK_BACK});
     case Key::erase:

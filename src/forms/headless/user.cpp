@@ -147,7 +147,10 @@ bool HeadlessUser::enter() {
     return button && button->user_click();
 }
 
+bool HeadlessUser::shortcut(Shortcut which) { return form() && form()->user_shortcut(which); }
+
 bool HeadlessUser::escape() {
+    if (shortcut(Shortcut::leave)) return true;
     Button* button = form() ? form()->cancel_button() : nullptr;
     return button && button->user_click();
 }

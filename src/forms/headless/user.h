@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/form.h"
 #include "forms/headless/engine.h"
 
 #include <string>
@@ -31,6 +32,7 @@ public:
     bool control_v(const std::string& clipboard);
     bool enter();
     bool escape();
+    bool shortcut(Shortcut which);
     bool tab(bool backwards);
     /// Ctrl+Tab
     bool turn_tab(bool backwards);

@@ -38,7 +38,8 @@ bool FormWindow::takes_key(const MSG& message) {
         switch (message.message) {
         case WM_KEYDOWN:
             if (message.wParam == VK_RETURN) finish_typing();
-            taken = message.wParam == VK_TAB && is_held(VK_CONTROL) && turn_tabs();
+            taken =
+                message.wParam == VK_TAB ? is_held(VK_CONTROL) && turn_tabs() : take_shortcut(message.wParam);
             break;
         case WM_CHAR:
             if (!is_wanted(message)) taken = take_accelerator(message.wParam);
@@ -76,6 +77,12 @@ bool FormWindow::take_accelerator(WPARAM character) {
                            : target && target->user_take_focus();
     });
     return true;
+}
+
+bool FormWindow::take_shortcut(WPARAM key) {
+    const auto take = [&](Shortcut which) { return deliver([&] { return form_.user_shortcut(which); }); };
+    if (key == VK_F3) return take(is_held(VK_SHIFT) ? Shortcut::find_previous : Shortcut::find_next);
+    return key == 'F' && is_held(VK_CONTROL) && take(Shortcut::find);
 }
 
 void FormWindow::finish_typing() {

@@ -116,7 +116,7 @@ bool FormWindow::command(WPARAM wparam, HWND sender) {
         peer->notified(HIWORD(wparam));
         return true;
     }
-    if (LOWORD(wparam) == IDCANCEL)
+    if (LOWORD(wparam) == IDCANCEL && !deliver([&] { return form_.user_shortcut(Shortcut::leave); }))
         if (Button* cancel = form_.cancel_button()) deliver([&] { return cancel->user_click(); });
     return true;
 }

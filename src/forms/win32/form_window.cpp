@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "forms/button.h"
 #include "forms/win32/dpi.h"
+#include "forms/win32/empty_template.h"
 #include "forms/win32/gdi.h"
 #include "forms/win32/wide.h"
 #include "forms/win32/window_name.h"
@@ -16,16 +17,6 @@
 #include <utility>
 
 namespace brx {
-
-namespace {
-
-/// A dialog without controls, menu, class and title of its own.
-struct alignas(DWORD) EmptyTemplate {
-    DLGTEMPLATE dialog{};
-    std::array<WORD, 3> nothing{};
-};
-
-} // namespace
 
 FormWindow::FormWindow(Win32Engine& engine, Form& form) : Peer(form), engine_(engine), form_(form) {}
 

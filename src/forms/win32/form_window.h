@@ -119,6 +119,7 @@ private:
     bool takes_key(const MSG& message);
     bool turn_tabs();
     bool take_accelerator(WPARAM character);
+    bool take_shortcut(WPARAM key);
     void finish_typing();
     void tick(UINT_PTR timer);
     void dpi_changed(unsigned dpi, const RECT& proposed);

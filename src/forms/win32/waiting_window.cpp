@@ -3,7 +3,9 @@
 #include "common/trap.h"
 #include "forms/win32/common_controls.h"
 #include "forms/win32/dpi.h"
+#include "forms/win32/empty_template.h"
 #include "forms/win32/wide.h"
+#include "forms/win32/window_name.h"
 #include "win32/this_module.h"
 
 #include <commctrl.h>
@@ -13,8 +15,6 @@
 namespace brx {
 
 namespace {
-
-constexpr const wchar_t* waiting_class = L"brx.Waiting";
 
 // At 96 DPI.
 constexpr SIZE inside = {380, 108};
@@ -53,17 +53,16 @@ WaitingWindow::WaitingWindow(HWND over, const Locale& locale, std::function<void
       dpi_(over ? dpi_of(over) : dpi_of(GetDesktopWindow())) {
     const LOGFONTW look = message_font(dpi_);
     font_.reset(CreateFontIndirectW(&look));
-    WNDCLASSW description{};
-    description.lpfnWndProc = procedure;
-    description.hInstance = this_module();
-    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    description.lpszClassName = waiting_class;
-    RegisterClassW(&description); // fails where another thread has done it
-    const SIZE size = frame_around({scaled(inside.cx, dpi_), scaled(inside.cy, dpi_)}, frame, frame_ex, dpi_);
-    handle_ = CreateWindowExW(frame_ex, waiting_class, L"Please wait", frame, 0, 0, size.cx, size.cy, nullptr,
-                              nullptr, this_module(), this);
+    EmptyTemplate empty;
+    empty.dialog.style = frame;
+    empty.dialog.dwExtendedStyle = frame_ex;
+    handle_ = CreateDialogIndirectParamW(this_module(), &empty.dialog, nullptr, procedure,
+                                         reinterpret_cast<LPARAM>(this));
     if (!handle_) return;
+    set_window_name(handle_, "Waiting");
+    SetWindowTextW(handle_, L"Please wait");
+    const SIZE size = frame_around({scaled(inside.cx, dpi_), scaled(inside.cy, dpi_)}, frame, frame_ex, dpi_);
+    SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     add(WC_STATICW, L"", SS_LEFT | SS_NOPREFIX, what_part, what_place);
     add(common_control(PROGRESS_CLASSW), L"", 0, bar_part, bar_place);
     add(WC_STATICW, L"", SS_LEFT | SS_NOPREFIX, how_far_part, how_far_place);
@@ -121,20 +120,25 @@ void WaitingWindow::follow() {
                  place.top + (place.bottom - place.top - (own.bottom - own.top)) / 2, 0, 0, how);
 }
 
-LRESULT CALLBACK WaitingWindow::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
-    if (message == WM_NCCREATE)
-        SetWindowLongPtrW(
-            window, GWLP_USERDATA,
-            reinterpret_cast<LONG_PTR>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams));
-    auto* const self = reinterpret_cast<WaitingWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (message == WM_ACTIVATE && LOWORD(wparam) != WA_INACTIVE) {
+INT_PTR CALLBACK WaitingWindow::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+    switch (message) {
+    case WM_INITDIALOG:
+        SetWindowLongPtrW(window, DWLP_USER, lparam);
+        return FALSE; // no focus yet
+    case WM_ACTIVATE:
+        if (LOWORD(wparam) == WA_INACTIVE) return FALSE;
         SetFocus(GetDlgItem(window, IDCANCEL));
-        return 0;
+        return TRUE;
+    case WM_NCDESTROY:
+        remove_window_name(window);
+        return FALSE;
+    case WM_COMMAND:
+        if (LOWORD(wparam) == IDCANCEL)
+            attempt(reinterpret_cast<WaitingWindow*>(GetWindowLongPtrW(window, DWLP_USER))->stop_);
+        return TRUE;
+    default:
+        return FALSE;
     }
-    const bool asked = message == WM_CLOSE || (message == WM_COMMAND && LOWORD(wparam) == IDCANCEL);
-    if (!self || !asked) return DefWindowProcW(window, message, wparam, lparam);
-    attempt(self->stop_);
-    return 0;
 }
 
 } // namespace brx

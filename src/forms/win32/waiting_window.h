@@ -38,7 +38,7 @@ private:
     HWND add(const wchar_t* window_class, const wchar_t* text, DWORD style, int id, RECT place) const;
     void write(int id, const std::string& text) const;
     void follow();
-    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
 
     const VisualStyles styles_;
     HWND over_;
