@@ -56,6 +56,42 @@ TEST_F(WorkOf, StopsCountingWhileAPersonIsAskedSomethingAndBeginsAnewThen) {
     EXPECT_TRUE(work.is_shown());
 }
 
+TEST_F(WorkOf, GoesOnAfterAQuestionWithWhatItWas) {
+    const Work::Scope scope(work);
+    work.waits_for("the outer one");
+    work.counts_to(5);
+    work.has_done(2);
+    {
+        const ModalTurn box(nullptr);
+        const Work::Scope of_another(work);
+        work.waits_for("another");
+        work.stop();
+    }
+    EXPECT_FALSE(work.is_stopped());
+    EXPECT_EQ(told_what(work.report()), "the outer one");
+    EXPECT_EQ(told_how_far(work.report(), Locale{}), "0 s - 2 of 5");
+    work.stop();
+    {
+        const ModalTurn box(nullptr);
+        const Work::Scope of_another(work);
+        EXPECT_FALSE(work.is_stopped());
+    }
+    EXPECT_TRUE(work.is_stopped());
+}
+
+TEST_F(WorkOf, AStopThatWasMeantForOtherWorkComesToNothing) {
+    unsigned turn = 0;
+    {
+        const Work::Scope scope(work);
+        turn = work.report().turn;
+    }
+    const Work::Scope scope(work);
+    work.stop(turn);
+    EXPECT_FALSE(work.is_stopped());
+    work.stop(work.report().turn);
+    EXPECT_TRUE(work.is_stopped());
+}
+
 TEST_F(WorkOf, EachHandlerBeginsWithNothingStoppedAndNothingTold) {
     {
         const Work::Scope scope(work);

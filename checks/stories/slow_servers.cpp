@@ -21,21 +21,23 @@ void a_long_branch(Play& its) {
     its.host.browser->root.has("Line3");
 }
 
+void expect_told(const std::optional<Waiting>& seen, const std::string& what, const std::string& how_far) {
+    EXPECT_EQ(seen.value_or(Waiting{}).what, what);
+    EXPECT_TRUE(seen.value_or(Waiting{}).how_far.ends_with(how_far)) << seen.value_or(Waiting{}).how_far;
+}
+
 } // namespace
 
 SCENARIO(SlowServers, WhatIsWaitedForIsTold) {
     a_long_branch(its);
-    std::optional<Waiting> early;
     std::optional<Waiting> late;
     Browsing dialog(its);
-    its.host.calls.during("OPCBrowser.Item(1)", [&] { early = its.person.screen().waiting(); });
     its.host.calls.during("OPCBrowser.Item(4)", [&] {
         its.stage->pass(a_second);
         late = its.person.screen().waiting();
     });
     its.person.clicks_node("TrView", "Line1");
-    EXPECT_EQ(early, std::nullopt);
-    EXPECT_EQ(late, (Waiting{"Reading branch Line1 of Matrix on PC7", "1 s - 3 of 5"}));
+    expect_told(late, "Reading branch Line1 of Matrix on PC7", " s - 3 of 5");
     EXPECT_EQ(its.person.screen().waiting(), std::nullopt) << "It is over.";
     EXPECT_EQ(its.person.lines_of("lstItem").size(), 5U);
     EXPECT_EQ(its.person.reads("lblNotice"), "");
@@ -51,7 +53,7 @@ SCENARIO(SlowServers, WhatIsWaitedForBeforeADialogOpensIsTold) {
         seen = its.person.screen().waiting();
     });
     Browsing dialog(its);
-    EXPECT_EQ(seen, (Waiting{"Reading the groups of Matrix on PC7", "1 s - 1 of 3"}));
+    expect_told(seen, "Reading the groups of Matrix on PC7", " s - 1 of 3");
     EXPECT_EQ(its.person.screen().waiting(), std::nullopt);
     its.person.closes_the_window();
     dialog.result();
@@ -76,6 +78,26 @@ SCENARIO(SlowServers, StopEndsAListBeforeItsNextCallAndTheDialogSaysSo) {
     its.person.clicks_node("TrView", "Line1");
     EXPECT_EQ(its.person.lines_of("lstItem").size(), 5U);
     EXPECT_EQ(its.person.reads("lblNotice"), "");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, StopBeforeAnythingWasReadMakesNoFurtherCall) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    const auto stop = [&] {
+        its.stage->pass(a_second);
+        EXPECT_TRUE(its.person.screen().stop());
+    };
+    dialog.calls();
+    its.host.calls.during("OPCBrowser.MoveTo(Line1)", stop);
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(dialog.calls(), (Lines{"OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)"}));
+    EXPECT_EQ(its.person.reads("lblNotice"), "Reading was stopped. To read the items: a click on the group.");
+    its.host.calls.during("OPCBrowser.MoveTo(Line1)", stop);
+    its.person.expands("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("TrView").front(), " Line1");
+    EXPECT_EQ(its.person.reads("lblNotice"), "Reading was stopped. To read the groups: Refresh.");
     its.person.closes_the_window();
     dialog.result();
 }

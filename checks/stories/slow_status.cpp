@@ -17,6 +17,13 @@ Lines reads_of(Play& its, std::size_t from) {
     return reads;
 }
 
+/// The next tick that reads anything: after a long one the timer rests.
+Lines reads_of_next_tick(Play& its) {
+    const std::size_t before = its.host.calls.made().size();
+    for (int tries = 0; tries < 5 && reads_of(its, before).empty(); ++tries) its.person.waits_for_ticks(1);
+    return reads_of(its, before);
+}
+
 } // namespace
 
 SCENARIO(SlowStatus, ATickThatTakesLongLeavesTheRestToTheNextOne) {
@@ -24,31 +31,23 @@ SCENARIO(SlowStatus, ATickThatTakesLongLeavesTheRestToTheNextOne) {
     its.host.groups->has("Slow");
     Configuring dialog(its);
     its.host.calls.during("OPCServer.StartTime", [&] { its.stage->pass(std::chrono::milliseconds(500)); });
-    std::size_t before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before),
+    EXPECT_EQ(reads_of_next_tick(its),
               (Lines{"OPCServer.ServerNode", "OPCServer.ServerName", "OPCServer.StartTime"}));
     EXPECT_EQ(its.person.lines_of("lvwServerInfo").size(), 3U);
 
     its.stage->start([&] { its.stage->pass(std::chrono::milliseconds(600)); });
     its.host.calls.during("OPCGroup.Name", [&] { its.stage->pass(std::chrono::milliseconds(500)); });
-    before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before),
+    EXPECT_EQ(reads_of_next_tick(its),
               (Lines{"OPCServer.CurrentTime", "OPCServer.LastUpdateTime", "OPCServer.Bandwidth",
                      "OPCServer.BuildNumber", "OPCServer.ClientName", "OPCServer.MajorVersion",
                      "OPCServer.MinorVersion", "OPCServer.ServerState", "OPCServer.VendorInfo",
                      "OPCServer.OPCGroups", "OPCGroup.Name"}));
 
     its.stage->start([&] { its.stage->pass(std::chrono::milliseconds(600)); });
-    before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before), (Lines{"OPCServer.OPCGroups", "OPCGroup.Name"})) << "The second one.";
+    EXPECT_EQ(reads_of_next_tick(its), (Lines{"OPCServer.OPCGroups", "OPCGroup.Name"})) << "The second one.";
     EXPECT_EQ(its.person.lines_of("lvwServerInfo").size(), 14U);
 
-    before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before).size(), 15U) << "All of it again.";
+    EXPECT_EQ(reads_of_next_tick(its).size(), 15U) << "All of it again.";
     dialog.leaves();
 }
 
@@ -68,14 +67,11 @@ SCENARIO(SlowStatus, AnErrorBeginsTheReadingAgain) {
     its.host.calls.during("OPCServer.StartTime", [&] { its.person.screen().choose("TabStrip1", 3); });
     its.person.waits_for_ticks(1);
     its.host.calls.fail_on("OPCServer.CurrentTime");
-    std::size_t before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
+    const Lines reads = reads_of_next_tick(its);
     its.expect_report(CallLog::failure_number, "dlgConfiguration.Timer1_Timer");
-    EXPECT_EQ(reads_of(its, before), Lines{"OPCServer.CurrentTime"});
+    EXPECT_EQ(reads, Lines{"OPCServer.CurrentTime"});
     its.host.calls.fail_on("");
-    before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before).size(), 13U) << "From the first one to the groups.";
+    EXPECT_EQ(reads_of_next_tick(its).size(), 13U) << "From the first one to the groups.";
     dialog.leaves();
 }
 
@@ -84,12 +80,8 @@ SCENARIO(SlowStatus, TheTimesOfAServerGiveWayToo) {
     Showing information(*its.stage, "ServerInformation");
     information.show(server);
     its.host.calls.during("OPCServer.StartTime", [&] { its.person.screen().key(Key::tab); });
-    std::size_t before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before), Lines{"OPCServer.StartTime"});
-    before = its.host.calls.made().size();
-    its.person.waits_for_ticks(1);
-    EXPECT_EQ(reads_of(its, before), (Lines{"OPCServer.CurrentTime", "OPCServer.LastUpdateTime"}));
+    EXPECT_EQ(reads_of_next_tick(its), Lines{"OPCServer.StartTime"});
+    EXPECT_EQ(reads_of_next_tick(its), (Lines{"OPCServer.CurrentTime", "OPCServer.LastUpdateTime"}));
     its.person.presses("bnOK");
     EXPECT_TRUE(information.result());
 }

@@ -22,16 +22,22 @@ StringArray branches_of(const std::string& key) {
     return branches;
 }
 
-/// The server or what it runs on has gone, by the codes that the system has for that.
+/// The server or the way to it has gone, by the codes that the system has for that.
 bool tells_of_a_lost_server(std::int32_t number) {
-    const auto code = static_cast<std::uint32_t>(number);
-    constexpr std::uint32_t calls = 0x80010000;          // RPC_E_...
-    constexpr std::uint32_t first_remote = 0x800706A4;   // RPC_S_INVALID_STRING_BINDING
-    constexpr std::uint32_t last_remote = 0x80070721;    // RPC_S_SEC_PKG_ERROR
-    constexpr std::uint32_t not_connected = 0x800401FD;  // CO_E_OBJNOTCONNECTED
-    constexpr std::uint32_t does_not_start = 0x80080005; // CO_E_SERVER_EXEC_FAILURE
-    return (code & 0xFFFF0000U) == calls || (code >= first_remote && code <= last_remote) ||
-           code == not_connected || code == does_not_start;
+    switch (static_cast<std::uint32_t>(number)) {
+    case 0x80010006: // RPC_E_CONNECTION_TERMINATED
+    case 0x80010007: // RPC_E_SERVER_DIED
+    case 0x80010012: // RPC_E_SERVER_DIED_DNE
+    case 0x80010108: // RPC_E_DISCONNECTED
+    case 0x800401FD: // CO_E_OBJNOTCONNECTED
+    case 0x80080005: // CO_E_SERVER_EXEC_FAILURE
+    case 0x800706BA: // RPC_S_SERVER_UNAVAILABLE
+    case 0x800706BE: // RPC_S_CALL_FAILED
+    case 0x800706BF: // RPC_S_CALL_FAILED_DNE
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -121,6 +127,7 @@ void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
         // After a failed move the branches of wherever the browser stands are read.
         ignoring([&] { browser_->MoveTo(branches); });
         ignoring([&] { browser_->ShowBranches(); });
+        if (work().is_stopped()) return note(stopped("groups", "Refresh"), "");
         const std::int32_t count = browser_->Count();
         if (count < 1) {
             TreeNode* child = TrView.node(ParentIndex).child();
@@ -166,6 +173,7 @@ void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
         browser_->MoveToRoot();
         ignoring([&] { browser_->MoveTo(branches); });
         ignoring([&] { browser_->ShowLeafs(false); });
+        if (work().is_stopped()) return note(groups_notice_, stopped("items", "a click on the group"));
         list_items(browser_->Count(), "a click on the group");
     });
 }
@@ -184,22 +192,24 @@ void dlgItemSelect::GetAllLeaves() {
 }
 
 void dlgItemSelect::list_items(std::int32_t count, const char* again) {
-    work().counts_to(count);
+    Work& reading = work();
+    reading.counts_to(count);
     std::string name;
     for (std::int32_t i = 1; i <= count; ++i) {
-        if (work().is_stopped()) return note(groups_notice_, stopped_after(i - 1, count, "items", again));
-        work().has_done(i - 1);
+        if (reading.is_stopped()) return note(groups_notice_, stopped_after(i - 1, count, "items", again));
+        reading.has_done(i - 1);
         browser_->read_item(i, name);
         hlxListTools::add(lstItem, name);
     }
 }
 
 void dlgItemSelect::ignoring(const std::function<void()>& step) {
+    if (work().is_stopped()) return;
     attempt([&] {
         try {
             step();
         } catch (const Error& error) {
-            if (tells_of_a_lost_server(error.number()))
+            if (!work().is_stopped() && tells_of_a_lost_server(error.number()))
                 note(groups_notice_, "The server does not answer: " + error.description());
         }
     });
@@ -215,6 +225,10 @@ std::string dlgItemSelect::stopped_after(int read, int of_all, const char* what,
     const Locale& locale = environment().locale;
     return "Reading was stopped at " + grouped(read, locale) + " of " + grouped(of_all, locale) + " " + what +
            ". To read them all: " + again + ".";
+}
+
+std::string dlgItemSelect::stopped(const std::string& what, const std::string& again) {
+    return "Reading was stopped. To read the " + what + ": " + again + ".";
 }
 
 } // namespace brx

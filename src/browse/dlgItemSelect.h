@@ -126,6 +126,7 @@ private:
     /// A step whose error is ignored, but for telling that the server does not answer.
     void ignoring(const std::function<void()>& step);
     void note(const std::string& of_groups, const std::string& of_items);
+    static std::string stopped(const std::string& what, const std::string& again);
     std::string stopped_after(int read, int of_all, const char* what, const char* again) const;
     void set_path(const std::string& text);
 

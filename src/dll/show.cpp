@@ -35,6 +35,7 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     const com_ptr<IUnknown> alive(&object);
     // Until a dialog is open, windows of other dialogs on this thread are not to be worked with.
     const CodeTurn code;
+    const Work::Pause others; // of a dialog from whose handler the host shows this one
     Surroundings here;
     bool outcome = false;
     ShowProcedure(class_name, here.environment.errors).run([&] {

@@ -62,6 +62,9 @@ public:
     /// Opens the help file at the topic, with 0 at its contents.
     virtual HelpOutcome show_help(const std::string& help_file, std::int32_t topic) = 0;
 
+    /// Something that is none of its windows comes before its forms: a message box or a dialog of the host's.
+    virtual void comes_before_forms() {}
+
     /// The work that the handlers of its forms do.
     virtual Work& work() { return work_; }
 

@@ -68,6 +68,7 @@ Control* Form::first_focusable() const {
 
 std::int32_t Form::show_message(const Message& message) {
     settle();
+    environment_.engine.comes_before_forms();
     const ModalTurn waiting(nullptr);
     return environment_.services.show_message(message);
 }

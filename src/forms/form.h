@@ -106,7 +106,8 @@ protected:
     std::int32_t show_message(const Message& message);
 
     /// What a dialog of the host's answers, which waits for a person.
-    template <class Question> static auto answered(Question&& question) {
+    template <class Question> auto answered(Question&& question) {
+        environment_.engine.comes_before_forms();
         const Work::Pause pause;
         return question();
     }

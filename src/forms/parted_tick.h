@@ -21,9 +21,9 @@ public:
     bool takes_step(Work& work) {
         const std::size_t step = step_++;
         if (step < from_ || has_given_way_) return false;
-        // One step at least, or a slow server would never be read.
-        has_given_way_ =
-            work.keeps_a_person_waiting() || (has_taken_ && work.lasted() >= Work::long_for_a_tick);
+        // A slow server is read step by step, but a person who works goes before it.
+        has_given_way_ = work.is_stopped() || work.keeps_a_person_waiting() ||
+                         (has_taken_ && work.lasted() >= Work::long_for_a_tick);
         if (has_given_way_) left_ = step;
         has_taken_ = true;
         return !has_given_way_;

@@ -23,12 +23,29 @@ Work::Milliseconds Work::now() const {
 
 Work::Report Work::report() const {
     const std::lock_guard lock(mutex_);
-    return {.what = what_, .done = done_, .total = total_, .lasted = lasted()};
+    return {.what = what_,
+            .done = done_,
+            .total = total_,
+            .lasted = lasted(),
+            .stopped = stopped_,
+            .turn = turn_};
+}
+
+void Work::stop(unsigned turn) {
+    const std::lock_guard lock(mutex_);
+    if (!going_on_ || turn != turn_) return;
+    stopped_ = true;
+    is_seen();
+    break_off_call();
 }
 
 void Work::go_on(bool on) {
-    if (on) began_ = now();
-    going_on_ = on;
+    {
+        const std::lock_guard lock(mutex_);
+        ++turn_;
+        if (on) began_ = now();
+        going_on_ = on;
+    }
     changed();
 }
 
@@ -36,7 +53,7 @@ Work::Scope::Scope(Work& work) : own_(running ? nullptr : &work) {
     if (!own_) return;
     running = own_;
     own_->waits_for({});
-    own_->stopped_ = false;
+    own_->stopped_ = own_->is_seen_ = false;
     own_->go_on(true);
 }
 
@@ -47,12 +64,24 @@ Work::Scope::~Scope() {
 }
 
 Work::Pause::Pause() : paused_(std::exchange(running, nullptr)) {
-    if (paused_) paused_->go_on(false);
+    if (!paused_) return;
+    paused_->go_on(false);
+    const Report before = paused_->report();
+    what_ = before.what;
+    done_ = before.done;
+    total_ = before.total;
+    stopped_ = before.stopped;
 }
 
 Work::Pause::~Pause() {
     running = paused_;
-    if (paused_) paused_->go_on(true);
+    if (!paused_) return;
+    paused_->waits_for(what_);
+    paused_->done_ = done_;
+    paused_->total_ = total_;
+    paused_->stopped_ = stopped_;
+    paused_->is_seen_ = stopped_;
+    paused_->go_on(true);
 }
 
 std::string grouped(int number, const Locale& locale) {

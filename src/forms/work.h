@@ -27,6 +27,8 @@ public:
         int done = 0;          ///< of `total`
         int total = 0;         ///< 0 where nobody knows
         Milliseconds lasted{}; ///< since it began, or went on after a person was asked something
+        bool stopped = false;
+        unsigned turn = 0; ///< which work of its thread it is, for `stop`
     };
 
     Work() = default;
@@ -42,7 +44,7 @@ public:
     void counts_to(int total) { done_ = 0, total_ = total; }
     void has_done(int count) { done_.store(count, std::memory_order_relaxed); }
     /// Whether a person wants it to end before its next call.
-    virtual bool is_stopped() { return stopped_; }
+    bool is_stopped() { return is_seen_.load(std::memory_order_relaxed) && looks_for_stop(); }
     /// Whether a person has done something that waits for it to end.
     virtual bool keeps_a_person_waiting() { return false; }
     Milliseconds lasted() const { return now() - began_.load(); }
@@ -53,7 +55,9 @@ public:
     Report report() const;
     /// Whether there is work, and no person is being asked something meanwhile.
     bool is_going_on() const { return going_on_; }
-    void stop() { stopped_ = true; }
+    /// A person wants it to end. Nothing happens when other work goes on by now than that of this turn.
+    void stop(unsigned turn);
+    void stop() { stop(report().turn); }
 
     /// For its lifetime a handler runs, unless one runs already.
     class Scope {
@@ -67,7 +71,8 @@ public:
         Work* own_;
     };
 
-    /// For its lifetime the thread waits for a person, not a person for it.
+    /// For its lifetime the thread waits for a person, not a person for it. Work of others goes on from what
+    /// it was.
     class Pause {
     public:
         Pause();
@@ -77,20 +82,31 @@ public:
 
     private:
         Work* paused_;
+        std::string what_;
+        int done_ = 0;
+        int total_ = 0;
+        bool stopped_ = false;
     };
 
 protected:
     /// It begins, ends, is paused or goes on.
     virtual void changed() {}
+    /// A person sees it, and so can want it to end: asked before each call, which costs nothing before that.
+    void is_seen() { is_seen_ = true; }
+    virtual bool looks_for_stop() { return stopped_; }
+    /// Breaks off the call that is under way, where that can be done. The work does not end meanwhile.
+    virtual void break_off_call() {}
 
 private:
     void go_on(bool on);
 
-    mutable std::mutex mutex_; ///< of `what_`
+    mutable std::mutex mutex_; ///< of `what_` and the turns
     std::string what_;
+    unsigned turn_ = 0;
     std::atomic<int> done_ = 0;
     std::atomic<int> total_ = 0;
     std::atomic<bool> stopped_ = false;
+    std::atomic<bool> is_seen_ = false;
     std::atomic<bool> going_on_ = false;
     std::atomic<Milliseconds> began_{};
 };

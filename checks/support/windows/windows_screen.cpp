@@ -103,8 +103,15 @@ std::string WindowsScreen::help() {
     return asked([] { return WatchedHelp::shown(); });
 }
 
+/// The other thread takes its moment to open it and to close it.
+HWND WindowsScreen::waiting_window_now() {
+    // In the middle of a handler one is looked for that comes, and afterwards one that goes.
+    for (int tries = 0; tries < 100 && (waiting_window() != nullptr) != ui_.is_this(); ++tries) Sleep(20);
+    return waiting_window();
+}
+
 std::optional<Waiting> WindowsScreen::waiting() {
-    const HWND window = waiting_window();
+    const HWND window = waiting_window_now();
     if (!window) return std::nullopt;
     std::string what = text_of(GetDlgItem(window, 100));
     if (const auto end = what.find('.'); end != std::string::npos) what.resize(end);
@@ -112,7 +119,7 @@ std::optional<Waiting> WindowsScreen::waiting() {
 }
 
 bool WindowsScreen::stop() {
-    const HWND window = waiting_window();
+    const HWND window = waiting_window_now();
     return window && SendMessageW(GetDlgItem(window, IDCANCEL), BM_CLICK, 0, 0) == 0;
 }
 

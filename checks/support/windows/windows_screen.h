@@ -71,6 +71,7 @@ private:
     bool type_date(const std::string& picker, const std::string& text);
     bool go_to_by_tab(const std::string& control);
     void note_differences();
+    HWND waiting_window_now();
 
     // On the thread only.
     HWND top_window() const;

@@ -41,7 +41,6 @@ void HeadlessEngine::repaint(Form&) {}
 void HeadlessEngine::hourglass(Form&, bool on) { hourglasses_ += on ? 1 : -1; }
 
 std::int32_t HeadlessEngine::message_box(const Message& message) {
-    miss_held();
     const auto outer_message = std::exchange(message_, message);
     answer_ = 0;
     ++opened_;

@@ -40,6 +40,7 @@ public:
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
     HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
+    void comes_before_forms() override { miss_held(); }
     HeadlessWork& work() override { return work_; }
 
     /// Does what a person does, later when code runs; false when it was not possible.

@@ -19,6 +19,22 @@ unsigned system_dpi() {
 
 } // namespace
 
+namespace {
+void* set_thread_context(void* context) {
+    using SetFunction = void*(WINAPI*)(void*);
+    static const auto set = function_of<SetFunction>(L"user32.dll", "SetThreadDpiAwarenessContext");
+    return set && context ? set(context) : nullptr;
+}
+} // namespace
+
+ScaleOf::ScaleOf(HWND window) {
+    using ContextFunction = void*(WINAPI*)(HWND);
+    static const auto context = function_of<ContextFunction>(L"user32.dll", "GetWindowDpiAwarenessContext");
+    if (context && window) before_ = set_thread_context(context(window));
+}
+
+ScaleOf::~ScaleOf() { set_thread_context(before_); }
+
 unsigned dpi_of(HWND window) {
     using GetDpiForWindowFunction = UINT(WINAPI*)(HWND);
     static const auto get = function_of<GetDpiForWindowFunction>(L"user32.dll", "GetDpiForWindow");

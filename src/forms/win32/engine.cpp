@@ -56,7 +56,7 @@ void Win32Engine::show_modal(Form& form) {
     {
         const HWND owner = window_in_front();
         DisabledThreadWindows others;
-        if (over_own_form) open_forms_.back()->miss_held();
+        comes_before_forms();
         FormWindow window(*this, form, owner);
         open_forms_.push_back(&window);
         window.open();
@@ -101,7 +101,6 @@ void Win32Engine::hourglass(Form& form, bool on) {
 }
 
 std::int32_t Win32Engine::message_box(const Message& message) {
-    if (!open_forms_.empty()) open_forms_.back()->miss_held();
     const HWND owner = window_in_front();
     const HWND focus_before = GetFocus();
     const auto style = static_cast<UINT>(message.style) | (owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND);
@@ -126,7 +125,14 @@ HelpOutcome Win32Engine::show_help(const std::string& help_file, std::int32_t to
     return open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
 }
 
-bool Win32Engine::holds_deeds() const { return !open_forms_.empty() && open_forms_.back()->holds_deeds(); }
+bool Win32Engine::holds_deeds() const {
+    return !open_forms_.empty() && &open_forms_.back()->form() == turn::front() &&
+           open_forms_.back()->holds_deeds();
+}
+
+void Win32Engine::comes_before_forms() {
+    if (!open_forms_.empty()) open_forms_.back()->miss_held();
+}
 
 HWND Win32Engine::window_in_front() const {
     for (auto window = open_forms_.rbegin(); window != open_forms_.rend(); ++window)

@@ -29,6 +29,7 @@ public:
     void hourglass(Form& form, bool on) override;
     std::int32_t message_box(const Message& message) override;
     HelpOutcome show_help(const std::string& help_file, std::int32_t topic) override;
+    void comes_before_forms() override;
     WatchedWork& work() override { return work_; }
 
     /// Whether the form shows the hourglass.

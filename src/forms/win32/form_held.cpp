@@ -6,7 +6,7 @@
 #include "forms/win32/form_window.h"
 
 #include <array>
-#include <optional>
+#include <utility>
 
 namespace brx {
 
@@ -48,17 +48,18 @@ KeyStates key_states() {
     return states;
 }
 
-/// For its lifetime the keys are held down that were so at another time.
-class KeysAsThen {
-public:
-    explicit KeysAsThen(KeyStates then) { SetKeyboardState(then.data()); }
-    ~KeysAsThen() { SetKeyboardState(now_.data()); }
-    KeysAsThen(const KeysAsThen&) = delete;
-    KeysAsThen& operator=(const KeysAsThen&) = delete;
+constexpr BYTE held_down = 0x80;
+constexpr BYTE toggled = 1;
 
-private:
-    KeyStates now_ = key_states();
-};
+/// What is held down now, in the eyes of the system, of the keys that others go together with.
+void end_keys_of_then() {
+    KeyStates states = key_states();
+    for (BYTE& each : states) each &= toggled;
+    for (const int key :
+         {VK_SHIFT, VK_LSHIFT, VK_RSHIFT, VK_CONTROL, VK_LCONTROL, VK_RCONTROL, VK_MENU, VK_LMENU, VK_RMENU})
+        if (GetAsyncKeyState(key) < 0) states[static_cast<std::size_t>(key)] |= held_down;
+    SetKeyboardState(states.data());
+}
 
 /// Of the key that was dealt with last.
 bool take_character(MSG& message) {
@@ -77,6 +78,7 @@ bool FormWindow::holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam) 
     if (input == Input::none || !has_to_wait()) return false;
     if (message == WM_KEYDOWN && wparam == VK_ESCAPE && engine_.work().is_shown()) {
         engine_.work().stop();
+        holds_key_ = true; // nor does its character come to anything
         return true;
     }
     const MSG held{
@@ -116,14 +118,28 @@ void FormWindow::deal_with(MSG message) {
 
 /// In the control that has the focus by now.
 void FormWindow::press_again(MSG key, const std::array<BYTE, 256>& states) {
-    const KeysAsThen keys(states);
+    KeyStates as_then = key_states();
+    for (std::size_t i = 0; i < as_then.size(); ++i)
+        as_then[i] = static_cast<BYTE>((as_then[i] & toggled) | (states[i] & held_down));
+    SetKeyboardState(as_then.data());
+    keys_of_then_ = true;
     const auto press = [&](MSG message) {
         const HWND focused = GetFocus();
-        message.hwnd = focused && IsChild(handle_, focused) ? focused : handle_;
+        message.hwnd = focused && IsChild(handle_, focused) ? focused : window_of(form_.focused());
         if (message.hwnd) deal_with(message);
     };
     press(key);
     while (form_.loaded() && take_character(key)) press(key);
+    forget_keys_of_then();
+}
+
+void FormWindow::forget_keys_of_then() {
+    if (std::exchange(keys_of_then_, false)) end_keys_of_then();
+}
+
+void FormWindow::miss_held() {
+    held_.miss();
+    forget_keys_of_then();
 }
 
 void FormWindow::click_again(MSG click) {

@@ -25,6 +25,10 @@ bool is_held(int key) { return (GetKeyState(key) & 0x8000) != 0; }
 
 bool FormWindow::takes(MSG& message) {
     if (is_key(message)) holds_key_ = false;
+    // One that is kept down presses nothing again: it may have ended work that lasted, and be meant for that.
+    constexpr LPARAM again = LPARAM{1} << 30;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE && (message.lParam & again) != 0)
+        return true;
     const bool outer = std::exchange(by_key_, is_key(message));
     const bool taken = takes_key(message) || IsDialogMessageW(handle_, &message);
     by_key_ = outer;

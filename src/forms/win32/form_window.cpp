@@ -199,12 +199,15 @@ void FormWindow::refresh(Aspect aspects) {
     });
 }
 
+HWND FormWindow::window_of(const Control* focused) const {
+    const auto* peer = focused ? dynamic_cast<ControlPeer*>(focused->peer()) : nullptr;
+    return peer && peer->handle() ? peer->handle() : handle_;
+}
+
 void FormWindow::show_focus() {
     // While another window is active, taking the focus would bring this one in front of it.
     if (!handle_ || GetActiveWindow() != handle_) return;
-    const Control* focused = form_.focused();
-    const auto* peer = focused ? dynamic_cast<ControlPeer*>(focused->peer()) : nullptr;
-    const HWND wanted = peer && peer->handle() ? peer->handle() : handle_;
+    const HWND wanted = window_of(form_.focused());
     if (GetFocus() == wanted) return;
     const Showing echo(*this);
     SetFocus(wanted);

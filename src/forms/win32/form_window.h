@@ -38,7 +38,7 @@ public:
     bool do_held();
     bool holds_deeds() const { return !held_.empty(); }
     /// Something comes before it: the rest of what was being done is not meant for that.
-    void miss_held() { held_.miss(); }
+    void miss_held();
 
     // For the peers of its controls.
 
@@ -115,7 +115,10 @@ private:
     /// Deals with a message of its controls, here or in the dialog manager; false when it is neither's.
     bool takes(MSG& message);
     void press_again(MSG key, const std::array<BYTE, 256>& states);
+    void forget_keys_of_then();
     void click_again(MSG click);
+    /// The form's own where no control has the focus.
+    HWND window_of(const Control* focused) const;
     bool takes_key(const MSG& message);
     bool turn_tabs();
     bool take_accelerator(WPARAM character);
@@ -138,8 +141,9 @@ private:
     UINT_PTR next_id_ = 100; // clear of the numbers that Enter and Escape send
     int showing_ = 0;
     HeldDeeds held_;
-    bool holds_key_ = false; ///< the key that was pressed last waits, and its characters with it
-    bool by_key_ = false;    ///< a key is dealt with: where the focus comes, it comes from the keyboard
+    bool keys_of_then_ = false; ///< those count as held down that were so when the present deed was held back
+    bool holds_key_ = false;    ///< the key that was pressed last waits, and its characters with it
+    bool by_key_ = false;       ///< a key is dealt with: where the focus comes, it comes from the keyboard
 };
 
 } // namespace brx

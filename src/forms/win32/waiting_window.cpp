@@ -31,24 +31,19 @@ RECT at_scale(const RECT& place, unsigned dpi) {
             scaled(place.bottom, dpi)};
 }
 
-std::string sentence(const Work::Report& report, WaitingWindow::Stopping stopping) {
-    switch (stopping) {
-    case WaitingWindow::Stopping::asked:
-        return told_what(report) + ".\nIt is stopped as soon as the server answers.";
-    case WaitingWindow::Stopping::impossible:
-        return told_what(report) +
-               ".\nThis call cannot be broken off: it is stopped when the server answers.";
-    case WaitingWindow::Stopping::not_asked:
-        break;
-    }
-    return told_what(report) + ".";
+std::string sentence(const Work::Report& report, bool can_break_off) {
+    const std::string what = told_what(report) + ".";
+    if (!report.stopped) return what;
+    return what + (can_break_off ? "\nIt ends with the call that is under way."
+                                 : "\nThis call cannot be broken off: it ends when the server answers.");
 }
 
 } // namespace
 
-WaitingWindow::WaitingWindow(HWND over, const Locale& locale, std::function<void()> stop)
+WaitingWindow::WaitingWindow(HWND over, const Locale& locale, bool can_break_off, std::function<void()> stop)
     : over_(over),
       locale_(locale),
+      can_break_off_(can_break_off),
       stop_(std::move(stop)),
       dpi_(over ? dpi_of(over) : dpi_of(GetDesktopWindow())) {
     const LOGFONTW look = message_font(dpi_);
@@ -70,7 +65,10 @@ WaitingWindow::WaitingWindow(HWND over, const Locale& locale, std::function<void
 }
 
 WaitingWindow::~WaitingWindow() {
-    if (handle_) DestroyWindow(handle_);
+    if (!handle_) return;
+    // Otherwise the system would choose who is in front then.
+    if (over_ && GetForegroundWindow() == handle_) SetForegroundWindow(over_);
+    DestroyWindow(handle_);
 }
 
 HWND WaitingWindow::add(const wchar_t* window_class, const wchar_t* text, DWORD style, int id,
@@ -90,33 +88,36 @@ void WaitingWindow::write(int id, const std::string& text) const {
     if (wanted != window_text(part)) SetWindowTextW(part, wanted.c_str());
 }
 
-void WaitingWindow::tell(const Work::Report& report, Stopping stopping) {
+void WaitingWindow::tell(const Work::Report& report) {
     if (!handle_) return;
-    write(what_part, sentence(report, stopping));
+    write(what_part, sentence(report, can_break_off_));
     write(how_far_part, told_how_far(report, locale_));
     const HWND bar = GetDlgItem(handle_, bar_part);
     ShowWindow(bar, report.total > 0 ? SW_SHOWNA : SW_HIDE);
     SendMessageW(bar, PBM_SETRANGE32, 0, report.total);
     SendMessageW(bar, PBM_SETPOS, static_cast<WPARAM>(report.done), 0);
-    EnableWindow(GetDlgItem(handle_, IDCANCEL), stopping == Stopping::not_asked);
     follow();
 }
 
-/// Stays in the middle of the dialog; above everything else only while the program is the one that a person
-/// works with.
+/// Stays in the middle of the dialog; above everything else only while a person works with that or with it.
 void WaitingWindow::follow() {
-    DWORD in_front = 0;
-    GetWindowThreadProcessId(GetForegroundWindow(), &in_front);
-    UINT how = SWP_NOACTIVATE | SWP_NOSIZE | SWP_SHOWWINDOW;
     RECT place{};
-    if (!over_ || !IsWindowVisible(over_) || !GetWindowRect(over_, &place))
+    if (!over_ || !IsWindowVisible(over_) || IsIconic(over_) || !GetWindowRect(over_, &place))
         SystemParametersInfoW(SPI_GETWORKAREA, 0, &place, 0);
+    UINT how = SWP_NOACTIVATE | SWP_NOSIZE | SWP_SHOWWINDOW;
     if (EqualRect(&place, &over_place_) && IsWindowVisible(handle_)) how |= SWP_NOMOVE;
     over_place_ = place;
+    const HWND in_front = GetForegroundWindow();
+    const bool above_all = !over_ || in_front == over_ || in_front == handle_;
+    HWND behind = HWND_TOPMOST;
+    if (!above_all && is_above_all_) // right before the dialog again
+        behind = GetWindow(over_, GW_HWNDPREV) ? GetWindow(over_, GW_HWNDPREV) : HWND_NOTOPMOST;
+    else if (!above_all)
+        how |= SWP_NOZORDER;
+    is_above_all_ = above_all;
     RECT own{};
     GetWindowRect(handle_, &own);
-    SetWindowPos(handle_, in_front == GetCurrentProcessId() ? HWND_TOPMOST : HWND_NOTOPMOST,
-                 place.left + (place.right - place.left - (own.right - own.left)) / 2,
+    SetWindowPos(handle_, behind, place.left + (place.right - place.left - (own.right - own.left)) / 2,
                  place.top + (place.bottom - place.top - (own.bottom - own.top)) / 2, 0, 0, how);
 }
 
@@ -129,6 +130,8 @@ INT_PTR CALLBACK WaitingWindow::procedure(HWND window, UINT message, WPARAM wpar
         if (LOWORD(wparam) == WA_INACTIVE) return FALSE;
         SetFocus(GetDlgItem(window, IDCANCEL));
         return TRUE;
+    case WM_DPICHANGED:
+        return TRUE; // it has been made for the dialog's
     case WM_NCDESTROY:
         remove_window_name(window);
         return FALSE;

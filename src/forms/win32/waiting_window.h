@@ -16,21 +16,15 @@ namespace brx {
 /// its own, to none of the dialog's windows, and takes no focus unless a person clicks it.
 class WaitingWindow {
 public:
-    /// What Stop came to.
-    enum class Stopping {
-        not_asked,
-        asked,      ///< it ends before its next call
-        impossible, ///< the call that is waited for cannot be broken off
-    };
-
-    /// `over` is the dialog, or what it will lie over, or null.
-    WaitingWindow(HWND over, const Locale& locale, std::function<void()> stop);
+    /// `over` is the dialog, or what it will lie over, or null. `can_break_off`: whether Stop ends a call
+    /// that is under way.
+    WaitingWindow(HWND over, const Locale& locale, bool can_break_off, std::function<void()> stop);
     ~WaitingWindow();
     WaitingWindow(const WaitingWindow&) = delete;
     WaitingWindow& operator=(const WaitingWindow&) = delete;
 
     HWND handle() const { return handle_; }
-    void tell(const Work::Report& report, Stopping stopping);
+    void tell(const Work::Report& report);
 
 private:
     enum Part : int { what_part = 100, how_far_part, bar_part };
@@ -43,6 +37,8 @@ private:
     const VisualStyles styles_;
     HWND over_;
     const Locale& locale_;
+    bool can_break_off_;
+    bool is_above_all_ = false;
     std::function<void()> stop_;
     unsigned dpi_;
     FontHandle font_;

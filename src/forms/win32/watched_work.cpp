@@ -1,6 +1,7 @@
 #include "forms/win32/watched_work.h"
 
 #include "common/trap.h"
+#include "forms/win32/dpi.h"
 
 #include <utility>
 
@@ -19,11 +20,6 @@ template <class Function> Function com_function(const char* name) {
     const HMODULE library = GetModuleHandleW(L"ole32.dll");
     return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
                    : nullptr;
-}
-
-bool cancel_call_of(DWORD thread) {
-    const auto cancel = com_function<CancelCall>("CoCancelCall");
-    return cancel && SUCCEEDED(cancel(thread, 0));
 }
 
 /// Takes it out of the queue, so that it does nothing else.
@@ -52,7 +48,6 @@ WatchedWork::~WatchedWork() {
 void WatchedWork::changed() {
     if (is_going_on()) {
         over_ = window_in_front_();
-        stopping_ = WaitingWindow::Stopping::not_asked;
         if (!thread_) thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
         if (idle_.exchange(false)) SetEvent(woken_.get());
     } else if (shown_) {
@@ -60,23 +55,21 @@ void WatchedWork::changed() {
     }
 }
 
-bool WatchedWork::is_stopped() {
+bool WatchedWork::looks_for_stop() {
     // A question to the system, which the work pays for only when it lasts.
     if (shown_ && GetTickCount64() - looked_ >= looks_for_a_key_every) {
         looked_ = GetTickCount64();
         if (take_escape()) stop();
     }
-    return Work::is_stopped();
+    return Work::looks_for_stop();
 }
 
 bool WatchedWork::keeps_a_person_waiting() {
     return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0 || holds_deeds_();
 }
 
-void WatchedWork::stop() {
-    Work::stop();
-    stopping_ =
-        cancel_call_of(worker_) ? WaitingWindow::Stopping::asked : WaitingWindow::Stopping::impossible;
+void WatchedWork::break_off_call() {
+    if (const auto cancel = com_function<CancelCall>("CoCancelCall")) cancel(worker_, 0);
 }
 
 DWORD WINAPI WatchedWork::thread(void* self) noexcept {
@@ -104,13 +97,15 @@ void WatchedWork::watch() {
 bool WatchedWork::is_over() const { return ends_ || !is_going_on() || lasted() < shown_after; }
 
 void WatchedWork::show_it() {
-    WaitingWindow window(over_, locale_, [this] {
-        if (!is_over()) stop();
-    });
+    const ScaleOf scale(over_);
+    const unsigned turn = report().turn;
+    const bool can_break_off = com_function<CancelCall>("CoCancelCall") != nullptr;
+    WaitingWindow window(over_, locale_, can_break_off, [&] { stop(turn); });
     shown_ = true;
+    is_seen();
     HANDLE const woken = woken_.get();
     while (!is_over()) {
-        window.tell(report(), stopping_);
+        window.tell(report());
         MSG message{};
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             if (IsDialogMessageW(window.handle(), &message)) continue;

@@ -29,16 +29,15 @@ public:
     ~WatchedWork() override;
 
     void set_locale(const Locale& locale) { locale_ = locale; }
-    bool is_stopped() override;
     bool keeps_a_person_waiting() override;
     Milliseconds now() const override { return Milliseconds(GetTickCount64()); }
     /// Whether a person sees what is waited for. Escape is Stop then.
     bool is_shown() const { return shown_; }
-    /// Ends it: between two calls soon, within a call where the system can.
-    void stop();
 
 protected:
     void changed() override;
+    bool looks_for_stop() override;
+    void break_off_call() override;
 
 private:
     static DWORD WINAPI thread(void* self) noexcept;
@@ -56,7 +55,6 @@ private:
     std::atomic<bool> idle_ = true; ///< the watching thread waits for work to begin
     std::atomic<bool> shown_ = false;
     std::atomic<bool> ends_ = false;
-    std::atomic<WaitingWindow::Stopping> stopping_ = WaitingWindow::Stopping::not_asked;
     ULONGLONG looked_ = 0;
 };
 
