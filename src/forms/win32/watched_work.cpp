@@ -42,7 +42,11 @@ WatchedWork::~WatchedWork() {
     if (!thread_) return;
     ends_ = true;
     SetEvent(woken_.get());
-    WaitForSingleObject(thread_.get(), INFINITE);
+    // It may be giving the foreground back, for which the system asks windows of this thread.
+    HANDLE const thread = thread_.get();
+    MSG message{};
+    while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_SENDMESSAGE) == WAIT_OBJECT_0 + 1)
+        PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
 }
 
 void WatchedWork::changed() {
