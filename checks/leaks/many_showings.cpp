@@ -14,12 +14,10 @@ using namespace brx::checks;
 
 namespace {
 
-/// What a showing leaves behind tells after a few of them as well: where every call is translated to 64 bits,
-/// a quarter of the day is enough.
-constexpr int showings = sizeof(void*) == 8 ? 1000 : 250;
-/// Fewer than one handle for every ten showings: what the system keeps for itself, not what showings leave
-/// behind.
-constexpr int slack = showings / 10;
+/// Half of the day where every call is translated to 64 bits: what a showing leaves behind tells as well.
+constexpr int showings = sizeof(void*) == 8 ? 1000 : 500;
+/// Not one handle for every few showings: what the system keeps for itself, not what showings leave behind.
+constexpr int slack = 100;
 
 void leaves_nothing_behind(Play& its, const std::function<void()>& show_once) {
     for (int i = 0; i < 20; ++i) show_once(); // what the system makes once is made now
