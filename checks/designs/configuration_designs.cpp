@@ -28,6 +28,7 @@ frmTab(0)/lblSubgroupSize: label 275,105 132x15 tab 10 '&E. Subgroup Size:'
 frmTab(0)/txtSubgroupSize: text box 411,101 100x23 tab 11
 frmTab(0)/frmTests: frame 11,131 500x205 tab 12 wide high '&F. Tests'
 frmTests/lvwTest: list view 11,20 478x144 tab 13 wide high
+frmTests/lblTestsNotice: label 11,171 232x30 tab 0 bottom '' as data
 frmTests/bnAdd: button 250,171 75x23 tab 14 right bottom '&G. Add...'
 frmTests/cmdEdit: button 332,171 75x23 tab 15 right bottom '&H. Edit...'
 frmTests/bnRemove: button 414,171 75x23 tab 16 right bottom '&I. Remove'
@@ -54,6 +55,7 @@ frmPiece/txtPieceEval: text box 95,50 371x23 tab 36 wide display only
 frmPiece/cmdPieceTrigger: button 466,50 23x23 tab 37 right '...' tip 'Set the trigger of pieces'
 frmTab(2)/frmDescriptors: frame 11,11 500x325 tab 40 wide high '&A. Descriptors'
 frmDescriptors/lvwDescriptors: list view 11,20 478x264 tab 41 wide high
+frmDescriptors/lblDescriptorsNotice: label 11,291 232x30 tab 0 bottom '' as data
 frmDescriptors/bnAddDesc: button 250,291 75x23 tab 42 right bottom '&B. Add...'
 frmDescriptors/bnEditDesc: button 332,291 75x23 tab 43 right bottom '&C. Edit...'
 frmDescriptors/bnRemoveDesc: button 414,291 75x23 tab 44 right bottom '&D. Remove'

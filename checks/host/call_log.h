@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/call_gate.h"
 #include "common/error.h"
 
 #include <functional>
@@ -14,6 +15,8 @@ struct HostCall {
     std::string member;   ///< interface, full stop, member
     std::string location; ///< whose trap a failure would go to; "" where errors are ignored
     bool failed = false;  ///< because a check said so
+    bool watched = false; ///< a person sees what the work waits for, or has stopped it
+    bool undoes = false;  ///< what calls before it did
 };
 
 /// Every call to the host's objects, in order. One of them can be made to fail.
@@ -29,7 +32,12 @@ public:
 
     /// Notes the call; throws when it is the one to fail.
     void note(const std::string& member) {
-        made_.push_back({member, current_location_text()});
+        if (!member.starts_with("create ")) pass_gate();
+        made_.push_back({.member = member,
+                         .location = current_location_text(),
+                         .watched = call_gate::minded != 0,
+                         .undoes = call_gate::is_wide_open});
+        if (static_cast<int>(made_.size()) == deed_at_) deed_();
         if (const auto found = during_.find(member); found != during_.end()) {
             const std::function<void()> deed = std::move(found->second);
             during_.erase(found);
@@ -43,6 +51,14 @@ public:
 
     /// The n-th call from now on (from 1) fails; 0 for none.
     void fail_at(int n) { fail_at_ = n == 0 ? 0 : static_cast<int>(made_.size()) + n; }
+
+    /// Runs in the n-th call from now on (from 1).
+    void at(int n, std::function<void()> deed) {
+        deed_at_ = static_cast<int>(made_.size()) + n;
+        deed_ = std::move(deed);
+    }
+    /// How many calls were not made, since a person had stopped the work.
+    int refused() const { return refused_; }
 
     /// Every call of this member fails from now on but the first `spared`; "" for none.
     void fail_on(const std::string& member, int spared = 0) {
@@ -68,9 +84,21 @@ public:
 
 private:
     static std::string current_location_text();
+    /// As calls of members do in the component.
+    void pass_gate() {
+        try {
+            call_gate::pass();
+        } catch (const Error&) {
+            ++refused_;
+            throw;
+        }
+    }
 
     std::vector<HostCall> made_;
     int fail_at_ = 0;
+    int deed_at_ = 0;
+    std::function<void()> deed_;
+    int refused_ = 0;
     std::map<std::string, std::function<void()>> during_;
     std::string failing_member_;
     int spared_ = 0;

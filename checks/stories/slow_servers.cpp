@@ -117,6 +117,26 @@ SCENARIO(SlowServers, EscapeIsStopWhileTheWaitingIsShownAndNothingElse) {
     dialog.result();
 }
 
+SCENARIO(SlowServers, WhoeverLeavesWaitsForNoFurtherCall) {
+    a_long_branch(its);
+    const std::vector<std::function<void()>> ways = {
+        [&] { its.person.screen().press("bnCancel"); },
+        [&] { its.person.screen().close_box(); },
+        [&] { static_cast<void>(its.person.screen().key(Key::escape)); },
+    };
+    for (const auto& leave : ways) {
+        Browsing dialog(its);
+        dialog.calls();
+        its.host.calls.during("OPCBrowser.Item(2)", leave);
+        its.person.clicks_node("TrView", "Line1");
+        EXPECT_EQ(dialog.calls(),
+                  (Lines{"OPCBrowser.MoveToRoot", "OPCBrowser.MoveTo(Line1)", "OPCBrowser.ShowLeafs(False)",
+                         "OPCBrowser.Count", "OPCBrowser.Item(1)", "OPCBrowser.Item(2)"}));
+        its.person.is_at("");
+        dialog.result();
+    }
+}
+
 SCENARIO(SlowServers, GroupsThatWereNotAllReadAreToldOfUntilTheyAre) {
     a_long_branch(its);
     Browsing dialog(its);

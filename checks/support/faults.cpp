@@ -1,11 +1,6 @@
 #include "faults.h"
-#include "host/holdings.h"
-#include "scenario.h"
+#include "loose_play.h"
 
-#include <gtest/gtest-spi.h>
-
-#include <algorithm>
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,17 +8,6 @@
 namespace brx::checks {
 
 namespace {
-
-/// Plays the story whatever becomes of it: with a failing host nothing in it needs to come true.
-void play_loosely(const Story& story, Play& its) {
-    testing::TestPartResultArray ignored;
-    const testing::ScopedFakeTestPartResultReporter ignore(
-        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &ignored);
-    try {
-        story(its);
-    } catch (const GaveUp&) {
-    }
-}
 
 /// Most of the configuration dialog reports to the other library.
 ErrorLibrary library_of(const std::string& location) {
@@ -60,35 +44,6 @@ std::set<std::string>& reached_places() {
     static std::set<std::string> places;
     return places;
 }
-
-/// Looks whether a deed in which a call failed, and after which the same form is in front, has left the
-/// host's objects as they were.
-class Watch {
-public:
-    explicit Watch(Play& its) : its_(its) {
-        its.person.afterwards = [this] { look(); };
-        look();
-    }
-
-    void look() {
-        if (failed_) return;
-        const std::string front = its_.stage->screen().front();
-        auto holdings = holdings_of(its_.host);
-        failed_ = std::ranges::any_of(its_.host.calls.made(), &HostCall::failed);
-        if (failed_ && front == front_) half_done_ = brx::checks::half_done(holdings_, holdings);
-        front_ = front;
-        holdings_ = std::move(holdings);
-    }
-
-    const std::string& half_done() const { return half_done_; }
-
-private:
-    Play& its_;
-    bool failed_ = false;
-    std::string front_;
-    std::string half_done_;
-    std::map<const void*, Holding> holdings_;
-};
 
 } // namespace
 

@@ -81,6 +81,11 @@ void play(const Story& story);
 /// Gives the places where calls failed, as "member in location".
 std::set<std::string> play_with_failing_calls(const Story& story);
 
+/// Plays the story once for each call that it makes to the host, and in that call a person has waited for a
+/// second and stops the work: it ends within one call, and everything is whole. Gives how often it was
+/// stopped.
+int play_with_stops(const Story& story);
+
 /// Every place where a host call can fail and whose trap must tell of it.
 const std::set<std::string>& known_places_of_failure();
 

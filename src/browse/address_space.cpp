@@ -45,7 +45,7 @@ bool tells_of_a_lost_server(std::int32_t number) {
 bool dlgItemSelect::is_placeholder(const TreeNode& node) { return to_upper(node.text()) == "XXX"; }
 
 void dlgItemSelect::ConnectServer() {
-    trap("ConnectServer", [&] {
+    reads("ConnectServer", "groups", "Refresh", [&] {
         const BusyCursor busy(*this);
         work().waits_for("Reading the groups of " + server_title_);
         note("", "");
@@ -53,6 +53,7 @@ void dlgItemSelect::ConnectServer() {
         lstItem.clear();
         set_path("");
         if (!browser_) ignoring([&] { browser_ = the(server_).CreateBrowser(); });
+        if (work().is_stopped()) throw Stopped();
         if (!browser_) return show_nothing_to_browse();
         browser_->MoveToRoot();
         browser_->ShowBranches();
@@ -82,7 +83,7 @@ void dlgItemSelect::show_browsing() {
 }
 
 void dlgItemSelect::BuildGroupList() {
-    trap("BuildGroupList", [&] {
+    reads("BuildGroupList", "groups", "Refresh", [&] {
         if (!browser_) return;
         const bool flat = browser_->Organization() == flat_organization;
         TrView.set_visible(!flat);
@@ -115,7 +116,7 @@ void dlgItemSelect::TrView_Expand(TreeNode& Node) {
 }
 
 void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
-    trap("BuildNodes", [&] {
+    reads("BuildNodes", "groups", "Refresh", [&] {
         lstItem.clear();
         set_path("");
         note(groups_notice_, "");
@@ -127,7 +128,6 @@ void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
         // After a failed move the branches of wherever the browser stands are read.
         ignoring([&] { browser_->MoveTo(branches); });
         ignoring([&] { browser_->ShowBranches(); });
-        if (work().is_stopped()) return note(stopped("groups", "Refresh"), "");
         const std::int32_t count = browser_->Count();
         if (count < 1) {
             TreeNode* child = TrView.node(ParentIndex).child();
@@ -162,7 +162,7 @@ void dlgItemSelect::TrView_Click() {
 }
 
 void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
-    trap("BuildLeaves", [&] {
+    reads("BuildLeaves", "items", "a click on the group", [&] {
         if (work().is_stopped()) return; // what the same click has read so far stays
         lstItem.clear();
         set_path("");
@@ -173,13 +173,12 @@ void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
         browser_->MoveToRoot();
         ignoring([&] { browser_->MoveTo(branches); });
         ignoring([&] { browser_->ShowLeafs(false); });
-        if (work().is_stopped()) return note(groups_notice_, stopped("items", "a click on the group"));
         list_items(browser_->Count(), "a click on the group");
     });
 }
 
 void dlgItemSelect::GetAllLeaves() {
-    trap("GetAllLeaves", [&] {
+    reads("GetAllLeaves", "items", "Refresh", [&] {
         lstItem.clear();
         if (!browser_) return;
         work().waits_for("Reading all items of " + server_title_);
@@ -203,8 +202,23 @@ void dlgItemSelect::list_items(std::int32_t count, const char* again) {
     }
 }
 
+void dlgItemSelect::reads(const char* procedure, const std::string& what, const std::string& again,
+                          const std::function<void()>& body) {
+    trap(procedure, [&] {
+        try {
+            body();
+        } catch (const Stopped&) {
+            const std::string notice = "Reading was stopped. To read the " + what + ": " + again + ".";
+            if (what == "groups")
+                note(notice, "");
+            else
+                note(groups_notice_, notice);
+        }
+    });
+}
+
 void dlgItemSelect::ignoring(const std::function<void()>& step) {
-    if (work().is_stopped()) return;
+    if (work().is_stopped()) throw Stopped();
     attempt([&] {
         try {
             step();
@@ -225,10 +239,6 @@ std::string dlgItemSelect::stopped_after(int read, int of_all, const char* what,
     const Locale& locale = environment().locale;
     return "Reading was stopped at " + grouped(read, locale) + " of " + grouped(of_all, locale) + " " + what +
            ". To read them all: " + again + ".";
-}
-
-std::string dlgItemSelect::stopped(const std::string& what, const std::string& again) {
-    return "Reading was stopped. To read the " + what + ": " + again + ".";
 }
 
 } // namespace brx

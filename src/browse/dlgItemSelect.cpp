@@ -47,16 +47,20 @@ bool dlgItemSelect::SearchForPath(bool SelectFlag) {
         if (!browser_ || work().is_stopped()) return;
         const BusyCursor busy(*this);
         work().waits_for("Looking for " + leaf_ + " in " + server_title_);
-        browser_->MoveToRoot();
-        browser_->ShowLeafs(true);
-        const std::int32_t count = browser_->Count();
-        work().counts_to(count);
-        for (std::int32_t i = 1; i <= count && !work().is_stopped(); ++i) {
-            work().has_done(i - 1);
-            if (SelectFlag) return set_path(leaf_);
-            if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
-            found = true;
-            return;
+        try {
+            browser_->MoveToRoot();
+            browser_->ShowLeafs(true);
+            const std::int32_t count = browser_->Count();
+            work().counts_to(count);
+            for (std::int32_t i = 1; i <= count; ++i) {
+                work().has_done(i - 1);
+                if (SelectFlag) return set_path(leaf_);
+                if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
+                found = true;
+                return;
+            }
+        } catch (const Stopped&) {
+            note(groups_notice_, "Looking for " + leaf_ + " was stopped.");
         }
     });
     return found;
@@ -141,6 +145,7 @@ bool dlgItemSelect::ValidateItem(const std::string& ItemID) {
     bool valid = false;
     trap("ValidateItem", [&] {
         if (!group_) return;
+        work().waits_for("Asking for " + ItemID + " at " + server_title_);
         const LongArray errors =
             the(group_->OPCItems()).Validate({{ItemID}}, ShortArray{{0}}, StringArray{{""}});
         const std::int32_t error = errors.at(1);

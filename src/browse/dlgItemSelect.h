@@ -123,10 +123,13 @@ private:
     void show_browsing();
     /// `again`: how they are read again when that is stopped.
     void list_items(std::int32_t count, const char* again);
+    /// A procedure that reads the address space: when that is stopped before there is anything of it, this is
+    /// told of, and how it is read again.
+    void reads(const char* procedure, const std::string& what, const std::string& again,
+               const std::function<void()>& body);
     /// A step whose error is ignored, but for telling that the server does not answer.
     void ignoring(const std::function<void()>& step);
     void note(const std::string& of_groups, const std::string& of_items);
-    static std::string stopped(const std::string& what, const std::string& again);
     std::string stopped_after(int read, int of_all, const char* what, const char* again) const;
     void set_path(const std::string& text);
 

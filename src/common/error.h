@@ -21,6 +21,7 @@ inline constexpr std::int32_t key_in_use = 457;
 inline constexpr std::int32_t index_out_of_bounds = 35600;
 inline constexpr std::int32_t element_not_found = 35601;
 inline constexpr std::int32_t key_not_unique = 35602;
+inline constexpr std::int32_t call_canceled = -2147418110; // 0x80010002, as the system has it
 } // namespace error
 
 /// The component's own name: the source of every error that it raises itself.
@@ -50,6 +51,12 @@ public:
 private:
     std::int32_t number_;
     std::string source_;
+};
+
+/// A person has stopped the work, and this call was not made.
+class Stopped : public Error {
+public:
+    Stopped() : Error(error::call_canceled, "Stopped by the user") {}
 };
 
 } // namespace brx

@@ -68,11 +68,13 @@ template <class Step> bool attempt(Step&& step) noexcept {
 Error current_error() noexcept;
 
 /// One step that runs with errors resumed by code that looks at them afterwards; none when it came through.
-template <class Step> std::optional<Error> failure_of(Step&& step) noexcept {
+template <class Step> std::optional<Error> failure_of(Step&& step) {
     const TrapScope ignored(nullptr, nullptr);
     try {
         step();
         return std::nullopt;
+    } catch (const Stopped&) {
+        throw;
     } catch (...) {
         return current_error();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/call_gate.h"
 #include "common/trap.h"
 
 #include <functional>
@@ -17,6 +18,7 @@ public:
     WriteBack(const WriteBack&) = delete;
     WriteBack& operator=(const WriteBack&) = delete;
     ~WriteBack() {
+        const call_gate::Undoing undoing;
         for (auto each = undo_.rbegin(); each != undo_.rend(); ++each) attempt(*each);
     }
 

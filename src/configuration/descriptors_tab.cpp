@@ -1,3 +1,4 @@
+#include "common/call_gate.h"
 #include "common/write_back.h"
 #include "configuration/dlgConfiguration.h"
 
@@ -22,6 +23,7 @@ template <class Row> void fill(Row& row, hlxOPCDescriptor& descriptor) {
 /// Rows and descriptors have the same positions.
 void dlgConfiguration::ConfigureDescriptors() {
     descriptors_.list([&](ListedObjects::Drafts& rows) {
+        work().go_on_with("Reading the descriptors of " + txtName.text());
         const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
         while (const hlxOPCDescriptorPtr descriptor = descriptors->Next())
             fill(rows.emplace_back(), *descriptor);
@@ -76,6 +78,7 @@ void dlgConfiguration::bnAddDesc_Click() {
 }
 
 void dlgConfiguration::take_back(hlxOPCDescriptors& descriptors, hlxOPCDescriptor& descriptor) {
+    const call_gate::Undoing undoing;
     const auto remove = [&] {
         const std::int32_t position = descriptor.Index();
         descriptors.Remove(position);

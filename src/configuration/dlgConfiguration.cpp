@@ -46,7 +46,10 @@ void dlgConfiguration::Form_Load() {
         set_up_columns();
         load_general();
     });
-    load([&] { load_sampling(); });
+    load([&] {
+        work().go_on_with("Reading the sampling of " + txtName.text());
+        load_sampling();
+    });
     load([&] { ConfigureDescriptors(); });
     load([&] {
         frmTab0.set_visible(true); // in front, since no other one shows
@@ -168,6 +171,7 @@ void dlgConfiguration::FillProperties() {
     const auto unit = [](const ComboBox& list) { return static_cast<std::int16_t>(list.selected()); };
 
     hlxOPCConfiguration& configuration = the(configuration_);
+    work().waits_for("Storing " + txtName.text());
     const OPCGroupPtr group = tools_.ResolveOPCGroup(configuration.OPCGroup());
     configuration.set_Name(txtName.text());
     configuration.set_SubgroupSize(whole_number(txtSubgroupSize));

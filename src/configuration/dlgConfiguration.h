@@ -53,7 +53,7 @@ private:
     Panel      frmTab1   {*this, "frmTab(1)", {.place = page, .visible = false, .anchor = large}};
     Panel      frmTab2   {*this, "frmTab(2)", {.place = page, .visible = false, .anchor = large}};
     Panel      frmTab3   {*this, "frmTab(3)", {.place = page, .visible = false, .anchor = large}};
-    Button     bnClose   {*this, "bnClose",   {.place = {466, 398, 75, 23}, .caption = "&Close", .tab = 50, .is_default = true,
+    Button     bnClose   {*this, "bnClose",   {.place = {466, 398, 75, 23}, .caption = "&Close", .tab = 50, .is_default = true, .closes = true,
                                                .anchor = low, .Click = [this] { bnClose_Click(); }}};
 
     Label      lblName        {frmTab0, "lblName",         {.place = {11, 15, 120, 15}, .caption = "&A. Name:", .tab = 1}};
@@ -76,6 +76,7 @@ private:
     Frame      frmTests       {frmTab0, "frmTests",        {.place = {11, 131, 500, 205}, .caption = "&F. Tests", .tab = 12, .anchor = large}};
     ListView   lvwTest        {frmTests, "lvwTest",        {.place = {11, 20, 478, 144}, .tab = 13, .anchor = large,
                                                             .DblClick = [this] { lvwTest_DblClick(); }}};
+    Label      lblTestsNotice{frmTests, "lblTestsNotice",  {.place = {11, 171, 232, 30}, .mnemonic = false, .anchor = Anchor::bottom}};
     Button     bnAdd          {frmTests, "bnAdd",          {.place = {250, 171, 75, 23}, .caption = "&G. Add...", .tab = 14,
                                                             .anchor = low, .Click = [this] { bnAdd_Click(); }}};
     Button     cmdEdit        {frmTests, "cmdEdit",        {.place = {332, 171, 75, 23}, .caption = "&H. Edit...", .tab = 15,
@@ -120,6 +121,7 @@ private:
     Frame      frmDescriptors{frmTab2, "frmDescriptors",         {.place = table_frame, .caption = "&A. Descriptors", .tab = 40, .anchor = large}};
     ListView   lvwDescriptors{frmDescriptors, "lvwDescriptors",  {.place = {11, 20, 478, 264}, .tab = 41, .anchor = large,
                                                                   .DblClick = [this] { lvwDescriptors_DblClick(); }}};
+    Label      lblDescriptorsNotice{frmDescriptors, "lblDescriptorsNotice", {.place = {11, 291, 232, 30}, .mnemonic = false, .anchor = Anchor::bottom}};
     Button     bnAddDesc     {frmDescriptors, "bnAddDesc",       {.place = {250, 291, 75, 23}, .caption = "&B. Add...", .tab = 42,
                                                                   .anchor = low, .Click = [this] { bnAddDesc_Click(); }}};
     Button     bnEditDesc    {frmDescriptors, "bnEditDesc",      {.place = {332, 291, 75, 23}, .caption = "&C. Edit...", .tab = 43,
@@ -204,8 +206,8 @@ private:
     CommonTools tools_;
     hlxOPCConfigurationPtr configuration_;
     bool loaded_whole_ = false; ///< nothing that the configuration has is missing from the form
-    ListedObjects tests_{lvwTest, cmdEdit, bnRemove};
-    ListedObjects descriptors_{lvwDescriptors, bnEditDesc, bnRemoveDesc};
+    ListedObjects tests_{"tests", lvwTest, lblTestsNotice, cmdEdit, bnRemove};
+    ListedObjects descriptors_{"descriptors", lvwDescriptors, lblDescriptorsNotice, bnEditDesc, bnRemoveDesc};
     Trigger piece_trigger_;
     Trigger subgroup_trigger_;
     PartedTick tick_;

@@ -6,6 +6,7 @@ namespace brx {
 void dlgConfiguration::load_general() {
     const Locale& locale = environment().locale;
     hlxOPCConfiguration& configuration = the(configuration_);
+    work().waits_for("Reading the configuration");
     const hlxOPCServerPtr entry = the(configuration.Server()).ServerEntry();
     const std::string node = the(entry).Node();
     txtServer.set_text(server_display_text(node, entry->ServerName()));

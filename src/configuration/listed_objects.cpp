@@ -22,20 +22,33 @@ void RowDraft::add_to(ListView& list) const {
 
 void ListedObjects::list(const std::function<void(Drafts&)>& read) {
     Drafts rows;
+    notice_.set_caption("");
     try {
         read(rows);
+    } catch (const Stopped&) {
+        show_read_part(rows);
+        const bool has_begun = listed_ == Listed::in_part && !rows.empty();
+        notice_.set_caption("Reading the " + std::string(what_) + " was stopped" +
+                            (has_begun ? " after " + std::to_string(rows.size()) : "") +
+                            ". To read them all: open this dialog again.");
+        return;
     } catch (...) {
-        const bool is_no_shorter = static_cast<int>(rows.size()) >= list_.count();
-        if (listed_ == Listed::never || (listed_ == Listed::in_part && is_no_shorter)) {
-            show(rows);
-            become(Listed::in_part);
-        } else {
-            become(Listed::uncertain);
-        }
+        show_read_part(rows);
         throw;
     }
     show(rows);
     become(Listed::whole);
+}
+
+/// Of a list that could not be read to its end.
+void ListedObjects::show_read_part(const Drafts& rows) {
+    const bool is_no_shorter = static_cast<int>(rows.size()) >= list_.count();
+    if (listed_ == Listed::never || (listed_ == Listed::in_part && is_no_shorter)) {
+        show(rows);
+        become(Listed::in_part);
+    } else {
+        become(Listed::uncertain);
+    }
 }
 
 void ListedObjects::add(const std::function<void()>& make, const std::function<void()>& list_again) {

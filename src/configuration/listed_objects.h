@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/button.h"
+#include "forms/label.h"
 #include "forms/list_view.h"
 
 #include <cstdint>
@@ -35,7 +36,9 @@ private:
 /// position, so they rest while nobody knows whether these agree.
 class ListedObjects {
 public:
-    ListedObjects(ListView& list, Button& edit, Button& remove) : list_(list), edit_(edit), remove_(remove) {}
+    /// `what` they are, in words; `notice` tells of reading that was stopped.
+    ListedObjects(const char* what, ListView& list, Label& notice, Button& edit, Button& remove)
+        : what_(what), list_(list), notice_(notice), edit_(edit), remove_(remove) {}
 
     /// The form loads.
     void start_afresh() { listed_ = Listed::never; }
@@ -51,7 +54,7 @@ public:
     using Drafts = std::vector<RowDraft>;
     /// Lists the objects that `read` makes drafts of, in their order, and passes on its failure. The first
     /// time there are then rows for the objects up to it, and later for a list in part that did not become
-    /// shorter; otherwise the rows stay as they were.
+    /// shorter; otherwise the rows stay as they were. That a person has stopped it is no failure, but said.
     void list(const std::function<void(Drafts&)>& read);
 
     /// Has the host add an object as the last one. When that fails the host may have it all the same: the
@@ -69,10 +72,13 @@ private:
         uncertain ///< as it was before it could not be read again
     };
 
+    void show_read_part(const Drafts& rows);
     void show(const Drafts& rows);
     void become(Listed listed);
 
+    const char* what_;
     ListView& list_;
+    Label& notice_;
     Button& edit_;
     Button& remove_;
     Listed listed_ = Listed::never;

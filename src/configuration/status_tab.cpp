@@ -5,6 +5,7 @@ namespace brx {
 
 void dlgConfiguration::Timer1_Timer() {
     trap(ErrorLibrary::brxError6, "Timer1_Timer", [&] {
+        work().waits_for("Reading the status of the server");
         const ObjectPtr connection = connection_of(the(configuration_));
         if (!connection) return;
         const auto server = resolve<OPCServer>(connection);

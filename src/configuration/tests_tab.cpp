@@ -1,4 +1,5 @@
 #include "classes/TestConfiguration.h"
+#include "common/call_gate.h"
 #include "configuration/dlgConfiguration.h"
 
 #include <string>
@@ -8,9 +9,12 @@ namespace brx {
 /// Rows and tests have the same positions.
 void dlgConfiguration::AddToList() {
     tests_.list([&](ListedObjects::Drafts& rows) {
+        work().go_on_with("Reading the tests of " + txtName.text());
         const hlxOPCTestsPtr tests = the(configuration_).Tests();
         const std::int32_t count = the(tests).Count();
+        work().counts_to(count);
         for (std::int32_t position = 1; position <= count; ++position) {
+            work().has_done(position - 1);
             const hlxOPCTestPtr test = tests->Item(position);
             const std::string name = the(test).CharacteristicName();
             RowDraft& row = rows.emplace_back();
@@ -48,6 +52,7 @@ void dlgConfiguration::bnAdd_Click() {
 }
 
 void dlgConfiguration::take_back(hlxOPCTest& test) {
+    const call_gate::Undoing undoing;
     const auto remove = [&] {
         const hlxOPCTestsPtr owner = test.Parent();
         const std::int32_t position = test.Index();

@@ -13,6 +13,7 @@ struct ButtonDesign {
     bool visible = true;
     bool is_default = false; ///< Enter presses it
     bool is_cancel = false;  ///< Escape presses it
+    bool closes = false;     ///< it closes the form, as a Cancel button does
     Anchor anchor = Anchor::top_left;
     Handler Click = {};
 };
@@ -30,6 +31,8 @@ public:
     const std::string& tip() const { return design_.tip; }
     bool is_default() const { return design_.is_default; }
     bool is_cancel() const { return design_.is_cancel; }
+    /// Whoever presses it waits for nothing that the form still reads.
+    bool leaves() const { return design_.is_cancel || design_.closes; }
 
     /// A person pressed the button: by mouse, blank, Enter, Escape or accelerator.
     bool user_click() {

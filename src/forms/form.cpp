@@ -39,6 +39,7 @@ void Form::show_modal() {
         }
     };
     const Unloading at_the_end{*this}; // also when no window can be had for it
+    if (work().is_stopped()) throw Stopped();
     load();
     if (!loaded_) return;
     const ModalTurn waiting(this);

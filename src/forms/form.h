@@ -107,8 +107,9 @@ protected:
 
     /// What a dialog of the host's answers, which waits for a person.
     template <class Question> auto answered(Question&& question) {
+        if (work().is_stopped()) throw Stopped();
         environment_.engine.comes_before_forms();
-        const Work::Pause pause;
+        const Work::Pause pause(Work::Afterwards::afresh);
         return question();
     }
 

@@ -35,8 +35,13 @@ TimerTurn::TimerTurn() : outer_(timer_running) { timer_running = true; }
 
 TimerTurn::~TimerTurn() { timer_running = outer_; }
 
+/// What a person did in a form of its own has nothing to do with what she stopped before.
 ModalTurn::ModalTurn(Form* form)
-    : form_(form), below_(innermost), code_was_running_(code_running), timer_was_running_(timer_running) {
+    : form_(form),
+      below_(innermost),
+      code_was_running_(code_running),
+      timer_was_running_(timer_running),
+      pause_(form ? Work::Afterwards::afresh : Work::Afterwards::as_before) {
     innermost = this;
     code_running = false;
     timer_running = false;

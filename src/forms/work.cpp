@@ -1,5 +1,7 @@
 #include "forms/work.h"
 
+#include "common/call_gate.h"
+#include "common/error.h"
 #include "common/values/locale.h"
 
 #include <utility>
@@ -11,10 +13,22 @@ namespace {
 thread_local Work* running = nullptr;
 } // namespace
 
+Work::Work() {
+    // Of all works the same.
+    call_gate::ask = [] {
+        if (refuses_calls()) throw Stopped();
+    };
+}
+
 void Work::waits_for(const std::string& what) {
     counts_to(0);
     const std::lock_guard lock(mutex_);
     what_ = what;
+}
+
+void Work::go_on_with(const std::string& what) {
+    if (is_stopped()) throw Stopped();
+    waits_for(what);
 }
 
 Work::Milliseconds Work::now() const {
@@ -34,10 +48,28 @@ Work::Report Work::report() const {
 void Work::stop(unsigned turn) {
     const std::lock_guard lock(mutex_);
     if (!going_on_ || turn != turn_) return;
-    stopped_ = true;
+    stopped_ = refuses_ = true;
     is_seen();
     break_off_call();
 }
+
+void Work::leave() {
+    const std::lock_guard lock(mutex_);
+    if (!going_on_) return;
+    stopped_ = true;
+    is_seen();
+}
+
+void Work::is_seen() {
+    if (!is_seen_.exchange(true)) ++call_gate::minded;
+}
+
+void Work::forget() {
+    if (is_seen_.exchange(false)) --call_gate::minded;
+    stopped_ = refuses_ = false;
+}
+
+bool Work::refuses_calls() { return running && running->is_stopped() && running->refuses_; }
 
 void Work::go_on(bool on) {
     {
@@ -53,17 +85,19 @@ Work::Scope::Scope(Work& work) : own_(running ? nullptr : &work) {
     if (!own_) return;
     running = own_;
     own_->waits_for({});
-    own_->stopped_ = own_->is_seen_ = false;
+    own_->forget();
     own_->go_on(true);
 }
 
 Work::Scope::~Scope() {
     if (!own_) return;
     own_->go_on(false);
+    own_->forget();
     running = nullptr;
 }
 
-Work::Pause::Pause() : paused_(std::exchange(running, nullptr)) {
+Work::Pause::Pause(Afterwards afterwards)
+    : paused_(std::exchange(running, nullptr)), afterwards_(afterwards) {
     if (!paused_) return;
     paused_->go_on(false);
     const Report before = paused_->report();
@@ -71,6 +105,7 @@ Work::Pause::Pause() : paused_(std::exchange(running, nullptr)) {
     done_ = before.done;
     total_ = before.total;
     stopped_ = before.stopped;
+    refuses_ = paused_->refuses_;
 }
 
 Work::Pause::~Pause() {
@@ -79,8 +114,12 @@ Work::Pause::~Pause() {
     paused_->waits_for(what_);
     paused_->done_ = done_;
     paused_->total_ = total_;
-    paused_->stopped_ = stopped_;
-    paused_->is_seen_ = stopped_;
+    paused_->forget();
+    if (stopped_ && afterwards_ == Afterwards::as_before) {
+        paused_->stopped_ = true;
+        paused_->refuses_ = refuses_;
+        paused_->is_seen();
+    }
     paused_->go_on(true);
 }
 

@@ -31,8 +31,8 @@ public:
         unsigned turn = 0; ///< which work of its thread it is, for `stop`
     };
 
-    Work() = default;
-    virtual ~Work() = default;
+    Work();
+    virtual ~Work() { forget(); }
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
 
@@ -40,10 +40,13 @@ public:
 
     /// From here on this is waited for.
     void waits_for(const std::string& what);
+    /// The same for a part of the work that a person who has stopped the last one does not wait for: throws
+    /// `Stopped` then.
+    void go_on_with(const std::string& what);
     /// There is so much of it to be done, one after the other.
     void counts_to(int total) { done_ = 0, total_ = total; }
     void has_done(int count) { done_.store(count, std::memory_order_relaxed); }
-    /// Whether a person wants it to end before its next call.
+    /// Whether a person wants it to end before its next call. What does not ask has its next call fail.
     bool is_stopped() { return is_seen_.load(std::memory_order_relaxed) && looks_for_stop(); }
     /// Whether a person has done something that waits for it to end.
     virtual bool keeps_a_person_waiting() { return false; }
@@ -58,6 +61,11 @@ public:
     /// A person wants it to end. Nothing happens when other work goes on by now than that of this turn.
     void stop(unsigned turn);
     void stop() { stop(report().turn); }
+    /// A person is about to leave what it is for: what asks need not go on. No call fails for that.
+    void leave();
+
+    /// Whether calls of this thread are to fail by now, so that work which does not ask ends too.
+    static bool refuses_calls();
 
     /// For its lifetime a handler runs, unless one runs already.
     class Scope {
@@ -71,11 +79,17 @@ public:
         Work* own_;
     };
 
+    /// What becomes of a Stop after a pause.
+    enum class Afterwards {
+        as_before,
+        afresh, ///< it is forgotten: a person has worked in between
+    };
+
     /// For its lifetime the thread waits for a person, not a person for it. Work of others goes on from what
     /// it was.
     class Pause {
     public:
-        Pause();
+        explicit Pause(Afterwards afterwards = Afterwards::as_before);
         ~Pause();
         Pause(const Pause&) = delete;
         Pause& operator=(const Pause&) = delete;
@@ -86,19 +100,22 @@ public:
         int done_ = 0;
         int total_ = 0;
         bool stopped_ = false;
+        bool refuses_ = false;
+        Afterwards afterwards_;
     };
 
 protected:
     /// It begins, ends, is paused or goes on.
     virtual void changed() {}
     /// A person sees it, and so can want it to end: asked before each call, which costs nothing before that.
-    void is_seen() { is_seen_ = true; }
+    void is_seen();
     virtual bool looks_for_stop() { return stopped_; }
     /// Breaks off the call that is under way, where that can be done. The work does not end meanwhile.
     virtual void break_off_call() {}
 
 private:
     void go_on(bool on);
+    void forget();
 
     mutable std::mutex mutex_; ///< of `what_` and the turns
     std::string what_;
@@ -106,6 +123,7 @@ private:
     std::atomic<int> done_ = 0;
     std::atomic<int> total_ = 0;
     std::atomic<bool> stopped_ = false;
+    std::atomic<bool> refuses_ = false; ///< calls, not only to go on
     std::atomic<bool> is_seen_ = false;
     std::atomic<bool> going_on_ = false;
     std::atomic<Milliseconds> began_{};

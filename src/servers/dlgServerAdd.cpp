@@ -119,10 +119,15 @@ std::optional<bool> dlgServerAdd::NotInColl(const hlxOPCServersPtr& servers) {
     std::optional<bool> is_new;
     trap("NotInColl", [&] {
         const std::string node = trim(txtNode.text());
+        work().waits_for("Looking whether " + server_name_ + " is there already");
         count_before_ = the(servers).Count();
         is_new = true;
-        for (std::int32_t i = 1; i <= count_before_ && *is_new; ++i)
+        work().counts_to(count_before_);
+        for (std::int32_t i = 1; i <= count_before_ && *is_new; ++i) {
+            work().has_done(i - 1);
             trap("NotInColl", [&] { is_new = !is_chosen(the(the(servers).Item(i)), node); });
+            if (work().is_stopped()) return is_new.reset(); // and the dialog stays as it is
+        }
     });
     return is_new;
 }
@@ -159,6 +164,7 @@ bool dlgServerAdd::ConnectServer() {
     bool connected = false;
     trap("ConnectServer", [&] {
         const std::string node = txtNode.text();
+        work().waits_for("Connecting to " + server_display_text(node, server_name_));
         const hlxOPCServerPtr added = the(servers_).Add(server_name_, node, true);
         if (!added) {
             show_message({.text = "UNABLE TO CONNECT!\r\n\r\nServer: " + server_name_ + "\r\nNode: " + node +

@@ -13,6 +13,7 @@ dlgServerInformation::dlgServerInformation(Environment& environment)
 void dlgServerInformation::Form_Load() {
     trap("Form_Load", [&] {
         if (!server_) return;
+        work().waits_for("Reading the status of the server");
         const std::string node = server_->ServerNode();
         set_caption(server_display_text(node, server_->ServerName()));
         ShowTimes([] { return true; });

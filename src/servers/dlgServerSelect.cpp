@@ -49,8 +49,11 @@ void dlgServerSelect::BuildList() {
     trap("BuildList", [&] {
         cboServer.clear();
         bnOK.set_enabled(false); // with no line selected there is nothing to confirm, whatever fails below
+        work().waits_for("Reading the list of servers");
         const std::int16_t count = to_int16(the(servers_).Count());
+        work().counts_to(count);
         for (std::int32_t i = 1; i <= count; ++i) {
+            work().has_done(i - 1);
             const hlxOPCServerPtr entry = the(servers_).Item(i);
             const std::string node = the(entry).Node();
             const std::string server_name = the(entry).ServerName();

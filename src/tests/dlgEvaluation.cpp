@@ -35,6 +35,7 @@ void dlgEvaluation::Form_Unload() { configuration_ = nullptr; }
 void dlgEvaluation::BuildDlg() {
     trap("BuildDlg", [&] {
         cboItem.add_line(no_item);
+        work().waits_for("Reading the items of the group");
         for_each_item(the(items_of(the(configuration_).OPCGroup())),
                       [&](OPCItem& item) { cboItem.add_line(item.ItemID()); });
         if (!item_id_.empty()) cboItem.select_text(item_id_);
@@ -105,6 +106,7 @@ void dlgEvaluation::bnItem_Click() {
 
 /// Selects the item, which is added to the group if it is not there yet.
 void dlgEvaluation::take_item(OPCItems& items, const std::string& item_id) {
+    work().waits_for("Adding " + item_id + " to the group");
     if (!holds_item(items, item_id)) {
         added_new_item_ = false;
         const AddedItems added = items.AddItems({{item_id}}, LongArray{{0}}, std::nullopt, std::nullopt);
@@ -122,6 +124,7 @@ void dlgEvaluation::take_item(OPCItems& items, const std::string& item_id) {
 void dlgEvaluation::CheckDataType(const ObjectPtr& reached_server) {
     const std::string item = cboItem.text();
     if (item.empty() || is_no_item(item)) return;
+    work().waits_for("Reading the data type of " + item);
     const auto failure = failure_of(
         [&] { data_type_ = canonical_data_type(the(items_of(the(configuration_).OPCGroup())), item); });
     if (!failure) return;

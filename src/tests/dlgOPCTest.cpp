@@ -63,6 +63,7 @@ void dlgOPCTest::Form_Unload() {
 void dlgOPCTest::EditSet() {
     trap("EditSet", [&] {
         hlxOPCTest& test = the(test_);
+        work().waits_for("Reading the test");
         std::optional<Error> unfit;
         const auto fit = [&](const auto& show) {
             const auto failure = failure_of(show);
@@ -159,6 +160,7 @@ void dlgOPCTest::bnOK_Click() {
 }
 
 void dlgOPCTest::GetItemDataType() {
+    work().waits_for("Reading the data type of " + item_id_);
     const auto failure = failure_of(
         [&] { data_type_ = canonical_data_type(the(items_of(the(configuration()).OPCGroup())), item_id_); });
     if (!failure) return;
@@ -259,6 +261,7 @@ double dlgOPCTest::entered_constant() {
 /// without has no use for what was written there. The record's characteristic is never read.
 void dlgOPCTest::write_test(double constant) {
     hlxOPCTest& test = the(test_);
+    work().waits_for("Storing the test");
     WriteBack writes;
     writes.replace(test, &hlxOPCTest::set_ItemTrigger, former_.item_trigger, item_trigger_);
     if (item_trigger_) writes.replace(test, &hlxOPCTest::set_TriggerValue, former_.trigger_value, value_);

@@ -39,10 +39,14 @@ void dlgOPCTest::bnTest_Click() {
 
 /// The test that is being edited counts as well.
 bool dlgOPCTest::is_duplicate(std::int32_t id) {
+    work().waits_for("Looking for other tests of the characteristic");
     const hlxOPCTestsPtr tests = the(test_).Parent();
     const std::int32_t count = the(tests).Count();
-    for (std::int32_t i = 1; i <= count; ++i)
+    work().counts_to(count);
+    for (std::int32_t i = 1; i <= count; ++i) {
+        work().has_done(i - 1);
         if (resolve<hlxTestData>(the(tests->Item(i)).TestData())->ID() == id) return true;
+    }
     return false;
 }
 
@@ -103,6 +107,7 @@ void dlgOPCTest::take_item(OPCItems& items, const ObjectPtr& server) {
         item_id_.clear();
         allow_confirming();
     };
+    work().waits_for("Adding " + item_id_ + " to the group");
     try {
         const StringArray ids{{item_id_}};
         const ShortArray types{{0}};

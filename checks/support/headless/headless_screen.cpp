@@ -41,7 +41,7 @@ bool HeadlessScreen::hourglass() {
 }
 
 bool HeadlessScreen::press(const std::string& button) {
-    return deed([=, this] { return user_.click(button); });
+    return deed([=, this] { return user_.click(button); }, user_.leaves(button));
 }
 bool HeadlessScreen::choose(const std::string& list, int line) {
     return deed([=, this] { return user_.choose(list, line); });
@@ -93,7 +93,7 @@ bool HeadlessScreen::stop() {
 
 bool HeadlessScreen::key(Key key) {
     if (key == Key::escape && stop()) return true;
-    return deed([=, this] {
+    const auto press = [=, this] {
         switch (key) {
         case Key::enter:
             return user_.enter();
@@ -141,7 +141,8 @@ bool HeadlessScreen::key(Key key) {
             return user_.turn_tab(true);
         }
         return false;
-    });
+    };
+    return deed(press, key == Key::escape);
 }
 
 bool HeadlessScreen::accelerator(char letter) {
@@ -149,7 +150,7 @@ bool HeadlessScreen::accelerator(char letter) {
 }
 
 bool HeadlessScreen::close_box() {
-    return deed([=, this] { return user_.close_box(); });
+    return deed([=, this] { return user_.close_box(); }, true);
 }
 
 bool HeadlessScreen::answer(std::int32_t button) {

@@ -53,10 +53,12 @@ private:
 
     /// Does something on the forms' thread. A deed that has opened a window has not ended yet, and was
     /// possible; so is one that has to wait until code has run.
-    bool deed(std::function<bool()> work) {
-        if (std::this_thread::get_id() == forms_thread_) return engine_.person_does(std::move(work));
+    bool deed(std::function<bool()> work, bool leaves = false) {
+        if (std::this_thread::get_id() == forms_thread_) return engine_.person_does(std::move(work), leaves);
         const auto possible = std::make_shared<bool>(true);
-        baton_.hand_over([this, possible, work = std::move(work)] { *possible = engine_.person_does(work); });
+        baton_.hand_over([this, possible, leaves, work = std::move(work)] {
+            *possible = engine_.person_does(work, leaves);
+        });
         return *possible;
     }
 

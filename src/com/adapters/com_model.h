@@ -2,6 +2,7 @@
 
 #include "com/failure.h"
 #include "com/wire.h"
+#include "common/call_gate.h"
 
 #include <utility>
 
@@ -20,20 +21,25 @@ public:
     }
     // Some OPC objects deny having IDispatch, which their interface is derived from.
     com_ptr<IDispatch> dispatch() const override { return object_; }
-    const com_ptr<Interface>& original() const { return object_; }
 
 protected:
+    /// The object, for one call.
+    Interface& called() const {
+        call_gate::pass();
+        return *object_.get();
+    }
+
     /// Calls a member that gives nothing.
     template <class... Raws, class... Values>
     void call(HRESULT (STDMETHODCALLTYPE Interface::*member)(Raws...), const Values&... values) {
-        require((object_.get()->*member)(Wire<Values>::own(values).get()...));
+        require((called().*member)(Wire<Values>::own(values).get()...));
     }
 
     /// Calls a member that gives a `Result`.
     template <class Result, class... Raws, class... Values>
     Result get(HRESULT (STDMETHODCALLTYPE Interface::*member)(Raws...), const Values&... values) {
         typename Wire<Result>::Owner result{};
-        require((object_.get()->*member)(Wire<Values>::own(values).get()..., result.out()));
+        require((called().*member)(Wire<Values>::own(values).get()..., result.out()));
         return Wire<Result>::model(result.get());
     }
 

@@ -2,6 +2,7 @@
 
 #include "com/failure.h"
 #include "com/wire.h"
+#include "common/call_gate.h"
 
 #include <utility>
 
@@ -13,6 +14,7 @@ public:
     explicit ComEnumerator(com_ptr<IEnumVARIANT> elements) : elements_(std::move(elements)) {}
 
     std::shared_ptr<Element> Next() override {
+        call_gate::pass();
         OwnedVariant element;
         const HRESULT result = elements_->Next(1, element.out(), nullptr);
         check(result, elements_.get(), __uuidof(IEnumVARIANT));

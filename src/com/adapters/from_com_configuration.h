@@ -107,7 +107,7 @@ public:
     using ComModel::ComModel;
     std::unique_ptr<Enumerator<hlxOPCDescriptor>> NewEnum() override {
         com_ptr<IUnknown> object;
-        require(original()->get__NewEnum(object.out()));
+        require(called().get__NewEnum(object.out()));
         auto enumerator = object.as<IEnumVARIANT>();
         if (!enumerator) throw Error(error::type_mismatch);
         return std::make_unique<ComEnumerator<hlxOPCDescriptor>>(std::move(enumerator));

@@ -31,7 +31,7 @@ public:
     Variant GetOPCServers(const std::optional<std::string>& node) override {
         const OwnedVariant asked(node ? Variant(*node) : Variant(Missing{}));
         OwnedVariant found;
-        require(original()->GetOPCServers(asked.get(), found.out()));
+        require(called().GetOPCServers(asked.get(), found.out()));
         if (std::optional<StringArray> texts = texts_in(found.get())) return *std::move(texts);
         return value_of(found.get());
     }
@@ -77,22 +77,22 @@ public:
         OwnedSafeArray clients(client_handles);
         OwnedSafeArray handles;
         OwnedSafeArray errors;
-        require(original()->AddItems(size_of(item_ids), ids.in(), clients.in(), handles.out(), errors.out(),
-                                     argument(requested_data_types).get(), argument(access_paths).get()));
+        require(called().AddItems(size_of(item_ids), ids.in(), clients.in(), handles.out(), errors.out(),
+                                  argument(requested_data_types).get(), argument(access_paths).get()));
         return {long_array(handles.get()), long_array(errors.get())};
     }
     LongArray Remove(const LongArray& server_handles) override {
         OwnedSafeArray handles(server_handles);
         OwnedSafeArray errors;
-        require(original()->Remove(size_of(server_handles), handles.in(), errors.out()));
+        require(called().Remove(size_of(server_handles), handles.in(), errors.out()));
         return long_array(errors.get());
     }
     LongArray Validate(const StringArray& item_ids, const std::optional<ShortArray>& requested_data_types,
                        const std::optional<StringArray>& access_paths) override {
         OwnedSafeArray ids(item_ids);
         OwnedSafeArray errors;
-        require(original()->Validate(size_of(item_ids), ids.in(), errors.out(),
-                                     argument(requested_data_types).get(), argument(access_paths).get()));
+        require(called().Validate(size_of(item_ids), ids.in(), errors.out(),
+                                  argument(requested_data_types).get(), argument(access_paths).get()));
         return long_array(errors.get());
     }
 
@@ -127,7 +127,7 @@ public:
     }
     void read_item(std::int32_t index, std::string& name) override {
         Bstr item;
-        require(original()->Item(position_argument(index), item.out()));
+        require(called().Item(position_argument(index), item.out()));
         item.read(name);
     }
     void ShowBranches() override { call(&Interface::ShowBranches); }
@@ -135,7 +135,7 @@ public:
     void MoveToRoot() override { call(&Interface::MoveToRoot); }
     void MoveTo(const StringArray& branches) override {
         OwnedSafeArray path(branches);
-        require(original()->MoveTo(path.in()));
+        require(called().MoveTo(path.in()));
     }
     std::string GetItemID(const std::string& leaf) override {
         return get<std::string>(&Interface::GetItemID, leaf);

@@ -29,8 +29,9 @@ void HeadlessEngine::miss_held() {
 
 bool HeadlessWork::keeps_a_person_waiting() { return engine_.front() && !engine_.front()->held().empty(); }
 
-bool HeadlessEngine::person_does(std::function<bool()> deed) {
+bool HeadlessEngine::person_does(std::function<bool()> deed, bool leaves) {
     if (!front() || !turn::is_code_running()) return deed();
+    if (leaves) work_.leave();
     front()->held().hold([deed = std::move(deed)] { deed(); });
     return true;
 }

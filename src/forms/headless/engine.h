@@ -43,8 +43,9 @@ public:
     void comes_before_forms() override { miss_held(); }
     HeadlessWork& work() override { return work_; }
 
-    /// Does what a person does, later when code runs; false when it was not possible.
-    bool person_does(std::function<bool()> deed);
+    /// Does what a person does, later when code runs, and leaves the form with it or not; false when it was
+    /// not possible.
+    bool person_does(std::function<bool()> deed, bool leaves = false);
     /// The window that takes input; null when there is none or a message box lies over it.
     HeadlessWindow* front() const;
     const std::vector<HeadlessWindow*>& windows() const { return windows_; }

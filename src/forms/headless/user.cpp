@@ -62,6 +62,11 @@ Control* HeadlessUser::find(const std::string& name) const {
 
 Control* HeadlessUser::focused() const { return form() ? form()->focused() : nullptr; }
 
+bool HeadlessUser::leaves(const std::string& name) const {
+    const auto* button = as<Button>(find(name));
+    return button && button->leaves();
+}
+
 bool HeadlessUser::click(const std::string& name) {
     Control* control = find(name);
     if (!control || !control->takes_input() || !control->shows()) return false;

@@ -17,6 +17,8 @@ class HeadlessUser {
 public:
     explicit HeadlessUser(HeadlessEngine& engine) : engine_(engine) {}
 
+    /// Whether a click on it leaves the form.
+    bool leaves(const std::string& button) const;
     bool click(const std::string& control);
     bool choose(const std::string& list, int line);
     bool double_click(const std::string& list, int line);

@@ -125,10 +125,15 @@ HelpOutcome Win32Engine::show_help(const std::string& help_file, std::int32_t to
     return open_help_(window_in_front(), to_wide(help_file), static_cast<DWORD>(topic));
 }
 
-bool Win32Engine::holds_deeds() const {
-    return !open_forms_.empty() && &open_forms_.back()->form() == turn::front() &&
-           open_forms_.back()->holds_deeds();
+/// Null when something else is before it, or there is none.
+const FormWindow* Win32Engine::form_in_front() const {
+    if (open_forms_.empty() || &open_forms_.back()->form() != turn::front()) return nullptr;
+    return open_forms_.back();
 }
+
+bool Win32Engine::holds_deeds() const { return form_in_front() && form_in_front()->holds_deeds(); }
+
+bool Win32Engine::leaves(const MSG& input) const { return form_in_front() && form_in_front()->leaves(input); }
 
 void Win32Engine::comes_before_forms() {
     if (!open_forms_.empty()) open_forms_.back()->miss_held();

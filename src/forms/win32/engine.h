@@ -37,12 +37,16 @@ public:
 
 private:
     HWND window_in_front() const;
+    const FormWindow* form_in_front() const;
     bool holds_deeds() const;
+    bool leaves(const MSG& input) const;
 
     HelpOpener open_help_;
     std::vector<FormWindow*> open_forms_; ///< the one in front is the last
     std::map<const Form*, int> busy_;     ///< how many procedures of it show the hourglass
-    WatchedWork work_{[this] { return window_in_front(); }, [this] { return holds_deeds(); }};
+    WatchedWork work_{{.window_in_front = [this] { return window_in_front(); },
+                       .holds_deeds = [this] { return holds_deeds(); },
+                       .leaves = [this](const MSG& input) { return leaves(input); }}};
 };
 
 } // namespace brx

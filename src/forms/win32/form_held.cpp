@@ -1,10 +1,12 @@
 // Keys and the mouse while code of the thread runs: foreign code that pumps messages hands them to the
 // windows, where they wait until the handler has returned.
 
+#include "forms/button.h"
 #include "forms/turn.h"
 #include "forms/win32/engine.h"
 #include "forms/win32/form_window.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -83,6 +85,7 @@ bool FormWindow::holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam) 
     }
     const MSG held{
         .hwnd = target, .message = message, .wParam = wparam, .lParam = lparam, .time = 0, .pt = {}};
+    if (leaves(held)) engine_.work().leave();
     switch (input) {
     case Input::key:
         if (is_pressed_key(message)) holds_key_ = true;
@@ -101,6 +104,22 @@ bool FormWindow::holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam) 
         break;
     }
     return true;
+}
+
+bool FormWindow::leaves(const MSG& held) const {
+    switch (kind_of(held.message, held.wParam)) {
+    case Input::closing:
+        return true;
+    case Input::key:
+        return held.message == WM_KEYDOWN && held.wParam == VK_ESCAPE && form_.cancel_button();
+    case Input::mouse:
+        return held.message == WM_LBUTTONDOWN && std::ranges::any_of(form_.controls(), [&](Control* each) {
+                   const auto* button = dynamic_cast<Button*>(each);
+                   return button && button->leaves() && window_of(button) == held.hwnd;
+               });
+    default:
+        return held.message == WM_NCLBUTTONDOWN && held.wParam == HTCLOSE && held.hwnd == handle_;
+    }
 }
 
 bool FormWindow::do_held() {

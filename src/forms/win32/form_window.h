@@ -45,6 +45,8 @@ public:
     /// Whether what a person does now has to wait, since code runs.
     bool has_to_wait() const;
     void hold(HeldDeeds::Deed deed) { held_.hold(std::move(deed)); }
+    /// Whether it closes the form, or asks whether it may.
+    bool leaves(const MSG& input) const;
     /// The same for a message to a window of the form; false when it need not wait.
     bool holds(HWND target, UINT message, WPARAM wparam, LPARAM lparam);
     HFONT font() const { return font_.get(); }

@@ -3,6 +3,8 @@
 #include "common/trap.h"
 #include "forms/win32/dpi.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace brx {
@@ -22,6 +24,8 @@ template <class Function> Function com_function(const char* name) {
                    : nullptr;
 }
 
+constexpr std::array<UINT, 4> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_CLOSE};
+
 /// Takes it out of the queue, so that it does nothing else.
 bool take_escape() {
     MSG key{};
@@ -32,8 +36,7 @@ bool take_escape() {
 
 } // namespace
 
-WatchedWork::WatchedWork(std::function<HWND()> window_in_front, std::function<bool()> holds_deeds)
-    : window_in_front_(std::move(window_in_front)), holds_deeds_(std::move(holds_deeds)) {
+WatchedWork::WatchedWork(Questions questions) : ask_(std::move(questions)) {
     if (const auto enable = com_function<EnableCancellation>("CoEnableCallCancellation")) enable(nullptr);
 }
 
@@ -51,7 +54,7 @@ WatchedWork::~WatchedWork() {
 
 void WatchedWork::changed() {
     if (is_going_on()) {
-        over_ = window_in_front_();
+        over_ = ask_.window_in_front();
         if (!thread_) thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
         if (idle_.exchange(false)) SetEvent(woken_.get());
     } else if (shown_) {
@@ -64,12 +67,21 @@ bool WatchedWork::looks_for_stop() {
     if (shown_ && GetTickCount64() - looked_ >= looks_for_a_key_every) {
         looked_ = GetTickCount64();
         if (take_escape()) stop();
+        if (is_left()) leave();
     }
     return Work::looks_for_stop();
 }
 
+/// By the first thing of its kind that waits in the queue. It stays there: its time comes after the work.
+bool WatchedWork::is_left() const {
+    return std::ranges::any_of(ways_to_leave, [&](UINT way) {
+        MSG input{};
+        return PeekMessageW(&input, nullptr, way, way, PM_NOREMOVE) && ask_.leaves(input);
+    });
+}
+
 bool WatchedWork::keeps_a_person_waiting() {
-    return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0 || holds_deeds_();
+    return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0 || ask_.holds_deeds();
 }
 
 void WatchedWork::break_off_call() {

@@ -23,9 +23,13 @@ using OwnedHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleClose>;
 /// takes her Stop. The thread begins with the first work.
 class WatchedWork : public Work {
 public:
-    /// Both are asked on the forms' thread: the window that work begins in, and whether a person has done
-    /// something that is held back.
-    WatchedWork(std::function<HWND()> window_in_front, std::function<bool()> holds_deeds);
+    /// What is asked on the forms' thread.
+    struct Questions {
+        std::function<HWND()> window_in_front;  ///< in which work begins
+        std::function<bool()> holds_deeds;      ///< of a person
+        std::function<bool(const MSG&)> leaves; ///< whether this input leaves the form in front
+    };
+    explicit WatchedWork(Questions questions);
     ~WatchedWork() override;
 
     void set_locale(const Locale& locale) { locale_ = locale; }
@@ -45,8 +49,9 @@ private:
     void show_it();
     bool is_over() const;
 
-    std::function<HWND()> window_in_front_;
-    std::function<bool()> holds_deeds_;
+    bool is_left() const;
+
+    Questions ask_;
     Locale locale_;
     DWORD worker_ = GetCurrentThreadId();
     OwnedHandle woken_{CreateEventW(nullptr, FALSE, FALSE, nullptr)};
