@@ -22,13 +22,13 @@ std::string signature_of(ITypeInfo& info, const FUNCDESC& function) {
                        std::to_string(function.memid) + " ";
     if (function.invkind == INVOKE_PROPERTYGET) line += "get ";
     if (function.invkind == INVOKE_PROPERTYPUT) line += "put ";
-    line += text_of(names[0]) + "(";
+    line += brx::text_of(names[0]) + "(";
     for (SHORT i = 0; i < function.cParams; ++i) {
         const ELEMDESC& parameter = function.lprgelemdescParam[i];
         const auto number = static_cast<UINT>(i) + 1;
         if (i > 0) line += ", ";
         const bool named = function.invkind == INVOKE_FUNC && number < count;
-        if (named) line += text_of(names[number]) + ":";
+        if (named) line += brx::text_of(names[number]) + ":";
         const TYPEDESC* type = &parameter.tdesc;
         for (; type->vt == VT_PTR; type = type->lptdesc) line += "*";
         line += std::to_string(type->vt);

@@ -1,5 +1,6 @@
 #include "dll/show.h"
 
+#include "com/call_retries.h"
 #include "com/com_ptr.h"
 #include "com/system_locale.h"
 #include "common/trap.h"
@@ -37,6 +38,7 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     const CodeTurn code;
     const Work::Pause others; // of a dialog from whose handler the host shows this one
     Surroundings here;
+    const CallRetries retries([&work = here.engine.work()] { return work.is_stopped(); });
     bool outcome = false;
     ShowProcedure(class_name, here.environment.errors).run([&] {
         here.environment.locale = system_locale();
