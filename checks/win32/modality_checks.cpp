@@ -101,6 +101,45 @@ TEST_F(ModalityTest, AFormWhoseOwnerIsDestroyedUnloads) {
     EXPECT_EQ(outer.Text.text(), "still there");
 }
 
+TEST_F(ModalityTest, AQuitMessageClosesAMessageBoxAsItsCloseBoxAndTheFormBelow) {
+    Small form(environment);
+    std::vector<std::int32_t> pressed;
+    form.on_press = [&] {
+        pressed.push_back(engine.message_box({"Remove it?", message::ok_cancel, "Small"}));
+        pressed.push_back(engine.message_box({"It is removed.", message::information, "Small"}));
+    };
+    while_showing(
+        [&] {
+            form.show_modal();
+            MSG message{};
+            ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+            EXPECT_EQ(message.wParam, 17U);
+        },
+        [&](Hands& hands) {
+            hands.press(hands.control("Small", "Press"));
+            hands.message_box();
+            PostThreadMessageW(windows.id(), WM_QUIT, 17, 0);
+            EXPECT_TRUE(Hands::eventually([&] { return !form.loaded(); }));
+        });
+    EXPECT_EQ(pressed, (std::vector<std::int32_t>{message::cancel, message::ok}));
+}
+
+TEST_F(ModalityTest, AMessageBoxWhoseOwnerIsDestroyedAnswersAsItsCloseBox) {
+    HostWindow main;
+    Small form(environment);
+    std::vector<std::int32_t> pressed;
+    form.on_press = [&] {
+        pressed.push_back(engine.message_box({"Remove it?", message::ok_cancel, "Small"}));
+        EXPECT_FALSE(form.loaded());
+    };
+    show(form, [&](Hands& hands) {
+        hands.press(hands.control("Small", "Press"));
+        hands.message_box();
+        hands.run([&] { DestroyWindow(main.handle()); });
+    });
+    EXPECT_EQ(pressed, (std::vector<std::int32_t>{message::cancel}));
+}
+
 TEST_F(ModalityTest, TheCloseBoxClosesOnlyTheFormInFront) {
     Small outer(environment, "Outer");
     Small inner(environment, "Inner");

@@ -34,6 +34,16 @@ std::optional<WPARAM> serve(FormWindow& window) {
     return std::nullopt;
 }
 
+bool is_to_quit() {
+    MSG message{};
+    return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) && message.message == WM_QUIT;
+}
+
+/// What the close box of a message box answers.
+std::int32_t closed_answer(std::int32_t style) {
+    return (style & MB_TYPEMASK) == message::ok_cancel ? message::cancel : message::ok;
+}
+
 void give_focus_back(HWND window) {
     if (IsWindow(window) && GetActiveWindow() == GetAncestor(window, GA_ROOT) && IsWindowVisible(window) &&
         IsWindowEnabled(window))
@@ -113,6 +123,9 @@ std::int32_t Win32Engine::message_box(const Message& message) {
         const VisualStyles styles;
         pressed = MessageBoxW(owner, text.c_str(), title.c_str(), style);
     }
+    // A box that went with its owner, or with the whole thread, has been answered by nobody: some systems say
+    // OK.
+    if (is_to_quit() || (owner && !IsWindow(owner))) pressed = closed_answer(message.style);
     if (pressed == 0) throw Error(error::invalid_procedure_call);
     if (open_forms_.empty())
         give_focus_back(focus_before);

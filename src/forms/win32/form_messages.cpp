@@ -104,6 +104,8 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
         handle_ = nullptr;
         // Whoever destroyed it, with its owner for instance: there is nothing left to serve.
         form_.unload();
+        // A message box over it sees with the next message that it has gone too.
+        PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
         return FALSE;
     default:
         if (message == describe_message()) return answer(describe(form_, handle_, wparam, lparam));
