@@ -9,6 +9,8 @@
 #include "forms/turn.h"
 #include "forms/win32/engine.h"
 
+#include <memory>
+
 namespace brx {
 
 namespace {
@@ -37,7 +39,9 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     // Until a dialog is open, windows of other dialogs on this thread are not to be worked with.
     const CodeTurn code;
     const Work::Pause others; // of a dialog from whose handler the host shows this one
-    Surroundings here;
+    // Not on the stack, which goes at once when the host ends the thread in one of its objects.
+    const auto surroundings = std::make_unique<Surroundings>();
+    Surroundings& here = *surroundings;
     const CallRetries retries([&work = here.engine.work()] { return work.is_stopped(); });
     bool outcome = false;
     ShowProcedure(class_name, here.environment.errors).run([&] {

@@ -47,6 +47,10 @@ INT_PTR FormWindow::handle_message(HWND handle, UINT message, WPARAM wparam, LPA
     case WM_CLOSE:
         deliver([&] { return form_.user_close(); });
         return TRUE;
+    case WM_ENDSESSION:
+        // By then everybody has agreed to it. Show returns, as by the close box, while there is time.
+        if (wparam) form_.unload();
+        return TRUE;
     case WM_HELP:
         deliver([&] { return form_.user_help(); });
         return TRUE;

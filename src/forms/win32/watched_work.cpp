@@ -55,7 +55,10 @@ WatchedWork::~WatchedWork() {
 void WatchedWork::changed() {
     if (is_going_on()) {
         over_ = ask_.window_in_front();
-        if (!thread_) thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
+        if (!thread_) {
+            worker_thread_.reset(OpenThread(SYNCHRONIZE, FALSE, worker_));
+            thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
+        }
         if (idle_.exchange(false)) SetEvent(woken_.get());
     } else if (shown_) {
         SetEvent(woken_.get());
@@ -94,11 +97,14 @@ DWORD WINAPI WatchedWork::thread(void* self) noexcept {
 }
 
 void WatchedWork::watch() {
-    while (!ends_) {
+    const std::array<HANDLE, 2> signals{woken_.get(), worker_thread_.get()};
+    const DWORD count = worker_thread_ ? 2 : 1;
+    const auto wait = [&](DWORD most) { WaitForMultipleObjects(count, signals.data(), FALSE, most); };
+    while (!ends_ && !is_deserted()) {
         if (!is_going_on()) {
             idle_ = true;
             // Work that began before has not found it idle, and wakes nobody.
-            if (!is_going_on()) WaitForSingleObject(woken_.get(), INFINITE);
+            if (!is_going_on()) wait(INFINITE);
             idle_ = false;
             continue;
         }
@@ -106,11 +112,17 @@ void WatchedWork::watch() {
         if (lasted >= shown_after)
             show_it();
         else
-            WaitForSingleObject(woken_.get(), static_cast<DWORD>((shown_after - lasted).count()));
+            wait(static_cast<DWORD>((shown_after - lasted).count()));
     }
 }
 
-bool WatchedWork::is_over() const { return ends_ || !is_going_on() || lasted() < shown_after; }
+bool WatchedWork::is_over() const {
+    return ends_ || !is_going_on() || lasted() < shown_after || is_deserted();
+}
+
+bool WatchedWork::is_deserted() const {
+    return WaitForSingleObject(worker_thread_.get(), 0) == WAIT_OBJECT_0;
+}
 
 void WatchedWork::show_it() {
     const ScaleOf scale(over_);

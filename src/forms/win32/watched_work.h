@@ -20,7 +20,8 @@ struct HandleClose {
 using OwnedHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleClose>;
 
 /// Work that a thread of its own watches: when it lasts, a window of that thread tells a person of it and
-/// takes her Stop. The thread begins with the first work.
+/// takes her Stop. The thread begins with the first work, and ends with this, or when its host ends the
+/// forms' thread in the middle of everything: this must then not have been on its stack.
 class WatchedWork : public Work {
 public:
     /// What is asked on the forms' thread.
@@ -48,12 +49,14 @@ private:
     void watch();
     void show_it();
     bool is_over() const;
+    bool is_deserted() const;
 
     bool is_left() const;
 
     Questions ask_;
     Locale locale_;
     DWORD worker_ = GetCurrentThreadId();
+    OwnedHandle worker_thread_;
     OwnedHandle woken_{CreateEventW(nullptr, FALSE, FALSE, nullptr)};
     OwnedHandle thread_;
     std::atomic<HWND> over_ = nullptr;
