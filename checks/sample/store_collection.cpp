@@ -163,7 +163,7 @@ TEST_F(StoreCollection, TellsATestsOwnTriggerWhenItIsOn) {
 }
 
 TEST_F(StoreCollection, HasTheDeadBandOfTheItemsRange) {
-    const auto range = [&](const std::string& item) { return entry.range_of(*configuration, item); };
+    const auto range = [&](const std::string& item) { return configuration->range_of(item); };
     EXPECT_EQ(range("Filler.Head 1.Weight"), 5.0);
     EXPECT_EQ(range("Filler.Head 1.Ready"), std::nullopt);
     EXPECT_EQ(range("no such item"), std::nullopt);

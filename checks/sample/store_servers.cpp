@@ -79,7 +79,8 @@ TEST_F(StoreServers, OneThatCannotBeStoredIsNotAddedAndNotLeftConnected) {
             ++connections;
             return std::make_shared<Object>();
         }
-        std::optional<Variant> value_of(const ObjectPtr&) override { return std::nullopt; }
+        std::unique_ptr<GroupAccess> access(const ObjectPtr&) override { return nullptr; }
+        double seconds() override { return 0; }
         void disconnect(const ObjectPtr&) noexcept override { --connections; }
         int connections = 0;
     };

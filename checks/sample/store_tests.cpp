@@ -211,19 +211,22 @@ TEST_F(StoreTests, AfterADialogTheGroupHoldsWhatIsNeededFromNowOn) {
 }
 
 TEST_F(StoreTests, ValuesOfItemsAreReadAsFarAsTheyAreGood) {
-    ServerEntry& entry = host->servers()->at(1);
     const auto configuration = configuration_of(1);
-    EXPECT_EQ(entry.value_of(*configuration, "Filler.Head 1.Weight"), std::nullopt);
+    const auto trouble = [&](const std::string& item) {
+        const ItemReading reading = configuration->reading_of(item);
+        EXPECT_NE(reading.value.has_value(), !reading.trouble.empty());
+        return reading.trouble;
+    };
+    EXPECT_EQ(trouble("Filler.Head 1.Weight"), "not connected");
     host->servers()->connect(1);
-    const auto value = entry.value_of(*configuration, "Filler.Head 1.Weight");
-    ASSERT_TRUE(value);
-    EXPECT_EQ(vartype(*value), 4);
-    EXPECT_EQ(entry.value_of(*configuration, "Running"), std::nullopt);
+    EXPECT_EQ(trouble("Filler.Head 1.Weight"), "");
+    EXPECT_EQ(vartype(*configuration->reading_of("Filler.Head 1.Weight").value), 4);
+    EXPECT_THAT(trouble("Running"), StartsWith("not in the group"));
     resolve<OPCGroup>(configuration->OPCGroup())
         ->OPCItems()
         ->Item(std::string("Filler.Head 1.Weight"))
         ->set_IsActive(false);
-    EXPECT_EQ(entry.value_of(*configuration, "Filler.Head 1.Weight"), std::nullopt);
+    EXPECT_EQ(trouble("Filler.Head 1.Weight"), "bad, out of service");
 }
 
 } // namespace

@@ -11,6 +11,7 @@ std::shared_ptr<Configuration> Configuration::make(Host& host, std::weak_ptr<hos
     auto made = std::make_shared<Configuration>(host, std::move(server), std::move(stored));
     made->tests_ = TestList::make(host, made, made->id());
     made->descriptors_ = DescriptorList::make(host, made->id());
+    made->collection_.has_stored(host.subgroups().counts(made->id()));
     return made;
 }
 
@@ -112,7 +113,7 @@ void Configuration::add_items(OPCItems& to) {
     }
 }
 
-void Configuration::fill_group(const ObjectPtr& server) noexcept {
+void Configuration::fill_group(const ObjectPtr& server, OpcSource& source) noexcept {
     drop_group();
     if (!server) return;
     attempt([&] {
@@ -120,13 +121,37 @@ void Configuration::fill_group(const ObjectPtr& server) noexcept {
             const OPCGroupsPtr groups = resolve<brx::OPCServer>(server)->OPCGroups();
             group_ = groups->Add("Configuration " + std::to_string(id()));
             add_items(*group_->OPCItems());
+            subscribe(source);
         } catch (const Error& error) {
             host_.log().add(Name() + ": " + in_one_line(error));
         }
     });
 }
 
+/// An OPC group begins without a subscription, and then nothing of it ever changes.
+void Configuration::subscribe(OpcSource& source) {
+    subscription_ = std::make_unique<Subscription>(source.access(group_), UpdateRate(), DeadBand(),
+                                                   [&source] { return source.seconds(); });
+    if (!subscription_->refusal().empty())
+        host_.log().add(Name() + ": The group is not subscribed: " + subscription_->refusal() +
+                        ". Its values are asked for.");
+}
+
+ItemReading Configuration::reading_of(const std::string& item_id) {
+    if (!subscription_) return {std::nullopt, "not connected"};
+    ItemReading reading{std::nullopt, "not in the group"};
+    attempt([&] { reading = subscription_->read(item_id); });
+    return reading;
+}
+
+std::optional<double> Configuration::range_of(const std::string& item_id) {
+    std::optional<double> range;
+    if (subscription_) attempt([&] { range = subscription_->range_of(item_id); });
+    return range;
+}
+
 void Configuration::drop_group() noexcept {
+    subscription_ = nullptr;
     const OPCGroupPtr group = std::exchange(group_, nullptr);
     if (!group) return;
     attempt([&] { group->Parent()->OPCGroups()->Remove(group->Name()); });

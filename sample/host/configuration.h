@@ -4,6 +4,7 @@
 #include "host/collection.h"
 #include "host/configuration_descriptors.h"
 #include "host/configuration_tests.h"
+#include "host/subscription.h"
 
 #include <memory>
 #include <set>
@@ -72,14 +73,19 @@ public:
     Kept kept() const { return kept_; }
     /// Makes the group anew with the items of the tests, triggers and descriptors; none without a connected
     /// server. Never fails: what cannot be had is told in the log and by the tests' states.
-    void fill_group(const ObjectPtr& server) noexcept;
+    void fill_group(const ObjectPtr& server, OpcSource& source) noexcept;
     void drop_group() noexcept;
+    /// What an item of the group says now.
+    ItemReading reading_of(const std::string& item_id);
+    /// How far its values can lie apart; none when that is not known.
+    std::optional<double> range_of(const std::string& item_id);
 
 private:
     template <class Value> void write(const char* column, Value& field, const Value& value);
     void store(std::initializer_list<ColumnValue> values);
     std::set<std::string> items() const;
     void add_items(OPCItems& to);
+    void subscribe(OpcSource& source);
 
     Host& host_;
     std::weak_ptr<ServerEntry> server_;
@@ -89,6 +95,7 @@ private:
     Collection collection_{*this};
     Kept kept_ = Kept::nothing;
     OPCGroupPtr group_; ///< null while the server is not connected
+    std::unique_ptr<Subscription> subscription_;
 };
 
 /// What a configuration refers to its server by.

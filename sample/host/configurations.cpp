@@ -19,7 +19,7 @@ std::shared_ptr<Configuration> Configurations::add() {
     const auto added =
         Configuration::make(host_, server_.weak_from_this(), host_.configurations().add(server_.id()));
     configurations_.push_back(added);
-    added->fill_group(server_.OPCServer());
+    added->fill_group(server_.OPCServer(), server_.source());
     return host_.kept(added);
 }
 
@@ -38,20 +38,22 @@ bool Configurations::settle(std::int32_t position) {
         remove(position);
         return false;
     }
-    configuration.fill_group(server_.OPCServer());
+    configuration.fill_group(server_.OPCServer(), server_.source());
     configuration.collection().take_over();
     return true;
 }
 
 void Configurations::collect(Date now) {
     for (const auto& each : configurations_) {
-        const std::string news = each->collection().tick(server_, now);
-        if (!news.empty()) host_.log().add(each->Name() + ": " + news);
+        Collection& collection = each->collection();
+        for (const std::string& news :
+             {collection.tick(server_, now), collection.store_complete(host_.subgroups(), now)})
+            if (!news.empty()) host_.log().add(each->Name() + ": " + news);
     }
 }
 
 void Configurations::fill_groups() {
-    for (const auto& each : configurations_) each->fill_group(server_.OPCServer());
+    for (const auto& each : configurations_) each->fill_group(server_.OPCServer(), server_.source());
 }
 
 void Configurations::drop_groups() noexcept {

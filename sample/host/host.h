@@ -5,6 +5,7 @@
 #include "host/record_store.h"
 #include "host/schema.h"
 #include "host/servers.h"
+#include "host/subgroup_store.h"
 #include "plant/keep.h"
 
 #include <functional>
@@ -43,6 +44,7 @@ public:
 
     RecordStore records(RecordKind kind) { return {database_.file(), kind}; }
     ConfigurationStore configurations() { return ConfigurationStore(database_.file()); }
+    SubgroupStore subgroups() { return SubgroupStore(database_.file()); }
     SettingStore settings() { return SettingStore(database_.file()); }
     Log& log() { return log_; }
 

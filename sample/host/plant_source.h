@@ -12,8 +12,8 @@ public:
 
     ObjectPtr make() override;
     ObjectPtr connect(const std::string& program_id, const std::string& node) override;
-    std::optional<Variant> value_of(const ObjectPtr& item) override;
-    std::optional<double> range_of(const ObjectPtr& item) override;
+    std::unique_ptr<GroupAccess> access(const ObjectPtr& group) override;
+    double seconds() override;
     void disconnect(const ObjectPtr& server) noexcept override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "common/values/text.h"
 #include "host/schema_model.h"
+#include "host/schema_subgroups.h"
 
 #include <array>
 
@@ -25,6 +26,7 @@ constexpr std::array steps = {
        PRAGMA application_id = 1651669075;)",
     "ALTER TABLE server ADD COLUMN last_item TEXT NOT NULL DEFAULT '';",
     model_tables,
+    subgroup_tables,
 };
 constexpr auto newest = static_cast<std::int64_t>(steps.size());
 

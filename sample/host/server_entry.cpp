@@ -6,7 +6,6 @@
 #include "host/servers.h"
 
 #include <array>
-#include <cstdio>
 
 namespace brx::host {
 
@@ -23,13 +22,6 @@ std::string state_name(std::int32_t state) {
 }
 
 } // namespace
-
-std::string in_one_line(const Error& error) {
-    if (error.number() >= 0) return error.description();
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), " (0x%08X)", static_cast<unsigned>(error.number()));
-    return error.description() + code.data();
-}
 
 ServerEntry::ServerEntry(Host& host, Servers& servers, StoredServer stored, std::shared_ptr<OpcSource> source)
     : servers_(&servers),
@@ -79,22 +71,6 @@ void ServerEntry::disconnect() noexcept {
 void ServerEntry::set_source(std::shared_ptr<OpcSource> source) {
     disconnect();
     source_ = std::move(source);
-}
-
-std::optional<Variant> ServerEntry::value_of(Configuration& configuration, const std::string& item_id) const {
-    std::optional<Variant> value;
-    attempt([&] { value = source_->value_of(item_of(configuration, item_id)); });
-    return value;
-}
-
-std::optional<double> ServerEntry::range_of(Configuration& configuration, const std::string& item_id) const {
-    std::optional<double> range;
-    attempt([&] { range = source_->range_of(item_of(configuration, item_id)); });
-    return range;
-}
-
-ObjectPtr ServerEntry::item_of(Configuration& configuration, const std::string& item_id) const {
-    return resolve<brx::OPCGroup>(configuration.OPCGroup())->OPCItems()->Item(item_id);
 }
 
 std::string ServerEntry::obstacle() const {

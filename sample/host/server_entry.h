@@ -4,6 +4,7 @@
 #include "host/configurations.h"
 #include "host/opc_source.h"
 #include "host/server_store.h"
+#include "host/words.h"
 
 #include <memory>
 
@@ -31,10 +32,7 @@ public:
     std::string state_text() const;
 
     Configurations& configurations() { return configurations_; }
-    /// The value that an item of a configuration has now; none when it cannot be had.
-    std::optional<Variant> value_of(Configuration& configuration, const std::string& item_id) const;
-    /// How far the values of such an item can lie apart; none when that is not known.
-    std::optional<double> range_of(Configuration& configuration, const std::string& item_id) const;
+    OpcSource& source() const { return *source_; }
     /// Why nothing can be collected from the server now; "" when it can.
     std::string obstacle() const;
 
@@ -48,8 +46,6 @@ public:
     void leave() { servers_ = nullptr; }
 
 private:
-    ObjectPtr item_of(Configuration& configuration, const std::string& item_id) const;
-
     Servers* servers_; ///< null once taken out
     StoredServer stored_;
     std::shared_ptr<OpcSource> source_;
@@ -72,8 +68,5 @@ private:
     std::shared_ptr<OpcSource> source_;
     ObjectPtr server_;
 };
-
-/// An error in one line: its description and, of a failure code, the code.
-std::string in_one_line(const Error& error);
 
 } // namespace brx::host

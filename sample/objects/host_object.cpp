@@ -184,6 +184,15 @@ public:
         return give(result,
                     [&] { return collection(position, number)->trigger_text(test, system_locale()); });
     }
+    STDMETHODIMP get_ItemTrouble(LONG position, LONG number, BSTR item, BSTR* result) override {
+        return give(result, [&] {
+            const std::string id = text_of(item);
+            return id.empty() ? id : configurations(position).at(number)->reading_of(id).trouble;
+        });
+    }
+    STDMETHODIMP get_StoredSubgroupCount(LONG position, LONG number, LONG test, LONG* result) override {
+        return give(result, [&] { return collection(position, number)->stored_subgroups(test); });
+    }
 
 private:
     template <class Body> static HRESULT run(Body&& body) noexcept { return guard(__uuidof(_Host), body); }
@@ -223,7 +232,7 @@ private:
 
     std::string value_text(std::int32_t position, std::int32_t number, const std::string& item_id) {
         const auto configuration = configurations(position).at(number);
-        const auto value = servers()->at(position).value_of(*configuration, item_id);
+        const auto value = configuration->reading_of(item_id).value;
         std::string text;
         attempt([&] {
             if (value) text = to_text(collect::as_shown(*value), system_locale());

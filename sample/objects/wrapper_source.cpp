@@ -12,7 +12,7 @@ namespace brx::host {
 namespace {
 
 constexpr const wchar_t* wrapper_class = L"OPC.Automation";
-constexpr LONG good = 0xC0; ///< of an item's quality
+constexpr SHORT from_device = 2;
 
 com_ptr<IOPCAutoServer> new_wrapper() {
     CLSID clsid{};
@@ -22,6 +22,68 @@ com_ptr<IOPCAutoServer> new_wrapper() {
                            reinterpret_cast<void**>(server.out())));
     return server;
 }
+
+/// Some items deny having IDispatch, so that they are only ever called by their own interface.
+class WrapperGroup final : public GroupAccess {
+public:
+    explicit WrapperGroup(com_ptr<IOPCGroup> group) : group_(std::move(group)) {
+        require(group_->get_OPCItems(items_.out()));
+        if (!items_) throw Error(error::object_not_set);
+    }
+
+    void subscribe(std::int32_t update_rate, float dead_band) override {
+        // A server that does not take one of these has its own.
+        group_->put_UpdateRate(update_rate);
+        group_->put_DeadBand(dead_band);
+        require(group_->put_IsActive(VARIANT_TRUE));
+        require(group_->put_IsSubscribed(VARIANT_TRUE));
+    }
+    bool is_subscribed() override {
+        VARIANT_BOOL subscribed = VARIANT_FALSE;
+        require(group_->get_IsSubscribed(&subscribed));
+        return subscribed != VARIANT_FALSE;
+    }
+    Observation known(const std::string& item_id) override {
+        const auto item = item_of(item_id);
+        OwnedVariant value;
+        LONG quality = 0;
+        Date time;
+        require_of_item(item, item->get_Value(value.out()));
+        require_of_item(item, item->get_Quality(&quality));
+        require_of_item(item, item->get_TimeStamp(&time.days));
+        return {brx::value_of(value.get()), quality, time};
+    }
+    /// The cache of a group can be as old as the connection.
+    Observation ask(const std::string& item_id) override {
+        const auto item = item_of(item_id);
+        OwnedVariant value;
+        OwnedVariant quality;
+        OwnedVariant time;
+        require_of_item(item, item->Read(from_device, value.out(), quality.out(), time.out()));
+        return {brx::value_of(value.get()), long_in(quality.get()), date_in(time.get())};
+    }
+
+private:
+    void require(HRESULT result) const { check(result, group_.get(), __uuidof(IOPCGroup)); }
+    static void require_of_item(const com_ptr<::OPCItem>& item, HRESULT result) {
+        check(result, item.get(), __uuidof(::OPCItem));
+    }
+    static LONG long_in(const VARIANT& number) {
+        return V_VT(&number) == VT_I2 ? V_I2(&number) : V_VT(&number) == VT_I4 ? V_I4(&number) : 0;
+    }
+    static Date date_in(const VARIANT& time) { return {V_VT(&time) == VT_DATE ? V_DATE(&time) : 0}; }
+
+    com_ptr<::OPCItem> item_of(const std::string& item_id) const {
+        const OwnedVariant name{Variant(item_id)};
+        com_ptr<::OPCItem> item;
+        check(items_->Item(name.get(), item.out()), items_.get(), __uuidof(::OPCItems));
+        if (!item) throw Error(error::object_not_set);
+        return item;
+    }
+
+    com_ptr<IOPCGroup> group_;
+    com_ptr<::OPCItems> items_;
+};
 
 } // namespace
 
@@ -42,15 +104,14 @@ ObjectPtr WrapperSource::connect(const std::string& program_id, const std::strin
     return from_dispatch(server);
 }
 
-std::optional<Variant> WrapperSource::value_of(const ObjectPtr& item) {
-    const auto* const held = dynamic_cast<const ComHolder*>(item.get());
-    const auto wrapper = held ? held->dispatch().as<::OPCItem>() : com_ptr<::OPCItem>();
-    LONG quality = 0;
-    if (!wrapper || FAILED(wrapper->get_Quality(&quality)) || (quality & good) != good) return std::nullopt;
-    OwnedVariant value;
-    check(wrapper->get_Value(value.out()), wrapper.get(), __uuidof(::OPCItem));
-    return brx::value_of(value.get());
+std::unique_ptr<GroupAccess> WrapperSource::access(const ObjectPtr& group) {
+    const auto* const held = dynamic_cast<const ComHolder*>(group.get());
+    auto wrapper = held ? held->dispatch().as<IOPCGroup>() : com_ptr<IOPCGroup>();
+    if (!wrapper) throw Error(error::type_mismatch);
+    return std::make_unique<WrapperGroup>(std::move(wrapper));
 }
+
+double WrapperSource::seconds() { return static_cast<double>(GetTickCount64()) / 1000; }
 
 void WrapperSource::disconnect(const ObjectPtr& server) noexcept {
     const auto* const held = dynamic_cast<const ComHolder*>(server.get());

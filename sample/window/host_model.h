@@ -36,8 +36,8 @@ public:
 
     /// The configurations of a server, by numbers from 1: name, number of tests, state.
     std::vector<TableLine> configurations(long position) const;
-    /// The tests of a configuration: characteristic, item, how it is saved, trigger, value now. One whose
-    /// item the server refused is an alarm and shows no item.
+    /// The tests of a configuration: characteristic, item, how it is saved, trigger, value now or why there
+    /// is none, which is an alarm. One whose item the server refused shows no item.
     std::vector<TableLine> tests(long position, long number) const;
     long configuration_count(long position) const;
     Ref<_hlxOPCConfiguration> configuration(long position, long number) const;

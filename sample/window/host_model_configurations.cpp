@@ -109,16 +109,21 @@ std::vector<TableLine> HostModel::tests(long position, long number) const {
         Text item;
         Text trigger;
         Text value;
+        Text trouble;
         long state = 0;
         check(test->get_CharacteristicName(name.out()));
         check(test->get_OPCItemID(item.out()));
         check(test->get_State(&state));
         check(host_->get_TriggerText(position, number, i, trigger.out()));
+        check(host_->get_ItemTrouble(position, number, item.get(), trouble.out()));
         check(host_->get_ItemValue(position, number, item.get(), value.out()));
         const bool refused = state == item_not_added;
+        const bool alarm = refused || !trouble.text().empty();
         lines.push_back({{name.text(), refused ? L"" : item.text(), saved_as(*test.get()), trigger.text(),
-                          refused ? L"Item refused" : value.text()},
-                         refused ? Tone::alarm : Tone::plain});
+                          refused ? L"Item refused"
+                          : alarm ? trouble.text()
+                                  : value.text()},
+                         alarm ? Tone::alarm : Tone::plain});
     }
     return lines;
 }

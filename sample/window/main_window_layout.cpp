@@ -38,8 +38,8 @@ constexpr std::array server_columns = {TableColumn{L"OPC Server", 180}, TableCol
 constexpr std::array configuration_columns = {TableColumn{L"Configuration", 0}, TableColumn{L"Tests", 80},
                                               TableColumn{L"State", 130}};
 constexpr std::array test_columns = {TableColumn{L"Characteristic", 130}, TableColumn{L"OPC Item", 0},
-                                     TableColumn{L"Save As", 110}, TableColumn{L"Trigger", 90},
-                                     TableColumn{L"Value", 110}};
+                                     TableColumn{L"Save As", 100}, TableColumn{L"Trigger", 80},
+                                     TableColumn{L"Value", 170}};
 
 /// Where no button has the focus, Enter means what a double click in the list means.
 constexpr int usual_default = ID_INFORMATION;
