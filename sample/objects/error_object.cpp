@@ -2,10 +2,8 @@
 
 #include "com/bstr.h"
 #include "com/dual.h"
+#include "host/words.h"
 #include "objects/site.h"
-
-#include <array>
-#include <cstdio>
 
 #include "brxError6.h"
 #include "hlxER01.h"
@@ -14,25 +12,55 @@ namespace brx::host {
 
 namespace {
 
-/// Failure codes are known by their hexadecimal form, run-time errors by their number.
-std::string name_of(LONG number) {
-    if (number >= 0) return std::to_string(number);
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "0x%08lX", static_cast<unsigned long>(number));
-    return code.data();
+constexpr int text_in_box = 0xFFFF;
+
+/// An error while its box is open.
+struct OpenBox {
+    const ReportedError& error;
+    const std::string text;
+    HWND window = nullptr;
+    OpenBox* outer;
+};
+thread_local OpenBox* innermost = nullptr;
+
+/// The last line is kept free for how many more like it came: a box never grows.
+std::string text_of(const OpenBox& box) {
+    return box.text + "\r\n\r\n" + site().errors.more_like(box.error) + " ";
+}
+
+/// The first window that is made after it was set is the box.
+LRESULT CALLBACK find_box(int code, WPARAM wparam, LPARAM lparam) {
+    if (code == HCBT_ACTIVATE && innermost && !innermost->window)
+        innermost->window = reinterpret_cast<HWND>(wparam);
+    return CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
+void tell_in_box(const ReportedError& error, const std::string& text) {
+    OpenBox box{error, text, nullptr, innermost};
+    innermost = &box;
+    const HHOOK hook = SetWindowsHookExW(WH_CBT, find_box, nullptr, GetCurrentThreadId());
+    MessageBoxW(GetActiveWindow(), wide(text_of(box)).c_str(), L"Unexpected Error",
+                MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
+    UnhookWindowsHookEx(hook);
+    innermost = box.outer;
+}
+
+void count_in_box(const ReportedError& error) {
+    for (const OpenBox* box = innermost; box; box = box->outer)
+        if (box->error.number == error.number && box->error.location == error.location)
+            SetDlgItemTextW(box->window, text_in_box, wide(text_of(*box)).c_str());
 }
 
 template <class Interface> class ErrorObject final : public Dual<Interface> {
 public:
     STDMETHODIMP Show(LONG number, BSTR description, BSTR source, BSTR location, BSTR application) override {
         return guard(__uuidof(Interface), [&] {
-            const std::string what = text_of(description);
-            site().log.add("Error " + name_of(number) + " in " + text_of(location) + ": " + what);
-            const std::string text =
-                what + " (error " + name_of(number) + ")\r\n\r\nLocation: " + text_of(location) +
-                "\r\nSource: " + text_of(source) + "\r\nReported by: " + text_of(application);
-            MessageBoxW(GetActiveWindow(), wide(text).c_str(), L"Unexpected Error",
-                        MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
+            const ReportedError error{number, brx::text_of(description), brx::text_of(location)};
+            if (!site().errors.add(error, seconds())) return count_in_box(error);
+            tell_in_box(error, error.description + " (error " + number_in_words(number) +
+                                   ")\r\n\r\nLocation: " + error.location + "\r\nSource: " +
+                                   brx::text_of(source) + "\r\nReported by: " + brx::text_of(application));
+            site().errors.box_closed(error, seconds());
         });
     }
 };

@@ -193,6 +193,9 @@ public:
     STDMETHODIMP get_StoredSubgroupCount(LONG position, LONG number, LONG test, LONG* result) override {
         return give(result, [&] { return collection(position, number)->stored_subgroups(test); });
     }
+    STDMETHODIMP get_ErrorText(BSTR* result) override {
+        return give(result, [] { return site().errors.last(seconds()); });
+    }
 
 private:
     template <class Body> static HRESULT run(Body&& body) noexcept { return guard(__uuidof(_Host), body); }

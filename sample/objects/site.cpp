@@ -3,18 +3,21 @@
 #include "host/plant_source.h"
 #include "objects/wrapper_source.h"
 
+#include <windows.h>
+
 namespace brx::host {
 
+Site::Site()
+    : plant(std::make_shared<PlantSource>(
+          std::make_shared<plant::Plant>(plant::sample_plant(), std::make_shared<plant::SystemClock>()))),
+      wrapper(std::make_shared<WrapperSource>()),
+      source(plant) {}
+
 Site& site() {
-    static Site the_site = [] {
-        Site made;
-        made.plant = std::make_shared<PlantSource>(
-            std::make_shared<plant::Plant>(plant::sample_plant(), std::make_shared<plant::SystemClock>()));
-        made.wrapper = std::make_shared<WrapperSource>();
-        made.source = made.plant;
-        return made;
-    }();
+    static Site the_site;
     return the_site;
 }
+
+double seconds() { return static_cast<double>(GetTickCount64()) / 1000; }
 
 } // namespace brx::host

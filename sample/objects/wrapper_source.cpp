@@ -4,6 +4,7 @@
 #include "com/com_object.h"
 #include "com/failure.h"
 #include "com/owned_variant.h"
+#include "objects/site.h"
 
 #include <OPCAutomation.h>
 
@@ -111,7 +112,7 @@ std::unique_ptr<GroupAccess> WrapperSource::access(const ObjectPtr& group) {
     return std::make_unique<WrapperGroup>(std::move(wrapper));
 }
 
-double WrapperSource::seconds() { return static_cast<double>(GetTickCount64()) / 1000; }
+double WrapperSource::seconds() { return host::seconds(); }
 
 void WrapperSource::disconnect(const ObjectPtr& server) noexcept {
     const auto* const held = dynamic_cast<const ComHolder*>(server.get());

@@ -103,6 +103,12 @@ bool HostModel::wrapper_installed() const {
 
 void HostModel::log(const std::wstring& text) { check(host_->Log(Text(text).get())); }
 
+std::wstring HostModel::error_text() const {
+    Text text;
+    check(host_->get_ErrorText(text.out()));
+    return text.text();
+}
+
 std::vector<std::wstring> HostModel::new_log_lines() {
     long count = 0;
     check(host_->get_LogCount(&count));

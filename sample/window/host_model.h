@@ -67,6 +67,8 @@ public:
     bool wrapper_installed() const;
 
     void log(const std::wstring& text);
+    /// The unexpected error that came last, with how many like it; "" for none.
+    std::wstring error_text() const;
     /// The lines since the last call.
     std::vector<std::wstring> new_log_lines();
 

@@ -44,6 +44,7 @@ private:
     /// The configurations of the selected server and the tests of the selected configuration.
     void show_details();
     void enable_commands();
+    void show_error();
     void show_log();
     void collect();
     void show_chart();
@@ -89,6 +90,7 @@ private:
     long shown_server_ = 0;        ///< whose configurations are listed
     long shown_configuration_ = 0; ///< whose tests are listed
     bool shown_running_ = false;   ///< as the command says it
+    std::wstring shown_error_;     ///< in the status bar
     bool showing_ = false;         ///< the lists are being filled
     std::optional<HostModel> model_;
     bool dialogs_found_ = false;

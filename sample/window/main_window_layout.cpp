@@ -162,7 +162,7 @@ void MainWindow::lay_out() {
     GetClientRect(window_, &area);
     GetWindowRect(status, &bar);
     const int bottom = area.bottom - (bar.bottom - bar.top);
-    const std::array<int, 2> parts = {area.right - px(220), -1};
+    const std::array<int, 3> parts = {px(130), area.right - px(190), -1};
     SendMessageW(status, SB_SETPARTS, parts.size(), reinterpret_cast<LPARAM>(parts.data()));
 
     const int left = px(margin);

@@ -34,6 +34,14 @@ void MainWindow::refresh() {
     }
     show_details();
     show_log();
+    show_error();
+}
+
+void MainWindow::show_error() {
+    const std::wstring text = model_->error_text();
+    if (text == shown_error_) return;
+    shown_error_ = text;
+    SendMessageW(child(ID_STATUS), SB_SETTEXTW, 1, reinterpret_cast<LPARAM>((L" " + text).c_str()));
 }
 
 void MainWindow::show_details() {
@@ -66,7 +74,7 @@ void MainWindow::show_selection() {
     SendMessageW(status, SB_SETTEXTW, 0,
                  reinterpret_cast<LPARAM>(
                      (L" " + std::filesystem::path(model_->database_file()).filename().wstring()).c_str()));
-    SendMessageW(status, SB_SETTEXTW, 1,
+    SendMessageW(status, SB_SETTEXTW, 2,
                  reinterpret_cast<LPARAM>(wrapper ? L" OPC automation wrapper" : L" Simulated plant"));
 }
 
