@@ -2,7 +2,6 @@
 #include "adapters/to_com.h"
 #include "com/adapters/from_com.h"
 #include "com/bstr.h"
-#include "com/counted.h"
 #include "com/describe.h"
 #include "com/failure.h"
 #include "com/host_doubles.h"
@@ -10,6 +9,7 @@
 #include "com/owned_variant.h"
 #include "com/round_trip.h"
 #include "com/safe_array.h"
+#include "com/shy.h"
 #include "com/type_info.h"
 
 #include <gmock/gmock.h>
@@ -22,24 +22,6 @@ namespace brx::checks {
 namespace {
 
 using testing::ElementsAre;
-
-/// An OPC automation object that owns up to its own interface only, as the common wrapper's items and
-/// browsers do, and leaves no error information.
-template <class Unused, class Interface> class Shy : public Counted<Unused> {
-public:
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == __uuidof(IUnknown) || iid == __uuidof(Interface);
-        *object = known ? static_cast<Interface*>(this) : nullptr;
-        if (known) this->AddRef();
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
-};
 
 class ShyItem final : public Shy<UnusedOfOPCItem, ::OPCItem> {
 public:

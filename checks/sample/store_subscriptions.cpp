@@ -139,6 +139,13 @@ TEST_F(StoreSubscription, GoesOnAskingWhenOnlyItsQuestionsBringValues) {
     }
 }
 
+TEST_F(StoreSubscription, TakesEverythingThatItAskedForAlsoWithADeadBand) {
+    begin(5);
+    EXPECT_EQ(pass(3).value, Variant(500.0));
+    group.real["Weight"] = said(501.0);
+    EXPECT_EQ(pass(1.5).value, Variant(501.0));
+}
+
 TEST_F(StoreSubscription, StopsAskingWhenValuesComeAfterAll) {
     begin();
     pass(4);

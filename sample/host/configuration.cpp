@@ -133,8 +133,8 @@ void Configuration::subscribe(OpcSource& source) {
     subscription_ = std::make_unique<Subscription>(source.access(group_), UpdateRate(), DeadBand(),
                                                    [&source] { return source.seconds(); });
     if (!subscription_->refusal().empty())
-        host_.log().add(Name() + ": The group is not subscribed: " + subscription_->refusal() +
-                        ". Its values are asked for.");
+        host_.log().add(Name() + ": The group is not subscribed, so its values are asked for: " +
+                        subscription_->refusal());
 }
 
 ItemReading Configuration::reading_of(const std::string& item_id) {

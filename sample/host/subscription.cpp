@@ -102,7 +102,7 @@ void Subscription::ask(Item& item, const std::string& item_id) {
     const double asked = seconds_();
     try {
         const Observation said = group_->ask(item_id);
-        if (!item.answer || tells_more(said, *item.answer)) {
+        if (tells_more(said, item)) {
             item.answer = said;
             item.only_asked = true;
         }
@@ -118,10 +118,12 @@ void Subscription::ask(Item& item, const std::string& item_id) {
     item.next_question = answered + pause;
 }
 
-/// Within a dead band a subscribed server keeps small changes to itself.
-bool Subscription::tells_more(const Observation& found, const Observation& before) const {
-    if (says_the_same(found, before)) return false;
-    return !subscribed_ || dead_band_ == 0 || found.quality != before.quality;
+/// Within a dead band a server that tells changes keeps small ones to itself.
+bool Subscription::tells_more(const Observation& found, const Item& item) const {
+    if (!item.answer) return true;
+    if (says_the_same(found, *item.answer)) return false;
+    const bool is_told = subscribed_ && !item.only_asked;
+    return !is_told || dead_band_ == 0 || found.quality != item.answer->quality;
 }
 
 ItemReading Subscription::reading_of(const Item& item, double now) const {

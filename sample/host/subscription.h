@@ -44,7 +44,7 @@ private:
     void hear(Item& item, const Observation& known, double now) const;
     bool is_to_be_asked(const Item& item, double now) const;
     void ask(Item& item, const std::string& item_id);
-    bool tells_more(const Observation& found, const Observation& before) const;
+    bool tells_more(const Observation& found, const Item& item) const;
     ItemReading reading_of(const Item& item, double now) const;
 
     std::unique_ptr<GroupAccess> group_;

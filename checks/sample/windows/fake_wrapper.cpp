@@ -3,6 +3,8 @@
 #include "adapters/opc_unused.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
+#include "com/owned_variant.h"
+#include "sample/windows/fake_wrapper_objects.h"
 
 #include <memory>
 
@@ -17,9 +19,9 @@ constexpr const wchar_t* wrapper_key = L"Software\\Classes\\OPC.Automation";
 const HKEY roots[] = {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE};
 
 /// References of an object that lives on the heap.
-template <class Interface, class Base> class Counted : public Base {
+template <class Interface, class Base> class CountedFake : public Base {
 public:
-    virtual ~Counted() = default;
+    virtual ~CountedFake() = default;
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
         const bool known = iid == __uuidof(IUnknown) || iid == __uuidof(Interface) || iid == also_;
         *object = known ? static_cast<Interface*>(this) : nullptr;
@@ -29,7 +31,7 @@ public:
     STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
     STDMETHODIMP_(ULONG) Release() override {
         const ULONG left = --references_;
-        if (left == 0) std::unique_ptr<Counted>(this).reset();
+        if (left == 0) std::unique_ptr<CountedFake>(this).reset();
         return left;
     }
 
@@ -40,9 +42,10 @@ private:
     ULONG references_ = 0;
 };
 
-class FakeServer final : public Counted<::IOPCAutoServer, UnusedOfOPCServer> {
+class FakeServer final : public CountedFake<::IOPCAutoServer, UnusedOfOPCServer> {
 public:
     FakeServer() { also_ = __uuidof(IDispatch); }
+    ~FakeServer() override { groups_->RemoveAll(); }
     STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
@@ -51,7 +54,7 @@ public:
     }
     STDMETHODIMP get_StartTime(DATE*) override { return E_NOTIMPL; }
     STDMETHODIMP get_CurrentTime(DATE*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_LastUpdateTime(DATE*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_LastUpdateTime(DATE* time) override { return *time = -109205, S_OK; }
     STDMETHODIMP get_MajorVersion(SHORT*) override { return E_NOTIMPL; }
     STDMETHODIMP get_MinorVersion(SHORT*) override { return E_NOTIMPL; }
     STDMETHODIMP get_BuildNumber(SHORT*) override { return E_NOTIMPL; }
@@ -60,34 +63,42 @@ public:
         *state = server_.empty() ? 6 : 1;
         return S_OK;
     }
-    STDMETHODIMP get_ServerName(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_ServerNode(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_ServerName(BSTR* name) override { return *name = Bstr(server_).detach(), S_OK; }
+    STDMETHODIMP get_ServerNode(BSTR* node) override { return *node = nullptr, S_OK; }
     STDMETHODIMP get_ClientName(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP get_Bandwidth(LONG*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_OPCGroups(IOPCGroups**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetOPCServers(VARIANT, VARIANT*) override { return E_NOTIMPL; }
-    STDMETHODIMP CreateBrowser(::OPCBrowser**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_OPCGroups(IOPCGroups** groups) override {
+        return *groups = com_ptr(groups_).detach(), S_OK;
+    }
+    STDMETHODIMP GetOPCServers(VARIANT, VARIANT* servers) override {
+        const StringArray listed{{FakeWrapper::garbage, "Sim.1", "Sim.2"}, 0};
+        return *servers = OwnedVariant(OwnedSafeArray(listed)).detach(), S_OK;
+    }
+    STDMETHODIMP CreateBrowser(::OPCBrowser** browser) override {
+        return *browser = make_fake_browser().detach(), S_OK;
+    }
     STDMETHODIMP GetErrorString(LONG, BSTR*) override { return E_NOTIMPL; }
 
     STDMETHODIMP Connect(BSTR program_id, VARIANT node) override {
         const std::string name = text_of(program_id);
         const std::string computer = V_VT(&node) == VT_BSTR ? text_of(V_BSTR(&node)) : "this computer";
         FakeWrapper::diary.push_back("connect " + name + " on " + computer);
-        if (name == "Broken") return static_cast<HRESULT>(0x80080005);
+        if (name == "Broken" || name == FakeWrapper::garbage) return static_cast<HRESULT>(0x80080005);
         server_ = name;
         return S_OK;
     }
     STDMETHODIMP Disconnect() override {
         FakeWrapper::diary.push_back("disconnect " + server_);
         server_.clear();
-        return S_OK;
+        return groups_->RemoveAll();
     }
 
 private:
     std::string server_;
+    com_ptr<IOPCGroups> groups_ = make_fake_groups(*this);
 };
 
-class FakeFactory final : public Counted<IClassFactory, IClassFactory> {
+class FakeFactory final : public CountedFake<IClassFactory, IClassFactory> {
 public:
     STDMETHODIMP CreateInstance(IUnknown*, REFIID iid, void** object) override {
         const com_ptr<IUnknown> made(
@@ -99,10 +110,13 @@ public:
 
 } // namespace
 
-std::vector<std::string> FakeWrapper::diary;
-
 FakeWrapper::FakeWrapper() {
     diary.clear();
+    items = {{"Filler.Head 1.Weight", {498.5}},
+             {"Filler.Head 1.Volume", {499.5}},
+             {"Filler.Head 1.Ready", {true}},
+             {"Labeller.Batch", {std::string("B-1")}}};
+    takes_subscriptions = tells_changes = answers = true;
     const std::wstring key = std::wstring(wrapper_key) + L"\\CLSID";
     const std::wstring text = wrapper_class_text;
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));

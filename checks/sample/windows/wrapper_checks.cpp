@@ -44,7 +44,9 @@ TEST_F(SampleWrapper, ConnectsTheConfiguredServersWhenItIsChosen) {
     EXPECT_EQ(get(host.get(), "Source"), wrapper);
     EXPECT_THAT(FakeWrapper::diary,
                 ElementsAre("connect Simulation.Packing.1 on this computer",
-                            "connect Simulation.Filling.1 on LINE1", "connect Simulation.Kiln.1 on LAB"));
+                            "subscribe Configuration 1 every 1000 ms",
+                            "connect Simulation.Filling.1 on LINE1",
+                            "subscribe Configuration 2 every 1000 ms", "connect Simulation.Kiln.1 on LAB"));
     EXPECT_EQ(state(3), "Running");
 }
 
