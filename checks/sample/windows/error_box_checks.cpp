@@ -1,10 +1,10 @@
 #include "sample/windows/host_program.h"
 #include "sample/windows/objects_stage.h"
+#include "sample/windows/ticking.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <functional>
 
 namespace brx::checks {
 
@@ -12,30 +12,6 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
-
-/// Runs again and again while somebody serves messages.
-class Ticking {
-public:
-    explicit Ticking(std::function<void()> tick) : tick_(std::move(tick)) {
-        present_ = this;
-        timer_ = SetTimer(nullptr, 0, 20, run);
-    }
-    Ticking(const Ticking&) = delete;
-    Ticking& operator=(const Ticking&) = delete;
-    ~Ticking() {
-        KillTimer(nullptr, timer_);
-        present_ = nullptr;
-    }
-
-private:
-    static void CALLBACK run(HWND, UINT, UINT_PTR, DWORD) {
-        if (present_) present_->tick_();
-    }
-
-    static inline Ticking* present_ = nullptr;
-    std::function<void()> tick_;
-    UINT_PTR timer_;
-};
 
 /// The boxes of this thread, read as they open.
 class SampleErrorBox : public ObjectsCheck {

@@ -210,7 +210,7 @@ public:
             return E_INVALIDARG;
         return give_text(result, names_[static_cast<std::size_t>(V_I4(&index)) - 1]);
     }
-    STDMETHODIMP ShowBranches() override { return names_.clear(), S_OK; }
+    STDMETHODIMP ShowBranches() override { return names_ = {FakeWrapper::garbage}, S_OK; }
     STDMETHODIMP ShowLeafs(VARIANT) override {
         names_ = {FakeWrapper::garbage};
         for (const auto& [id, item] : FakeWrapper::items) names_.push_back(id);

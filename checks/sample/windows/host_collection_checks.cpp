@@ -57,6 +57,14 @@ TEST(SampleProgramCollection, EndsWithTheHost) {
     EXPECT_TRUE(says(host, "Not running."));
 }
 
+TEST(SampleProgramCollection, FindsAgainWhatWasStoredBeforeItWasKilled) {
+    OpenHost host;
+    host.press(L"bnRun");
+    EXPECT_TRUE(says(host, "Running: 1 subgroup,"));
+    host.kill_and_start_again();
+    EXPECT_TRUE(says(host, "Not running. 1 subgroup is stored.")) << chart_text(host);
+}
+
 } // namespace
 
 } // namespace brx::checks

@@ -96,6 +96,11 @@ void OpenHost::start_again() {
     start();
 }
 
+void OpenHost::kill_and_start_again() {
+    program_.reset();
+    start();
+}
+
 void OpenHost::select_row(WPARAM key, LRESULT row) const {
     PostMessageW(list(), WM_KEYDOWN, key, 1);
     EXPECT_TRUE(comes_true([&] {

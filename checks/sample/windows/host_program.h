@@ -42,6 +42,8 @@ public:
 
     /// Closes it, and starts it on the same database file.
     void start_again();
+    /// Kills it in the middle of whatever it does, and starts it on the same database file.
+    void kill_and_start_again();
 
     const HostProgram& program() const { return *program_; }
     HWND control(const wchar_t* name) const { return controls_of(window_)[name]; }

@@ -1,8 +1,15 @@
+#include "com/bstr.h"
+#include "com/owned_variant.h"
 #include "sample/windows/fake_wrapper.h"
 #include "sample/windows/host_program.h"
 #include "sample/windows/objects_stage.h"
+#include "sample/windows/ticking.h"
 
+#include <commctrl.h>
 #include <gmock/gmock.h>
+
+#include <OPCAutomation.h>
+#include <brxOpcDlgs6.h>
 
 namespace brx::checks {
 
@@ -106,6 +113,46 @@ TEST_F(SampleWrapperValues, AreNotWantedFromAServerThatIsGarbageInAnEnumeration)
     EXPECT_FALSE(std::get<ObjectPtr>(added));
     EXPECT_THAT(std::get<std::string>(get(servers().get(), "LastError")), HasSubstr("(0x80080005)"));
     EXPECT_EQ(get(servers().get(), "Count"), Variant(std::int32_t{3}));
+}
+
+/// The first name in the browser's list is no item's.
+TEST_F(SampleWrapperValues, AreChosenInADialogThatMeetsTheWrapperItself) {
+    connect();
+    const auto server = get_object(host.get(), "Server", {std::string("Simulation.Packing.1")});
+    com_ptr<::IOPCGroups> groups;
+    com_ptr<::IOPCGroup> group;
+    ASSERT_EQ(server.as<::IOPCAutoServer>()->get_OPCGroups(groups.out()), S_OK);
+    ASSERT_EQ(groups->Add(OwnedVariant(Missing{}).get(), group.out()), S_OK);
+    EXPECT_FALSE(group.as<IDispatch>());
+
+    const auto dialog = create_by_name(L"brxOpcDlgs6.LeafSelect").as<_LeafSelect>();
+    LRESULT names = 0;
+    int step = 0;
+    VARIANT_BOOL chosen = VARIANT_FALSE;
+    {
+        const Ticking choosing([&] {
+            const HWND window = FindWindowW(L"#32770", L"Select Item");
+            if (!window || !IsWindowEnabled(window)) return;
+            Controls controls = controls_of(window);
+            if (++step == 1) {
+                names = SendMessageW(controls[L"lstItem"], LVM_GETITEMCOUNT, 0, 0);
+                PostMessageW(controls[L"lstItem"], WM_KEYDOWN, VK_HOME, 1);
+            } else if (step == 2) {
+                PostMessageW(controls[L"lstItem"], WM_KEYDOWN, VK_END, 1);
+            } else if (step == 3) {
+                PostMessageW(controls[L"bnOK"], BM_CLICK, 0, 0);
+            } else if (step == 50) {
+                PostMessageW(window, WM_CLOSE, 0, 0);
+            }
+        });
+        ASSERT_EQ(dialog->Show(server.get(), group.get(), &chosen), S_OK);
+    }
+    Bstr item;
+    ASSERT_EQ(dialog->get_ItemID(item.out()), S_OK);
+    EXPECT_EQ(names, 5);
+    EXPECT_EQ(chosen, VARIANT_TRUE);
+    EXPECT_EQ(item.text(), "Labeller.Batch");
+    EXPECT_EQ(FakeWrapper::diary.back(), "validate Labeller.Batch");
 }
 
 } // namespace
