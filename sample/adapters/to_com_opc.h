@@ -6,7 +6,7 @@
 
 namespace brx {
 
-template <> class ToCom<OPCServer> final : public ModelCom<OPCServer, UnusedOfOPCServer> {
+template <> class ToCom<OPCServer> : public ModelCom<OPCServer, UnusedOfOPCServer> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_StartTime(DATE* result) override { return give(result, &Model::StartTime); }
@@ -93,7 +93,7 @@ public:
     }
 };
 
-template <> class ToCom<OPCItem> final : public ModelCom<OPCItem, UnusedOfOPCItem> {
+template <> class ToCom<OPCItem> : public ModelCom<OPCItem, UnusedOfOPCItem> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ItemID(BSTR* result) override { return give(result, &Model::ItemID); }
