@@ -1,0 +1,77 @@
+#include "apart/apart_play.h"
+
+#include "com/bstr.h"
+#include "com/com_object.h"
+#include "com/failure.h"
+#include "com/owned_variant.h"
+
+namespace brx::checks {
+
+namespace {
+
+const wchar_t* const wrapper_class = L"OPC.Automation";
+
+com_ptr<IOPCAutoServer> a_server_there() {
+    CLSID clsid{};
+    check(CLSIDFromProgID(wrapper_class, &clsid));
+    com_ptr<IOPCAutoServer> server;
+    check(CoCreateInstance(clsid, nullptr, CLSCTX_LOCAL_SERVER, __uuidof(IOPCAutoServer),
+                           reinterpret_cast<void**>(server.out())));
+    return server;
+}
+
+} // namespace
+
+ApartPlay::ApartPlay(const std::wstring& switches) : server_(switches) {
+    its.stage->start([this] { connect(); });
+    calls_of_the_host_ = server_.calls().size();
+    EXPECT_EQ(calls_of_the_host_, calls_to_connect);
+}
+
+void ApartPlay::connect() {
+    const com_ptr<IOPCAutoServer> server = a_server_there();
+    const OwnedVariant omitted{Variant(Missing{})};
+    check(server->Connect(Bstr("Simulation.Packing.1").get(), omitted.get()));
+    com_ptr<IOPCGroups> groups;
+    check(server->get_OPCGroups(groups.out()));
+    com_ptr<IOPCGroup> group;
+    check(groups->Add(OwnedVariant{Variant(std::string("Dialogs"))}.get(), group.out()));
+    connection_ = from_dispatch(server);
+    group_ = from_dispatch(group);
+    its.host.configuration->group = group_;
+    const auto entry = std::make_shared<FakeServer>(its.host.calls, "Simulation.Packing.1", "");
+    entry->connection = connection_;
+    entry->parent = its.host.servers;
+    its.host.configuration->server->entry = entry;
+    its.host.fresh_connection = connection_;
+}
+
+std::vector<std::string> ApartPlay::calls() const {
+    std::vector<std::string> calls = server_.calls();
+    calls.erase(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(calls_of_the_host_));
+    return calls;
+}
+
+void ApartPlay::release() {
+    its.stage->start([this] {
+        its.host.configuration->group = its.host.group;
+        its.host.configuration->server->entry = nullptr;
+        its.host.fresh_connection = its.host.enumerator;
+        for (const auto& each : its.host.servers->entries()) each->connection = nullptr;
+        connection_ = group_ = nullptr;
+    });
+}
+
+ApartPlay::~ApartPlay() {
+    its.close_everything();
+    if (connection_) release();
+}
+
+void ApartPlay::expect_clean_end() {
+    its.close_everything();
+    release();
+    its.expect_clean_end();
+    EXPECT_TRUE(server_.has_ended()) << "Something of the server is still referred to.";
+}
+
+} // namespace brx::checks

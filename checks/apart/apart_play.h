@@ -1,0 +1,48 @@
+#pragma once
+
+#include "apart/server_program.h"
+#include "com/com_ptr.h"
+#include "scenario.h"
+
+#include <OPCAutomation.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// A story whose OPC server is another process: the objects of the host are as ever, but its connection, the
+/// group and the connection that lists servers are the system's proxies of objects there.
+class ApartPlay {
+public:
+    explicit ApartPlay(const std::wstring& switches = L"");
+    ~ApartPlay();
+
+    Play its;
+    ServerProgram& server() { return server_; }
+    const ObjectPtr& connection() const { return connection_; }
+    const ObjectPtr& group() const { return group_; }
+    /// The calls that dialogs made to the server.
+    std::vector<std::string> calls() const;
+
+    /// The host lets go of the server, as it does when it ends.
+    void release();
+    /// Nothing is left: on the screen, of the host's objects, of the server's.
+    void expect_clean_end();
+
+private:
+    void connect();
+
+    ServerProgram server_;
+    ObjectPtr connection_;
+    ObjectPtr group_;
+    std::size_t calls_of_the_host_ = 0;
+};
+
+using ApartStory = std::function<void(ApartPlay&)>;
+
+/// How many calls the host itself makes before a dialog makes one.
+constexpr unsigned calls_to_connect = 3;
+
+} // namespace brx::checks

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "apart/apart_play.h"
+
+namespace brx::checks {
+
+// What each dialog is there for, with a server in another process.
+
+void chooses_a_server(ApartPlay& play);
+void looks_at_a_server(ApartPlay& play);
+void browses_for_an_item(ApartPlay& play);
+void sets_up_a_test(ApartPlay& play);
+void sets_a_trigger(ApartPlay& play);
+void adds_a_descriptor(ApartPlay& play);
+
+struct MainStory {
+    const char* name;
+    ApartStory tell;
+};
+const std::vector<MainStory>& main_stories();
+
+} // namespace brx::checks

@@ -1,0 +1,102 @@
+#include "apart/server_program.h"
+
+#include <tlhelp32.h>
+
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+namespace brx::checks {
+
+namespace {
+
+std::filesystem::path this_program() {
+    std::wstring program(32'768, L'\0');
+    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    return program;
+}
+
+std::filesystem::path server_program() { return this_program().parent_path() / BRX_SERVER_FROM_PROGRAM; }
+
+PROCESS_INFORMATION started(const std::wstring& arguments) {
+    const std::filesystem::path program = server_program().lexically_normal();
+    std::wstring line = L"\"" + program.wstring() + L"\" " + arguments;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &process))
+        throw std::runtime_error("The server program does not start: error " +
+                                 std::to_string(GetLastError()));
+    return process;
+}
+
+void close(const PROCESS_INFORMATION& process) {
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+}
+
+/// Runs it and gives its exit code.
+DWORD run(const std::wstring& arguments) {
+    const PROCESS_INFORMATION process = started(arguments);
+    DWORD code = STILL_ACTIVE;
+    if (WaitForSingleObject(process.hProcess, 30'000) == WAIT_OBJECT_0)
+        GetExitCodeProcess(process.hProcess, &code);
+    close(process);
+    return code;
+}
+
+} // namespace
+
+InstalledServer::InstalledServer() {
+    if (run(L"--install") != 0) throw std::runtime_error("The server program cannot be installed.");
+}
+
+InstalledServer::~InstalledServer() { run(L"--uninstall"); }
+
+ServerProgram::ServerProgram(const std::wstring& switches) {
+    static unsigned number = 0;
+    log_ = std::filesystem::temp_directory_path() /
+           ("brx-apart-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number) + ".log");
+    process_ = started(switches + L" --log \"" + log_.wstring() + L"\" -Embedding");
+    // It offers its class before it waits for the first message.
+    WaitForInputIdle(process_.hProcess, 30'000);
+}
+
+ServerProgram::~ServerProgram() {
+    if (!has_ended(0)) TerminateProcess(process_.hProcess, 99);
+    has_ended();
+    close(process_);
+    std::error_code ignored;
+    std::filesystem::remove(log_, ignored);
+}
+
+std::vector<std::string> ServerProgram::calls() const {
+    std::vector<std::string> calls;
+    std::ifstream log(log_);
+    for (std::string line; std::getline(log, line);) {
+        if (line.ends_with('\r')) line.pop_back();
+        calls.push_back(line);
+    }
+    return calls;
+}
+
+bool ServerProgram::has_ended(DWORD milliseconds) const {
+    return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
+}
+
+void ServerProgram::for_each_thread(DWORD(WINAPI* deed)(HANDLE)) const {
+    const HANDLE all = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    THREADENTRY32 entry{};
+    entry.dwSize = sizeof entry;
+    for (BOOL found = Thread32First(all, &entry); found; found = Thread32Next(all, &entry)) {
+        if (entry.th32OwnerProcessID != process_.dwProcessId) continue;
+        const HANDLE thread = OpenThread(THREAD_SUSPEND_RESUME, FALSE, entry.th32ThreadID);
+        if (!thread) continue;
+        deed(thread);
+        CloseHandle(thread);
+    }
+    CloseHandle(all);
+}
+
+} // namespace brx::checks

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace brx::checks {
+
+/// Makes the sample's server program the OPC automation wrapper of this computer while it lives.
+class InstalledServer {
+public:
+    InstalledServer();
+    InstalledServer(const InstalledServer&) = delete;
+    InstalledServer& operator=(const InstalledServer&) = delete;
+    ~InstalledServer();
+};
+
+/// The server program as a process beside this one, ready to be connected to. It ends when everything of it
+/// has been given back.
+class ServerProgram {
+public:
+    /// With its switches.
+    explicit ServerProgram(const std::wstring& switches);
+    ServerProgram(const ServerProgram&) = delete;
+    ServerProgram& operator=(const ServerProgram&) = delete;
+    ~ServerProgram();
+
+    /// The calls that reached it, by their names, in order.
+    std::vector<std::string> calls() const;
+
+    /// What a debugger does to a process, or a computer that is out of breath: none of its threads runs.
+    void suspend() { for_each_thread(SuspendThread); }
+    void resume() { for_each_thread(ResumeThread); }
+
+    /// Whether it has come to its end; looks for a while.
+    bool has_ended(DWORD milliseconds = 5'000) const;
+
+private:
+    void for_each_thread(DWORD(WINAPI* deed)(HANDLE)) const;
+
+    std::filesystem::path log_;
+    PROCESS_INFORMATION process_{};
+};
+
+} // namespace brx::checks
