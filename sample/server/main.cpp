@@ -85,6 +85,7 @@ int serve(HINSTANCE program, int show_command, const Options& options) {
     check(CoRegisterMessageFilter(calls.get(), nullptr));
     check(CoRegisterClassObject(server_class, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE,
                                 &calls->offered));
+    window.says_that_it_serves();
     serve_messages(window, options.until_released);
     CoRevokeClassObject(calls->offered);
     CoRegisterMessageFilter(nullptr, nullptr);

@@ -60,6 +60,8 @@ bool Window::open(HINSTANCE program, int show_command) {
     return true;
 }
 
+void Window::says_that_it_serves() const { sample::name_window(window_, kind_of_window); }
+
 LRESULT CALLBACK Window::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept {
     if (message == WM_NCCREATE) {
         const auto* const made = reinterpret_cast<const CREATESTRUCTW*>(lparam);
@@ -93,6 +95,7 @@ LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     }
     case WM_DESTROY:
+        sample::forget_name(window_);
         PostQuitMessage(0);
         return 0;
     default:

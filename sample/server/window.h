@@ -17,6 +17,8 @@ public:
     Window& operator=(const Window&) = delete;
 
     bool open(HINSTANCE program, int show_command);
+    /// From now on the window bears its name, by which tests find a server that clients can connect to.
+    void says_that_it_serves() const;
     HWND handle() const { return window_; }
     /// Objects that clients hold on to.
     long objects_in_use() const;
