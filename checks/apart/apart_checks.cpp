@@ -1,4 +1,7 @@
-#include "apart/main_stories.h"
+#include "apart/apart_suite.h"
+#include "apart/waiting_watch.h"
+
+#include <thread>
 
 // The dialogs with an OPC server in another process, as most are: calls travel by the system's proxies.
 
@@ -6,33 +9,38 @@ namespace brx::checks {
 
 namespace {
 
-class Apart : public testing::TestWithParam<MainStory> {
-protected:
-    static void SetUpTestSuite() { installed_ = std::make_unique<InstalledServer>(); }
-    static void TearDownTestSuite() { installed_ = nullptr; }
+std::string name_of_story(const testing::TestParamInfo<MainStory>& story) { return story.param.name; }
 
-    static void tell(ApartPlay& play) {
-        try {
-            GetParam().tell(play);
-        } catch (const GaveUp&) {
-            // Recorded where it happened.
-        }
-    }
-
-private:
-    static inline std::unique_ptr<InstalledServer> installed_;
-};
-
-std::string name_of_story(const testing::TestParamInfo<MainStory>& info) { return info.param.name; }
+} // namespace
 
 TEST_P(Apart, ThePersonDoesItAndEverythingIsGivenBack) {
-    ApartPlay play;
-    tell(play);
-    play.expect_clean_end();
+    ApartPlay its;
+    play(its, story());
+    its.expect_clean_end();
+}
+
+TEST_P(Apart, TheSameWhenEachCallTakesItsTimeAndThePersonIsToldWhatIsWaitedFor) {
+    ApartPlay its(L"--delay " + std::to_wstring(GetParam().delay));
+    WaitingWatch watch;
+    play(its, story());
+    its.expect_clean_end();
+    EXPECT_EQ(watch.seen().empty(), GetParam().in_ticks);
+}
+
+TEST_P(Apart, TheSameWhenTheServerIsSuspendedAndResumed) {
+    ApartPlay its;
+    WaitingWatch watch;
+    its.server().suspend();
+    std::thread somebody([&] {
+        Sleep(1'600);
+        its.server().resume();
+    });
+    play(its, story());
+    somebody.join();
+    its.expect_clean_end();
+    EXPECT_EQ(watch.seen().empty(), GetParam().in_ticks);
 }
 
 INSTANTIATE_TEST_SUITE_P(EachDialog, Apart, testing::ValuesIn(main_stories()), name_of_story);
-
-} // namespace
 
 } // namespace brx::checks

@@ -5,33 +5,52 @@
 #include "com/failure.h"
 #include "com/owned_variant.h"
 
+#include <gtest/gtest-spi.h>
+
 namespace brx::checks {
 
 namespace {
 
 const wchar_t* const wrapper_class = L"OPC.Automation";
+constexpr HRESULT call_not_executed = HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE);
 
 com_ptr<IOPCAutoServer> a_server_there() {
     CLSID clsid{};
     check(CLSIDFromProgID(wrapper_class, &clsid));
     com_ptr<IOPCAutoServer> server;
-    check(CoCreateInstance(clsid, nullptr, CLSCTX_LOCAL_SERVER, __uuidof(IOPCAutoServer),
-                           reinterpret_cast<void**>(server.out())));
+    const auto create = [&] {
+        return CoCreateInstance(clsid, nullptr, CLSCTX_LOCAL_SERVER, __uuidof(IOPCAutoServer),
+                                reinterpret_cast<void**>(server.out()));
+    };
+    const HRESULT created = create();
+    // Of a process that bears the number of one that died Wine finds the way only the second time.
+    check(created == call_not_executed ? create() : created);
     return server;
 }
 
 } // namespace
 
-ApartPlay::ApartPlay(const std::wstring& switches) : server_(switches) {
+ApartPlay::ApartPlay(const std::wstring& switches, const std::string& program_id) : program_id_(program_id) {
+    start(switches);
+}
+
+void ApartPlay::start(const std::wstring& switches) {
+    server_ = nullptr; // what is left of an earlier one would answer
+    server_ = std::make_unique<ServerProgram>(switches);
     its.stage->start([this] { connect(); });
-    calls_of_the_host_ = server_.calls().size();
+    calls_of_the_host_ = server_->calls().size();
     EXPECT_EQ(calls_of_the_host_, calls_to_connect);
+}
+
+void ApartPlay::connect_again() {
+    release();
+    start(L"");
 }
 
 void ApartPlay::connect() {
     const com_ptr<IOPCAutoServer> server = a_server_there();
     const OwnedVariant omitted{Variant(Missing{})};
-    check(server->Connect(Bstr("Simulation.Packing.1").get(), omitted.get()));
+    check(server->Connect(Bstr(program_id_).get(), omitted.get()));
     com_ptr<IOPCGroups> groups;
     check(server->get_OPCGroups(groups.out()));
     com_ptr<IOPCGroup> group;
@@ -39,7 +58,7 @@ void ApartPlay::connect() {
     connection_ = from_dispatch(server);
     group_ = from_dispatch(group);
     its.host.configuration->group = group_;
-    const auto entry = std::make_shared<FakeServer>(its.host.calls, "Simulation.Packing.1", "");
+    const auto entry = std::make_shared<FakeServer>(its.host.calls, program_id_, "");
     entry->connection = connection_;
     entry->parent = its.host.servers;
     its.host.configuration->server->entry = entry;
@@ -47,7 +66,7 @@ void ApartPlay::connect() {
 }
 
 std::vector<std::string> ApartPlay::calls() const {
-    std::vector<std::string> calls = server_.calls();
+    std::vector<std::string> calls = server_->calls();
     calls.erase(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(calls_of_the_host_));
     return calls;
 }
@@ -71,7 +90,22 @@ void ApartPlay::expect_clean_end() {
     its.close_everything();
     release();
     its.expect_clean_end();
-    EXPECT_TRUE(server_.has_ended()) << "Something of the server is still referred to.";
+    EXPECT_TRUE(server_->has_ended()) << "Something of the server is still referred to.";
+}
+
+void play(ApartPlay& play, const ApartStory& story) {
+    try {
+        story(play);
+    } catch (const GaveUp&) {
+        // Recorded where it happened.
+    }
+}
+
+void play_loosely(ApartPlay& play, const ApartStory& story) {
+    testing::TestPartResultArray ignored;
+    const testing::ScopedFakeTestPartResultReporter ignore(
+        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &ignored);
+    brx::checks::play(play, story);
 }
 
 } // namespace brx::checks

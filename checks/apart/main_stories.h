@@ -12,10 +12,15 @@ void browses_for_an_item(ApartPlay& play);
 void sets_up_a_test(ApartPlay& play);
 void sets_a_trigger(ApartPlay& play);
 void adds_a_descriptor(ApartPlay& play);
+void watches_a_server(ApartPlay& play);
 
 struct MainStory {
     const char* name;
     ApartStory tell;
+    /// Milliseconds for each call, of which some deed then takes more than a second.
+    unsigned delay;
+    /// The server is read by a timer only, and nobody waits for that.
+    bool in_ticks = false;
 };
 const std::vector<MainStory>& main_stories();
 

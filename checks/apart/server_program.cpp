@@ -1,5 +1,7 @@
 #include "apart/server_program.h"
 
+#include "desk/native.h"
+
 #include <tlhelp32.h>
 
 #include <fstream>
@@ -59,16 +61,26 @@ ServerProgram::ServerProgram(const std::wstring& switches) {
     log_ = std::filesystem::temp_directory_path() /
            ("brx-apart-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number) + ".log");
     process_ = started(switches + L" --log \"" + log_.wstring() + L"\" -Embedding");
-    // It offers its class before it waits for the first message.
-    WaitForInputIdle(process_.hProcess, 30'000);
+    // It gives its window a name when its class can be found.
+    for (int tries = 0; tries < 1'500 && name_of(window()) != "brxSampleServer"; ++tries) Sleep(20);
 }
 
 ServerProgram::~ServerProgram() {
-    if (!has_ended(0)) TerminateProcess(process_.hProcess, 99);
-    has_ended();
+    PostMessageW(window(), WM_CLOSE, 0, 0);
+    if (!has_ended()) TerminateProcess(process_.hProcess, 99);
     close(process_);
     std::error_code ignored;
     std::filesystem::remove(log_, ignored);
+}
+
+HWND ServerProgram::window() const {
+    for (HWND each = nullptr;
+         (each = FindWindowExW(nullptr, each, L"brxSampleServer", nullptr)) != nullptr;) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(each, &process);
+        if (process == process_.dwProcessId) return each;
+    }
+    return nullptr;
 }
 
 std::vector<std::string> ServerProgram::calls() const {

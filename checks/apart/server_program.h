@@ -38,6 +38,8 @@ public:
     bool has_ended(DWORD milliseconds = 5'000) const;
 
 private:
+    /// Null while it has none.
+    HWND window() const;
     void for_each_thread(DWORD(WINAPI* deed)(HANDLE)) const;
 
     std::filesystem::path log_;

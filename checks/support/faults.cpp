@@ -9,17 +9,6 @@ namespace brx::checks {
 
 namespace {
 
-/// Most of the configuration dialog reports to the other library.
-ErrorLibrary library_of(const std::string& location) {
-    static const std::set<std::string> exceptions = {
-        "dlgConfiguration.lvwDescriptors_DblClick", "dlgConfiguration.bnAddDesc_Click",
-        "dlgConfiguration.bnEditDesc_Click", "dlgConfiguration.bnRemoveDesc_Click",
-        "dlgConfiguration.Timer1_Timer"};
-    return location.starts_with("dlgConfiguration.") && !exceptions.contains(location)
-               ? ErrorLibrary::hlxER01
-               : ErrorLibrary::brxError6;
-}
-
 /// The reports that tell of the failing call, which there must be exactly one of, or none where errors are
 /// ignored.
 void expect_the_right_report(const Play& its, const HostCall& call, const std::string& text) {
@@ -46,6 +35,16 @@ std::set<std::string>& reached_places() {
 }
 
 } // namespace
+
+ErrorLibrary library_of(const std::string& location) {
+    static const std::set<std::string> exceptions = {
+        "dlgConfiguration.lvwDescriptors_DblClick", "dlgConfiguration.bnAddDesc_Click",
+        "dlgConfiguration.bnEditDesc_Click", "dlgConfiguration.bnRemoveDesc_Click",
+        "dlgConfiguration.Timer1_Timer"};
+    return location.starts_with("dlgConfiguration.") && !exceptions.contains(location)
+               ? ErrorLibrary::hlxER01
+               : ErrorLibrary::brxError6;
+}
 
 bool plays_with_a_failing_host(const std::string& suite) { return suite.ends_with("WithAFailingHost"); }
 

@@ -1,0 +1,45 @@
+#include "apart/waiting_watch.h"
+
+#include "desk/native.h"
+
+#include <windows.h>
+
+namespace brx::checks {
+
+namespace {
+
+constexpr int id_what = 100;
+
+HWND waiting_window_here() {
+    for (HWND each = nullptr; (each = FindWindowExW(nullptr, each, L"#32770", nullptr)) != nullptr;) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(each, &process);
+        if (process == GetCurrentProcessId() && IsWindowVisible(each) && name_of(each) == "Waiting")
+            return each;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+WaitingWatch::~WaitingWatch() { seen(); }
+
+const std::set<std::string>& WaitingWatch::seen() {
+    over_ = true;
+    if (thread_.joinable()) thread_.join();
+    return seen_;
+}
+
+void WaitingWatch::look() {
+    for (; !over_; Sleep(40)) {
+        const HWND window = waiting_window_here();
+        if (!window) continue;
+        // It may be gone by now.
+        std::string what = text_of(GetDlgItem(window, id_what));
+        if (what.empty()) continue;
+        seen_.insert(what.substr(0, what.find("...")));
+        if (then_ == Then::presses_stop) SendMessageW(GetDlgItem(window, IDCANCEL), BM_CLICK, 0, 0);
+    }
+}
+
+} // namespace brx::checks
