@@ -2,9 +2,11 @@
 
 #include "common/call_gate.h"
 #include "common/error.h"
+#include "common/values/variant.h"
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +40,8 @@ public:
                          .watched = call_gate::minded != 0,
                          .undoes = call_gate::is_wide_open});
         if (static_cast<int>(made_.size()) == deed_at_) deed_();
+        instead_.reset();
+        if (in_each) in_each(made_.size() - 1);
         if (const auto found = during_.find(member); found != during_.end()) {
             const std::function<void()> deed = std::move(found->second);
             during_.erase(found);
@@ -67,6 +71,19 @@ public:
         asked_of_it_ = 0;
     }
 
+    /// Runs in every call, with its position among those made.
+    std::function<void(std::size_t)> in_each;
+
+    /// The call under way fails.
+    [[noreturn]] void fail(std::size_t position, const Error& error) {
+        made_[position].failed = true;
+        throw error;
+    }
+
+    /// The call under way answers this in place of what it has, as far as it is of that kind.
+    void answer_instead(const Variant& value) { instead_ = value; }
+    const std::optional<Variant>& instead() const { return instead_; }
+
     /// Runs the next time that this member is called, in the call.
     void during(const std::string& member, std::function<void()> deed) { during_[member] = std::move(deed); }
 
@@ -95,6 +112,7 @@ private:
     }
 
     std::vector<HostCall> made_;
+    std::optional<Variant> instead_;
     int fail_at_ = 0;
     int deed_at_ = 0;
     std::function<void()> deed_;

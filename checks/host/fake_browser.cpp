@@ -18,19 +18,19 @@ void FakeBrowser::is_asked(const std::string& member, const std::string& argumen
 
 std::int32_t FakeBrowser::Organization() {
     is_asked("Organization");
-    return organization;
+    return answered(organization);
 }
 
 std::int32_t FakeBrowser::Count() {
     is_asked("Count");
-    return claimed_count.value_or(static_cast<std::int32_t>(list_.size()));
+    return answered(claimed_count.value_or(static_cast<std::int32_t>(list_.size())));
 }
 
 std::string FakeBrowser::Item(std::int32_t index) {
     is_asked("Item", "(" + std::to_string(index) + ")");
     if (index < 1 || static_cast<std::size_t>(index) > list_.size())
         throw Error(error::subscript_out_of_range);
-    return list_[static_cast<std::size_t>(index) - 1];
+    return answered(list_[static_cast<std::size_t>(index) - 1]);
 }
 
 void FakeBrowser::ShowBranches() {
@@ -79,7 +79,7 @@ std::string FakeBrowser::GetItemID(const std::string& leaf) {
     is_asked("GetItemID", "(" + leaf + ")");
     if (std::find(list_.begin(), list_.end(), leaf) == list_.end())
         throw Error(unspecified, "There is no " + leaf, "OPCBrowser");
-    return path_ + leaf;
+    return answered(path_ + leaf);
 }
 
 } // namespace brx::checks

@@ -41,6 +41,13 @@ public:
     /// Runs before each call, with the member's name.
     std::function<void(const std::string& member)> before = [](const std::string&) {};
 
+    /// The address space is empty from now on.
+    void loses_everything() {
+        root = {};
+        here_ = &root;
+        path_.clear();
+    }
+
     std::int32_t Organization() override;
     std::int32_t Count() override;
     std::string Item(std::int32_t index) override;

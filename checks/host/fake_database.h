@@ -70,7 +70,7 @@ public:
         const auto found = names_.find(id_);
         if (flag_ != 1 || !is_the_hosts_database(database) || found == names_.end()) return false;
         name_ = found->second;
-        return true;
+        return answered(true);
     }
 
 private:
@@ -97,7 +97,7 @@ public:
         shown_with.push_back(id);
         shown_with_groups.push_back(group_id);
         shows_the_hosts_database = is_the_hosts_database(connection);
-        return picks != nullptr;
+        return answered(picks != nullptr);
     }
     ObjectPtr Record() override { return read("Record", picks); }
 };

@@ -76,7 +76,8 @@ private:
         explicit ForEach(FakeDescriptors& all) : all_(all) {}
         hlxOPCDescriptorPtr Next() override {
             all_.note("Next");
-            return next_ < all_.entries.size() ? all_.entries[next_++] : nullptr;
+            if (next_ >= all_.entries.size()) return nullptr;
+            return all_.answered(hlxOPCDescriptorPtr(all_.entries[next_++]));
         }
 
     private:

@@ -37,17 +37,17 @@ std::int32_t FakeOPCItems::error_of(const std::string& item_id) const {
 
 std::int32_t FakeOPCItems::Count() {
     note("Count");
-    return static_cast<std::int32_t>(entries_.size());
+    return answered(static_cast<std::int32_t>(entries_.size()));
 }
 
 OPCItemPtr FakeOPCItems::Item(const Variant& item_specifier) {
     note("Item");
     if (const auto* position = std::get_if<std::int32_t>(&item_specifier))
         if (*position >= 1 && static_cast<std::size_t>(*position) <= entries_.size())
-            return entries_[static_cast<std::size_t>(*position) - 1].item;
+            return answered(OPCItemPtr(entries_[static_cast<std::size_t>(*position) - 1].item));
     if (const auto* id = std::get_if<std::string>(&item_specifier))
         for (const Entry& entry : entries_)
-            if (entry.item->id() == *id) return entry.item;
+            if (entry.item->id() == *id) return answered(OPCItemPtr(entry.item));
     throw Error(error::subscript_out_of_range);
 }
 

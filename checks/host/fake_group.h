@@ -120,7 +120,10 @@ public:
     std::int32_t Count() override { return read("Count", static_cast<std::int32_t>(entries.size())); }
     OPCGroupPtr Item(const Variant& position) override {
         note("Item");
-        return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
+        const auto* index = std::get_if<std::int32_t>(&position);
+        if (!index || *index < 1 || static_cast<std::size_t>(*index) > entries.size())
+            throw Error(error::subscript_out_of_range);
+        return answered(OPCGroupPtr(entries[static_cast<std::size_t>(*index) - 1]));
     }
     OPCGroupPtr Add(const std::optional<std::string>&) override {
         throw Error(error::internal, "No group was to be added");

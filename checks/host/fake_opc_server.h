@@ -51,12 +51,12 @@ public:
     OPCBrowserPtr CreateBrowser() override {
         note("CreateBrowser");
         if (!can_browse) throw Error(-2147467263, "Not implemented", "OPCServer"); // 0x80004001
-        return browser;
+        return answered(browser);
     }
     std::string GetErrorString(std::int32_t error_code) override {
         note("GetErrorString");
         error_codes.push_back(error_code);
-        return error_string;
+        return answered(error_string);
     }
 
     Variant GetOPCServers(const std::optional<std::string>& node) override {
@@ -65,7 +65,7 @@ public:
         const auto found = registered.find(node.value_or(""));
         if (found == registered.end())
             throw Error(-2147023174, "The RPC server is unavailable.", "OPCServer");
-        return found->second;
+        return answered(found->second);
     }
 };
 

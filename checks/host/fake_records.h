@@ -56,7 +56,7 @@ public:
             if (search_.name.empty() ? each.id != search_.id : each.name != search_.name) continue;
             if (search_.group_id >= 0 && each.group_id != search_.group_id) continue;
             found_ = each;
-            return true;
+            return answered(true);
         }
         return false;
     }

@@ -28,7 +28,7 @@ hlxOPCServerPtr FakeServers::Add(const std::string& server_name, const std::stri
     const auto entry = has_connected(server_name, node);
     --configured_;
     after_adding();
-    return entry;
+    return answered(hlxOPCServerPtr(entry));
 }
 
 std::string FakeServers::damage() const {
@@ -42,12 +42,12 @@ hlxOPCServerPtr FakeServers::Item(const Variant& index) {
     const auto* position = std::get_if<std::int32_t>(&index);
     if (!position || *position < 1 || *position > static_cast<std::int32_t>(entries_.size()))
         throw Error(error::subscript_out_of_range, error_text(error::subscript_out_of_range), "FakeHost");
-    return entries_[static_cast<std::size_t>(*position - 1)];
+    return answered(hlxOPCServerPtr(entries_[static_cast<std::size_t>(*position - 1)]));
 }
 
 std::int32_t FakeServers::Count() {
     note("Count");
-    return claimed_count_ >= 0 ? claimed_count_ : static_cast<std::int32_t>(entries_.size());
+    return answered(claimed_count_ >= 0 ? claimed_count_ : static_cast<std::int32_t>(entries_.size()));
 }
 
 } // namespace brx::checks

@@ -2,7 +2,9 @@
 
 #include "common/values/variant.h"
 #include "host/call_log.h"
+#include "host/instead.h"
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,15 +16,25 @@ class Recorded {
 public:
     std::string untold; ///< the property that cannot be read
 
+    Recorded(const Recorded&) = delete;
+    Recorded& operator=(const Recorded&) = delete;
+
+    /// How many objects of fake hosts there are.
+    static int alive() { return alive_; }
+
 protected:
-    Recorded(CallLog& calls, const char* class_name) : calls_(calls), class_name_(class_name) {}
-    ~Recorded() = default;
+    Recorded(CallLog& calls, const char* class_name) : calls_(calls), class_name_(class_name) { ++alive_; }
+    ~Recorded() { --alive_; }
 
     void note(const std::string& member) const { calls_.note(class_name_ + ("." + member)); }
     template <class Value> Value read(const std::string& member, const Value& value) const {
         note(member);
         if (member == untold) throw Error(error::invalid_procedure_call);
-        return value;
+        return answered(value);
+    }
+    /// What the call under way answers.
+    template <class Value> Value answered(const Value& value) const {
+        return calls_.instead() ? instead_of(value, *calls_.instead()) : value;
     }
     template <class Field, class Value>
     void write(const std::string& member, Field& field, const Value& value) const {
@@ -34,6 +46,7 @@ protected:
 
 private:
     const char* class_name_;
+    inline static std::atomic<int> alive_ = 0;
 };
 
 /// A collection of the fake host that dialogs add to and remove from.
@@ -49,7 +62,10 @@ public:
     std::int32_t Count() override { return read("Count", static_cast<std::int32_t>(entries.size())); }
     std::shared_ptr<Interface> Item(const Variant& position) override {
         note("Item");
-        return entries.at(static_cast<std::size_t>(std::get<std::int32_t>(position)) - 1);
+        const auto* index = std::get_if<std::int32_t>(&position);
+        if (!index || *index < 1 || static_cast<std::size_t>(*index) > entries.size())
+            throw Error(error::subscript_out_of_range);
+        return answered(std::shared_ptr<Interface>(entries[static_cast<std::size_t>(*index) - 1]));
     }
     void Remove(std::int32_t position) override {
         note("Remove");
