@@ -182,7 +182,7 @@ const std::map<std::string, Change>& all_changes() {
         {"Validate claims errors",
          [](const About& its) {
              its.items().claimed_errors.reset();
-             if (its.odd()) its.items().claimed_errors = handles(its);
+             if (its.odd()) its.items().claimed_errors = its.of(3) == 0 ? handles(its) : LongArray{{0}};
          }},
         {"AddItems claims handles",
          [](const About& its) {

@@ -25,13 +25,23 @@ Deeds Source::beginning() {
     is_strange_ = chance_.happens(30);
     changes_ = chance_.happens(50);
     is_hurried_ = chance_.happens(35);
+    waiting_.clear();
     Deeds deeds{{.verb = Verb::begins, .number = chance_.happens(85) ? 1 : 0}};
+    if (chance_.happens(25))
+        for (const int missing_library : {2, 5})
+            deeds.push_back(
+                {.verb = Verb::changes, .on = "an error library changes", .number = missing_library});
     if (changes_)
         for (int i = chance_.below(6); i > 0; --i) deeds.push_back(change());
     return deeds;
 }
 
 Deed Source::next(Screen& screen, bool is_showing) {
+    if (!waiting_.empty()) {
+        const Deed deed = waiting_.back();
+        waiting_.pop_back();
+        return deed;
+    }
     if ((fails_ || is_strange_ || changes_ || is_hurried_) && chance_.happens(20)) return of_the_host();
     if (!is_showing) return showing();
     if (chance_.happens(4)) return {.verb = Verb::waits, .number = chance_.between(1, 2)};
@@ -103,9 +113,17 @@ Deed Source::before_a_form(Screen& screen, const std::string& form) {
         const bool is_for_hands = control.kind != "label" && control.kind != "frame" &&
                                   control.kind != "panel" && control.kind != "timer";
         if (!is_for_hands && !chance_.happens(3)) continue;
-        if (is_a_way_out(control.name) && !chance_.happens(25)) continue;
+        const bool leads_on = control.kind == "button" || control.kind == "tab_strip";
+        if (!chance_.happens(is_a_way_out(control.name) ? 35 : leads_on ? 100 : 60)) continue;
         const Sight sight = screen.look(control.name);
-        if ((sight.enabled && sight.visible) || chance_.happens(3)) return at(control, sight);
+        if ((!sight.enabled || !sight.visible) && !chance_.happens(3)) continue;
+        const Deed deed = at(control, sight);
+        if (!fails_ || !is_a_way_out(control.name) || !chance_.happens(40)) return deed;
+        // What is written is written then: one of many calls, each as likely as the others.
+        waiting_.push_back(deed);
+        return {.verb = Verb::fails,
+                .number = chance_.below(count_of_errors()),
+                .in_call = chance_.between(1, chance_.happens(70) ? 14 : 40)};
     }
     return with_keys();
 }

@@ -40,6 +40,7 @@ private:
     bool is_strange_ = false;
     bool changes_ = false;
     bool is_hurried_ = false; ///< the person does things while it works
+    Deeds waiting_;           ///< the next ones, the last one first
 };
 
 } // namespace brx::checks

@@ -21,15 +21,14 @@ void fill_address_space(FakeHost& host) {
 }
 
 void fill_configuration(FakeHost& host) {
+    const auto other = host.has_test(8, "Width");
+    other->fields.item_id = other->fields.item_text = "Line1.Force";
     const auto bound = host.has_test(7, "Length");
     bound->fields.item_id = bound->fields.item_text = "Line1.Speed";
-    bound->fields.state = 1;
     bound->fields.client_handle = 101;
     bound->fields.item_trigger = true;
     bound->fields.expression = 2;
     bound->fields.value = std::int16_t{12};
-    const auto other = host.has_test(8, "Width");
-    other->fields.item_id = other->fields.item_text = "Line1.Force";
     host.configuration->descriptors->has({.type = 0, .item = "Wheel", .group = "Castings"});
     host.configuration->descriptors->has({.type = 2, .item = "(%Line1.Speed)", .group = ""});
     ConfigurationFields& fields = host.configuration->fields;
