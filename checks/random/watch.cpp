@@ -42,6 +42,17 @@ bool is_an_overflow(const Report& report) {
     return report.what.number == error::overflow && boxes.contains(report.what.location);
 }
 
+/// A host's message service can fail wherever the person is told something.
+bool is_of_the_message_service(const Report& report, const CallLog& calls) {
+    for (std::size_t i = 0; i < calls.made().size(); ++i) {
+        const HostCall& call = calls.made()[i];
+        if (call.failed && call.member == "hlxMessage.Show" &&
+            report.what.description == error_at(0, static_cast<int>(i)).description())
+            return true;
+    }
+    return false;
+}
+
 /// Run-time errors that a dialog can meet by itself, with whatever host; 51 and 7 are none of them.
 bool is_known(std::int32_t number) {
     static const std::set<std::int32_t> own = {error::invalid_procedure_call,
@@ -90,8 +101,9 @@ void Watch::look_at_reports() {
         const std::string number = std::to_string(report.what.number);
         const std::string& location = report.what.location;
         expect(is_known(report.what.number), "error " + number + " in " + location, told(report));
-        expect(known_locations().contains(location) || is_an_overflow(report), "a report from " + location,
-               told(report));
+        expect(known_locations().contains(location) || is_an_overflow(report) ||
+                   is_of_the_message_service(report, host_.calls),
+               "a report from " + location, told(report));
         expect(report.library == library_of(location), "the library of " + location, told(report));
         expect(!report.what.description.empty() && !report.what.source.empty(),
                "an empty report from " + location, told(report));
@@ -124,8 +136,9 @@ void Watch::look_at_failures(bool exactly) {
 void Watch::look_at_objects(const Disturbance& disturbance) {
     std::string front = stage_.screen().front();
     auto holdings = holdings_of(host_);
-    if (disturbance.failures == 1 && !disturbance.by_a_person && !disturbance.strange_answer &&
-        front == front_) {
+    // One message box is not the other.
+    const bool went_on = front != front_ || front == "message";
+    if (disturbance.failures == 1 && !disturbance.by_a_person && !disturbance.strange_answer && !went_on) {
         const std::string half = half_done(holdings_, holdings);
         expect(half.empty(), "half written", half);
     }
