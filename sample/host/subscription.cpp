@@ -83,7 +83,7 @@ ItemReading Subscription::read(const std::string& item_id) {
 void Subscription::hear(Item& item, const Observation& known, double now) const {
     if (!has_said_anything(known) || item.known == known) return;
     item.known = known;
-    if (!subscribed_ || (item.found && says_the_same(*item.found, known))) return;
+    if (item.found && says_the_same(*item.found, known)) return;
     item.answer = known;
     item.since = now;
     item.only_asked = false;

@@ -1,4 +1,6 @@
+#include "adapters/to_com.h"
 #include "sample/windows/host_program.h"
+#include "sample/windows/objects_stage.h"
 
 #include <commctrl.h>
 
@@ -175,6 +177,30 @@ TEST(SampleProgramConfigurations, EnterMeansWhatADoubleClickInTheListWithTheFocu
     EXPECT_TRUE(enter_means(L"lstTests", L"bnEditTest"));
     EXPECT_TRUE(enter_means(L"lstConfigurations", L"bnConfigure"));
     EXPECT_TRUE(enter_means(L"lstServers", L"bnInformation"));
+}
+
+/// A test of the server that cannot be connected.
+void add_a_test_of_the_kiln(const std::string& file) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    {
+        const HostManifest manifest;
+        const auto host = create_by_name(L"brxSample.Host");
+        put(host.get(), "DatabaseFile", file);
+        const Variant added = call(host.get(), "AddConfiguration", {std::int32_t{3}});
+        const auto tests = get_object(dispatch_of(std::get<ObjectPtr>(added)).get(), "Tests");
+        const Variant test = call(tests.get(), "Add");
+        put(dispatch_of(std::get<ObjectPtr>(test)).get(), "OPCItemID", std::string("Zone 1.Temperature"));
+    }
+    CoUninitialize();
+}
+
+TEST(SampleProgramConfigurations, ATestWithoutAValueSaysWhy) {
+    const OpenHost host(add_a_test_of_the_kiln);
+    EXPECT_TRUE(comes_true([&] { return host.cell(L"lstTests", 0, 4).find_first_of("0123456789") == 0; }))
+        << host.cell(L"lstTests", 0, 4);
+    host.select_row(VK_END, 2);
+    EXPECT_TRUE(comes_true([&] { return host.cell(L"lstTests", 0, 1) == "Zone 1.Temperature"; }));
+    EXPECT_EQ(host.cell(L"lstTests", 0, 4), "not connected");
 }
 
 } // namespace

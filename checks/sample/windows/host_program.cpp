@@ -81,7 +81,10 @@ bool comes_true(const std::function<bool()>& condition) {
     return false;
 }
 
-OpenHost::OpenHost() { start(); }
+OpenHost::OpenHost(const std::function<void(const std::string& file)>& prepare) {
+    prepare(folder_.name_of(L"host.db"));
+    start();
+}
 
 void OpenHost::start() {
     program_.emplace(host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\"");
@@ -110,6 +113,24 @@ void OpenHost::select_row(WPARAM key, LRESULT row) const {
 
 LRESULT OpenHost::rows(const wchar_t* list) const {
     return SendMessageW(control(list), LVM_GETITEMCOUNT, 0, 0);
+}
+
+/// The list writes the text where its own process can.
+std::string OpenHost::cell(const wchar_t* list, int row, int column) const {
+    struct There {
+        LVITEMW item;
+        std::array<wchar_t, 200> text;
+    } there{};
+    void* const place =
+        VirtualAllocEx(program_->process(), nullptr, sizeof there, MEM_COMMIT, PAGE_READWRITE);
+    there.item.iSubItem = column;
+    there.item.cchTextMax = static_cast<int>(there.text.size());
+    there.item.pszText = static_cast<There*>(place)->text.data();
+    WriteProcessMemory(program_->process(), place, &there, sizeof there, nullptr);
+    SendMessageW(control(list), LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(place));
+    ReadProcessMemory(program_->process(), place, &there, sizeof there, nullptr);
+    VirtualFreeEx(program_->process(), place, 0, MEM_RELEASE);
+    return text_of(there.text.data(), wcslen(there.text.data()));
 }
 
 std::string OpenHost::last_log_line() const {

@@ -20,6 +20,7 @@ public:
     /// A visible window of the program by class and, unless it is null, title; null when none comes.
     HWND window(const wchar_t* kind, const wchar_t* title = nullptr) const;
     DWORD exit_code() const;
+    HANDLE process() const { return process_.hProcess; }
 
 private:
     PROCESS_INFORMATION process_{};
@@ -38,7 +39,9 @@ bool comes_true(const std::function<bool()>& condition);
 /// The host with its servers connected and the first one selected.
 class OpenHost {
 public:
-    OpenHost();
+    OpenHost() : OpenHost([](const std::string&) {}) {}
+    /// On a database file that something is done to before.
+    explicit OpenHost(const std::function<void(const std::string& file)>& prepare);
 
     /// Closes it, and starts it on the same database file.
     void start_again();
@@ -52,6 +55,8 @@ public:
     void press(const wchar_t* button) const { PostMessageW(control(button), BM_CLICK, 0, 0); }
     void select_row(WPARAM key, LRESULT row) const;
     LRESULT rows(const wchar_t* list) const;
+    /// What a list says in a row and a column from 0.
+    std::string cell(const wchar_t* list, int row, int column) const;
     /// The line of the log that was written last.
     std::string last_log_line() const;
     int default_button() const { return LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)); }
