@@ -10,17 +10,11 @@ namespace brx::server {
 
 namespace {
 
-constexpr unsigned in_a_branch = 1000;
 unsigned wanted = 0;
 
 void fill(plant::AddressSpace& space) {
-    plant::Branch* area = nullptr;
-    for (unsigned i = 0; i < wanted; ++i) {
-        if (i % in_a_branch == 0)
-            area =
-                &plant::AddressSpace::add_branch(space.root(), "Area " + std::to_string(i / in_a_branch + 1));
-        space.add_leaf(*area, "Tag " + std::to_string(i % in_a_branch + 1), plant::measured(0, 1));
-    }
+    for (unsigned i = 1; i <= wanted; ++i)
+        space.add_leaf(space.root(), "Tag " + std::to_string(i), plant::measured(0, 1));
 }
 
 } // namespace
@@ -33,7 +27,10 @@ std::span<const plant::NodeDescription> plant_with(unsigned items) {
     if (items == 0) return usual;
     nodes.assign(usual.begin(), usual.end());
     local.assign(nodes[0].servers.begin(), nodes[0].servers.end());
-    local.push_back({.program_id = "Simulation.Many.1", .vendor = "Simulated archive", .fill = fill});
+    local.push_back({.program_id = "Simulation.Many.1",
+                     .vendor = "Simulated archive",
+                     .browsing = plant::Browsing::flat,
+                     .fill = fill});
     nodes[0].servers = local;
     return nodes;
 }

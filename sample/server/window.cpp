@@ -104,7 +104,7 @@ LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 HWND Window::add(const wchar_t* kind, const wchar_t* text, DWORD style, int id) {
-    const DWORD edge = style & WS_TABSTOP && !(style & BS_TYPEMASK) && id == id_delay ? WS_EX_CLIENTEDGE : 0;
+    const DWORD edge = id == id_delay ? WS_EX_CLIENTEDGE : 0;
     return CreateWindowExW(edge, kind, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, window_,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
 }

@@ -86,8 +86,10 @@ OpenHost::OpenHost(const std::function<void(const std::string& file)>& prepare) 
     start();
 }
 
+OpenHost::OpenHost(std::wstring source) : source_(std::move(source)) { start(); }
+
 void OpenHost::start() {
-    program_.emplace(host_program(), L"--plant \"" + folder_.file(L"host.db").wstring() + L"\"");
+    program_.emplace(host_program(), source_ + L" \"" + folder_.file(L"host.db").wstring() + L"\"");
     window_ = program_->window(L"brxSampleHost");
     EXPECT_TRUE(comes_true([&] { return rows(L"lstServers") == 3; }));
     EXPECT_TRUE(comes_true([&] { return IsWindowEnabled(control(L"bnBrowse")) != FALSE; }));

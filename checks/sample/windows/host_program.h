@@ -42,6 +42,8 @@ public:
     OpenHost() : OpenHost([](const std::string&) {}) {}
     /// On a database file that something is done to before.
     explicit OpenHost(const std::function<void(const std::string& file)>& prepare);
+    /// As the program's argument says.
+    explicit OpenHost(std::wstring source);
 
     /// Closes it, and starts it on the same database file.
     void start_again();
@@ -49,6 +51,7 @@ public:
     void kill_and_start_again();
 
     const HostProgram& program() const { return *program_; }
+    HWND window() const { return window_; }
     HWND control(const wchar_t* name) const { return controls_of(window_)[name]; }
     HWND list() const { return control(L"lstServers"); }
     bool is_open_to_input() const { return IsWindowEnabled(window_) != FALSE; }
@@ -64,6 +67,7 @@ public:
 private:
     void start();
 
+    std::wstring source_ = L"--plant";
     CheckFolder folder_;
     std::optional<HostProgram> program_;
     HWND window_ = nullptr;
