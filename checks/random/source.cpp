@@ -44,7 +44,8 @@ Deed Source::next(Screen& screen, bool is_showing) {
     }
     if ((fails_ || is_strange_ || changes_ || is_hurried_) && chance_.happens(20)) return of_the_host();
     if (!is_showing) return showing();
-    if (chance_.happens(4)) return {.verb = Verb::waits, .number = chance_.between(1, 2)};
+    const bool has_a_timer = class_ == "ConfigurationSetup" || class_ == "ServerInformation";
+    if (has_a_timer && chance_.happens(4)) return {.verb = Verb::waits, .number = chance_.between(1, 2)};
     if (const auto message = screen.message()) return before_a_message(*message);
     return before_a_form(screen, screen.front());
 }
@@ -61,13 +62,16 @@ Deed Source::of_the_host() {
     case 2:
         if (is_hurried_) {
             const auto& control = chance_.one_of(controls_on(chance_.one_of(all_forms())));
-            if (chance_.happens(20)) return in_a_call({.verb = Verb::stops});
+            if (chance_.happens(8)) return in_a_call({.verb = Verb::stops});
             if (chance_.happens(20)) return in_a_call({.verb = Verb::leaves});
             return in_a_call(chance_.happens(30) ? with_keys() : at(control, {}));
         }
         [[fallthrough]];
     default:
-        if (fails_) return in_a_call({.verb = Verb::fails, .number = chance_.below(count_of_errors())});
+        if (fails_ && !chance_.happens(3))
+            return in_a_call({.verb = Verb::fails, .number = chance_.below(count_of_errors())});
+        if (!chance_.happens(10)) return with_keys();
+        // Before real windows the time really passes.
         return in_a_call({.verb = Verb::lasts, .number = chance_.between(1, 2'000)});
     }
 }
