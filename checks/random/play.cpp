@@ -30,7 +30,7 @@ constexpr int deeds_that_show_all = 5'000;
 /// A sitting that takes longer hangs. Real windows have a limit of their own for each deed.
 void end_if_it_hangs() {
 #ifndef _WIN32
-    constexpr unsigned seconds = 30;
+    constexpr unsigned seconds = 10;
     alarm(seconds);
 #endif
 }
