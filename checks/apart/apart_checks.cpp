@@ -22,7 +22,9 @@ TEST_P(Apart, ThePersonDoesItAndEverythingIsGivenBack) {
 TEST_P(Apart, TheSameWhenEachCallTakesItsTimeAndThePersonIsToldWhatIsWaitedFor) {
     ApartPlay its(L"--delay " + std::to_wstring(GetParam().delay));
     WaitingWatch watch;
+    const ULONGLONG begun = GetTickCount64();
     play(its, story());
+    EXPECT_GE(GetTickCount64() - begun, its.calls().size() * GetParam().delay);
     its.expect_clean_end();
     EXPECT_EQ(watch.seen().empty(), GetParam().in_ticks);
 }
@@ -32,11 +34,13 @@ TEST_P(Apart, TheSameWhenTheServerIsSuspendedAndResumed) {
     WaitingWatch watch;
     its.server().suspend();
     std::thread somebody([&] {
-        Sleep(1'600);
+        Sleep(2'000);
         its.server().resume();
     });
+    const ULONGLONG begun = GetTickCount64();
     play(its, story());
     somebody.join();
+    EXPECT_TRUE(its.calls().size() > 0 && GetTickCount64() - begun >= 2'000);
     its.expect_clean_end();
     EXPECT_EQ(watch.seen().empty(), GetParam().in_ticks);
 }

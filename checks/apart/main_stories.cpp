@@ -146,7 +146,7 @@ const std::vector<MainStory>& main_stories() {
         {"ChoosesAServer", chooses_a_server, 1'200},     {"LooksAtAServer", looks_at_a_server, 170},
         {"BrowsesForAnItem", browses_for_an_item, 100},  {"SetsUpATest", sets_up_a_test, 100},
         {"SetsATrigger", sets_a_trigger, 100},           {"AddsADescriptor", adds_a_descriptor, 100},
-        {"WatchesAServer", watches_a_server, 100, true},
+        {"WatchesAServer", watches_a_server, 150, true},
     };
     return all;
 }

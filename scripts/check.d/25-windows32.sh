@@ -14,7 +14,7 @@ not_run() { # not_run WHY : every program counts as skipped
     local why=$1 entry owner seconds program
     for entry in "$brx_build"/windows-x86/check-programs/*; do
         read -r owner seconds program <"$entry"
-        [ "$owner" != windows ] || skip "windows-x86: $(basename "$program")" "$why"
+        [[ $owner != windows && $owner != apart ]] || skip "windows-x86: $(basename "$program")" "$why"
     done
     part_end
 }
@@ -27,4 +27,8 @@ is_prepared "$@"
 trap wine_end EXIT
 wine_begin 32
 run_programs windows-x86 windows wine_run
+wine_end
+# As in the part `apart`.
+wine_begin 32 wine32-apart
+run_programs windows-x86 apart wine_run
 part_end
