@@ -3,12 +3,27 @@
 #include "desk/native.h"
 #include "server/dll.h"
 
+#include <windows.h>
+
+#include <tlhelp32.h>
+
 #include <atomic>
 #include <functional>
 #include <string>
 #include <thread>
 
 namespace brx::checks {
+
+inline int threads_of_this_process() {
+    const HANDLE threads = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    THREADENTRY32 each{};
+    each.dwSize = sizeof each;
+    int count = 0;
+    for (BOOL more = Thread32First(threads, &each); more; more = Thread32Next(threads, &each))
+        if (each.th32OwnerProcessID == GetCurrentProcessId()) ++count;
+    CloseHandle(threads);
+    return count;
+}
 
 /// A thread of the host's that shows dialogs.
 class DialogThread {

@@ -1,10 +1,11 @@
 #include "server/dialog_thread.h"
 #include "server/host_test.h"
 #include "server/opened_windows.h"
+#include "server/turned_away.h"
 
 #include "desk/hands.h"
 
-#include <tlhelp32.h>
+#include <filesystem>
 
 namespace brx::checks {
 
@@ -20,17 +21,6 @@ protected:
                                                                             : -1;
     }
 };
-
-int threads_of_this_process() {
-    const HANDLE threads = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
-    THREADENTRY32 each{};
-    each.dwSize = sizeof each;
-    int count = 0;
-    for (BOOL more = Thread32First(threads, &each); more; more = Thread32Next(threads, &each))
-        if (each.th32OwnerProcessID == GetCurrentProcessId()) ++count;
-    CloseHandle(threads);
-    return count;
-}
 
 /// Shows a selection of servers on the present thread: the position of the one chosen, 0 for none.
 short choose_a_server(const Dll& dll, const std::vector<std::string>& names) {
@@ -173,6 +163,8 @@ TEST_F(HostsTest, TheEndOfTheSessionClosesTheDialogsBelowTheOneInFrontToo) {
 }
 
 TEST_F(HostsTest, TheDllStaysWhileADialogIsOpenAlthoughItsHostHasLetGoOfTheObject) {
+    HostFilter own; // or the component's would keep the DLL
+    ASSERT_EQ(CoRegisterMessageFilter(&own, nullptr), S_OK);
     auto object = dll.create<_ServerSelect>(CLSID_ServerSelect);
     bool stayed = false;
     while_showing(
@@ -191,6 +183,7 @@ TEST_F(HostsTest, TheDllStaysWhileADialogIsOpenAlthoughItsHostHasLetGoOfTheObjec
             });
             close(dialog);
         });
+    CoRegisterMessageFilter(nullptr, nullptr);
     EXPECT_TRUE(stayed);
     EXPECT_TRUE(dll.can_unload());
 }
@@ -310,7 +303,10 @@ TEST(ThreadsTest, ADialogWorksOnAThreadOfAMultithreadedApartmentWhichHasNoFilter
 }
 
 TEST(ThreadsTest, ARegisteredClassGivesAMultithreadedApartmentItsDialogsOnAThreadOfTheSystems) {
-    const Dll dll;
+    // A copy by another name: Wine keeps what it has marshalled between apartments, and so the file.
+    const auto copy = std::filesystem::temp_directory_path() / L"brxInAnotherApartment.dll";
+    std::filesystem::copy_file(dll_path(), copy, std::filesystem::copy_options::overwrite_existing);
+    const Dll dll(copy);
     ASSERT_EQ(dll.register_for_machine(), S_OK);
     HRESULT created = E_FAIL;
     HRESULT shown = E_FAIL;
