@@ -46,6 +46,16 @@ TEST(SampleHostApart, TheSystemStartsTheServerAndItEndsWithTheHost) {
     close(host);
 }
 
+TEST(SampleHostApart, ValuesComeFromTheOtherProcess) {
+    const InstalledServer installed;
+    const OpenHost host(L"--wrapper");
+    const auto value = [&] { return host.cell(L"lstTests", 0, 4); };
+    EXPECT_TRUE(comes_true([&] { return value().find_first_of("0123456789") == 0; })) << value();
+    const std::string first = value();
+    EXPECT_TRUE(comes_true([&] { return value() != first; })) << first;
+    close(host);
+}
+
 TEST(SampleHostApart, TheHostTellsThatItsServerIsGoneAndConnectsAgain) {
     const InstalledServer installed;
     const OpenHost host(L"--wrapper");

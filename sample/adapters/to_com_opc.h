@@ -45,7 +45,7 @@ public:
     STDMETHODIMP Remove(VARIANT item_specifier) override { return take(&Model::Remove, item_specifier); }
 };
 
-template <> class ToCom<OPCGroup> final : public ModelCom<OPCGroup, UnusedOfOPCGroup> {
+template <> class ToCom<OPCGroup> : public ModelCom<OPCGroup, UnusedOfOPCGroup> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Parent(IOPCAutoServer** result) override { return give(result, &Model::Parent); }

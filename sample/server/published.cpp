@@ -27,6 +27,37 @@ private:
     plant::Server* server_; ///< the model that the base keeps
 };
 
+/// The plant always knows its values: whether a client wants to be told of them is only remembered.
+class PublishedGroup final : public ToCom<OPCGroup> {
+public:
+    using ToCom::ToCom;
+
+    STDMETHODIMP get_IsActive(VARIANT_BOOL* result) override { return tell(active_, result); }
+    STDMETHODIMP put_IsActive(VARIANT_BOOL active) override { return keep(active, active_); }
+    STDMETHODIMP get_IsSubscribed(VARIANT_BOOL* result) override { return tell(subscribed_, result); }
+    STDMETHODIMP put_IsSubscribed(VARIANT_BOOL subscribed) override { return keep(subscribed, subscribed_); }
+    STDMETHODIMP get_UpdateRate(LONG* result) override { return tell(update_rate_, result); }
+    STDMETHODIMP put_UpdateRate(LONG update_rate) override { return keep(update_rate, update_rate_); }
+    STDMETHODIMP get_DeadBand(FLOAT* result) override { return tell(dead_band_, result); }
+    STDMETHODIMP put_DeadBand(FLOAT dead_band) override { return keep(dead_band, dead_band_); }
+
+private:
+    template <class Value> HRESULT tell(Value value, Value* result) {
+        if (!result) return E_POINTER;
+        *result = value;
+        return S_OK;
+    }
+    template <class Value> HRESULT keep(Value value, Value& kept) {
+        kept = value;
+        return S_OK;
+    }
+
+    VARIANT_BOOL active_ = VARIANT_TRUE;
+    VARIANT_BOOL subscribed_ = VARIANT_FALSE;
+    LONG update_rate_ = 1000;
+    FLOAT dead_band_ = 0;
+};
+
 class PublishedItem final : public ToCom<OPCItem> {
 public:
     explicit PublishedItem(std::shared_ptr<plant::Item> item) : ToCom(item), item_(item.get()) {}
@@ -47,7 +78,21 @@ public:
         return give(result, [&] { return item_->read().time; });
     }
 
+    /// From its cache or its device: there is no difference here.
+    STDMETHODIMP Read(SHORT, VARIANT* value, VARIANT* quality, VARIANT* time) override {
+        return run([&] {
+            const plant::Reading now = item_->read();
+            fill(value, now.value);
+            fill(quality, now.quality);
+            fill(time, now.time);
+        });
+    }
+
 private:
+    static void fill(VARIANT* place, const Variant& with) {
+        if (place) *place = OwnedVariant(with).detach();
+    }
+
     plant::Item* item_; ///< the model that the base keeps
 };
 
@@ -61,7 +106,9 @@ com_ptr<IDispatch> published(const ObjectPtr& object, const std::type_info&) {
         return make_com<PublishedServer>(server);
     if (const auto item = std::dynamic_pointer_cast<plant::Item>(object))
         return make_com<PublishedItem>(item);
-    for (const auto as : {plain<OPCBrowser>, plain<OPCGroups>, plain<OPCGroup>, plain<OPCItems>})
+    if (const auto group = std::dynamic_pointer_cast<OPCGroup>(object))
+        return make_com<PublishedGroup>(group);
+    for (const auto as : {plain<OPCBrowser>, plain<OPCGroups>, plain<OPCItems>})
         if (auto made = as(object)) return made;
     return nullptr;
 }
