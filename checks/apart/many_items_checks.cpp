@@ -9,7 +9,7 @@ void browses_a_million_items(ApartPlay& play) {
     Play& its = play.its;
     Showing select(*its.stage, "LeafSelect");
     {
-        WaitingWatch watch(WaitingWatch::Then::presses_stop);
+        const WaitingWatch watch(" of 1,000,000");
         select.show(play.connection(), play.group());
     }
     its.person.is_at("dlgItemSelect");

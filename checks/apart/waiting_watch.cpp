@@ -9,6 +9,7 @@ namespace brx::checks {
 namespace {
 
 constexpr int id_what = 100;
+constexpr int id_how_far = 101;
 
 HWND waiting_window_here() {
     for (HWND each = nullptr; (each = FindWindowExW(nullptr, each, L"#32770", nullptr)) != nullptr;) {
@@ -38,7 +39,9 @@ void WaitingWatch::look() {
         std::string what = text_of(GetDlgItem(window, id_what));
         if (what.empty()) continue;
         seen_.insert(what.substr(0, what.find("...")));
-        if (then_ == Then::presses_stop) SendMessageW(GetDlgItem(window, IDCANCEL), BM_CLICK, 0, 0);
+        const std::string how_far = text_of(GetDlgItem(window, id_how_far));
+        if (!stops_at_.empty() && how_far.ends_with(stops_at_))
+            SendMessageW(GetDlgItem(window, IDCANCEL), BM_CLICK, 0, 0);
     }
 }
 

@@ -4,14 +4,16 @@
 #include <set>
 #include <string>
 #include <thread>
+#include <utility>
 
 namespace brx::checks {
 
 /// Somebody who looks at the screen while a dialog waits for its server: what the small window told.
 class WaitingWatch {
 public:
-    enum class Then { looks_on, presses_stop };
-    explicit WaitingWatch(Then then = Then::looks_on) : then_(then), thread_([this] { look(); }) {}
+    /// Presses Stop as soon as it is told how far the work has come of this, "" to look on only.
+    explicit WaitingWatch(std::string stops_at = {})
+        : stops_at_(std::move(stops_at)), thread_([this] { look(); }) {}
     WaitingWatch(const WaitingWatch&) = delete;
     WaitingWatch& operator=(const WaitingWatch&) = delete;
     ~WaitingWatch();
@@ -22,7 +24,7 @@ public:
 private:
     void look();
 
-    Then then_;
+    std::string stops_at_;
     std::set<std::string> seen_;
     std::atomic<bool> over_ = false;
     std::thread thread_;
