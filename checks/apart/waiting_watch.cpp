@@ -11,16 +11,6 @@ namespace {
 constexpr int id_what = 100;
 constexpr int id_how_far = 101;
 
-HWND waiting_window_here() {
-    for (HWND each = nullptr; (each = FindWindowExW(nullptr, each, L"#32770", nullptr)) != nullptr;) {
-        DWORD process = 0;
-        GetWindowThreadProcessId(each, &process);
-        if (process == GetCurrentProcessId() && IsWindowVisible(each) && name_of(each) == "Waiting")
-            return each;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 WaitingWatch::~WaitingWatch() { seen(); }
@@ -33,7 +23,7 @@ const std::set<std::string>& WaitingWatch::seen() {
 
 void WaitingWatch::look() {
     for (; !over_; Sleep(40)) {
-        const HWND window = waiting_window_here();
+        const HWND window = waiting_window();
         if (!window) continue;
         // It may be gone by now.
         std::string what = text_of(GetDlgItem(window, id_what));

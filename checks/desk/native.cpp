@@ -206,6 +206,17 @@ Sight sight_of(HWND control, HWND focused) {
     return sight;
 }
 
+HWND waiting_window() {
+    HWND found = nullptr;
+    while ((found = FindWindowExW(nullptr, found, L"#32770", nullptr)) != nullptr) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(found, &process);
+        if (process == GetCurrentProcessId() && IsWindowVisible(found) && name_of(found) == "Waiting")
+            return found;
+    }
+    return nullptr;
+}
+
 bool is_message_box(HWND window) { return class_of(window) == L"#32770" && name_of(window).empty(); }
 
 Message message_in(HWND box) {

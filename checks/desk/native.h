@@ -79,6 +79,10 @@ Sight sight_of(HWND control, HWND focused);
 /// Whether it is one of the system's message boxes.
 bool is_message_box(HWND window);
 
+/// The window of this process that tells of work that lasts, which is a thread's of its own; null when there
+/// is none.
+HWND waiting_window();
+
 /// What a message box says. Its style is put together from its icon, as far as the icons of this process
 /// tell, and its buttons.
 Message message_in(HWND box);

@@ -2,6 +2,7 @@
 
 #include "adapters/to_com.h"
 #include "desk/desk.h"
+#include "desk/native.h"
 #include "host/fake_host.h"
 #include "server/dll.h"
 #include "server/error_library.h"
@@ -47,18 +48,6 @@ protected:
     }
 
     static void close(HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); }
-
-    /// The window that tells of work that lasts; null when there is none.
-    static HWND waiting_window() {
-        HWND found = nullptr;
-        while ((found = FindWindowExW(nullptr, found, L"#32770", nullptr)) != nullptr) {
-            DWORD process = 0;
-            GetWindowThreadProcessId(found, &process);
-            if (process == GetCurrentProcessId() && IsWindowVisible(found) && name_of(found) == "Waiting")
-                return found;
-        }
-        return nullptr;
-    }
 };
 
 } // namespace brx::checks

@@ -84,6 +84,22 @@ SCENARIO(StoppedLists, AListThatIsReadAgainInVainRests) {
     dialog.leaves();
 }
 
+SCENARIO(StoppedLists, WhoeverClosesTheDialogWaitsForNoFurtherTest) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", its.person.line_of("lvwTest", 1));
+    its.person.presses("cmdEdit");
+    int read_by_then = 0;
+    its.host.calls.during("hlxOPCTests.Count", [&] {
+        read_by_then = its.host.calls.count("hlxOPCTests.Item");
+        its.person.screen().press("bnClose");
+    });
+    its.person.presses("bnOK");
+    its.person.is_at("");
+    EXPECT_EQ(its.host.calls.count("hlxOPCTests.Item"), read_by_then);
+    EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.Name="), 1) << "Close keeps what it keeps.";
+}
+
 SCENARIO(StoppedLists, WhatIsWaitedForIsTold) {
     three_tests(its);
     its.host.configuration->fields.name = "Line 1";

@@ -25,8 +25,10 @@ void dlgConfiguration::ConfigureDescriptors() {
     descriptors_.list([&](ListedObjects::Drafts& rows) {
         work().go_on_with("Reading the descriptors of " + txtName.text());
         const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
-        while (const hlxOPCDescriptorPtr descriptor = descriptors->Next())
+        while (const hlxOPCDescriptorPtr descriptor = descriptors->Next()) {
             fill(rows.emplace_back(), *descriptor);
+            if (work().is_stopped()) throw Stopped();
+        }
     });
 }
 

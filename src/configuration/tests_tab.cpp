@@ -14,6 +14,7 @@ void dlgConfiguration::AddToList() {
         const std::int32_t count = the(tests).Count();
         work().counts_to(count);
         for (std::int32_t position = 1; position <= count; ++position) {
+            if (work().is_stopped()) throw Stopped();
             work().has_done(position - 1);
             const hlxOPCTestPtr test = tests->Item(position);
             const std::string name = the(test).CharacteristicName();

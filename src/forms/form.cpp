@@ -1,5 +1,6 @@
 #include "forms/form.h"
 
+#include "common/call_gate.h"
 #include "forms/button.h"
 #include "forms/showing.h"
 
@@ -39,7 +40,7 @@ void Form::show_modal() {
         }
     };
     const Unloading at_the_end{*this}; // also when no window can be had for it
-    if (work().is_stopped()) throw Stopped();
+    call_gate::pass();                 // nobody who has stopped the work waits for a dialog
     load();
     if (!loaded_) return;
     const ModalTurn waiting(this);

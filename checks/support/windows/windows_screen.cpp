@@ -15,18 +15,6 @@ HWND dropped_list_of(HWND combo_box) {
     return GetComboBoxInfo(combo_box, &info) ? info.hwndList : nullptr;
 }
 
-/// The window that tells of work that lasts, which is another thread's; null when there is none.
-HWND waiting_window() {
-    HWND found = nullptr;
-    while ((found = FindWindowExW(nullptr, found, L"#32770", nullptr)) != nullptr) {
-        DWORD process = 0;
-        GetWindowThreadProcessId(found, &process);
-        if (process == GetCurrentProcessId() && IsWindowVisible(found) && name_of(found) == "Waiting")
-            return found;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 HWND WindowsScreen::top_window() const {
