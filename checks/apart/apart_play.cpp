@@ -90,7 +90,7 @@ void ApartPlay::expect_clean_end() {
     its.close_everything();
     release();
     its.expect_clean_end();
-    EXPECT_TRUE(server_->has_ended()) << "Something of the server is still referred to.";
+    EXPECT_TRUE(server_->has_ended()) << "Something of the server is still referred to: " << server_->shown();
 }
 
 void play(ApartPlay& play, const ApartStory& story) {

@@ -1,9 +1,11 @@
 #include "apart/server_program.h"
 
+#include "common/values/utf16.h"
 #include "desk/native.h"
 
 #include <tlhelp32.h>
 
+#include <array>
 #include <fstream>
 #include <stdexcept>
 #include <vector>
@@ -60,6 +62,7 @@ ServerProgram::ServerProgram(const std::wstring& switches) {
     static unsigned number = 0;
     log_ = std::filesystem::temp_directory_path() /
            ("brx-apart-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number) + ".log");
+    std::filesystem::remove(log_); // an earlier program of the same number may have left one
     process_ = started(switches + L" --log \"" + log_.wstring() + L"\" -Embedding");
     // It gives its window a name when its class can be found.
     for (int tries = 0; tries < 1'500 && name_of(window()) != "brxSampleServer"; ++tries) Sleep(20);
@@ -95,6 +98,19 @@ std::vector<std::string> ServerProgram::calls() const {
 
 bool ServerProgram::has_ended(DWORD milliseconds) const {
     return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
+}
+
+std::string ServerProgram::shown() const {
+    const HWND top = window();
+    std::string all = top ? "" : "no window";
+    for (HWND each = nullptr; top && (each = FindWindowExW(top, each, nullptr, nullptr)) != nullptr;) {
+        std::array<wchar_t, 200> text{};
+        DWORD_PTR length = 0;
+        SendMessageTimeoutW(each, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                            SMTO_ABORTIFHUNG, 1'000, &length);
+        all += utf8_of(std::wstring_view(text.data(), length)) + "; ";
+    }
+    return all;
 }
 
 void ServerProgram::for_each_thread(DWORD(WINAPI* deed)(HANDLE)) const {

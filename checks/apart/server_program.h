@@ -37,6 +37,9 @@ public:
     /// Whether it has come to its end; looks for a while.
     bool has_ended(DWORD milliseconds = 5'000) const;
 
+    /// What its window says, for who wonders why it has not ended.
+    std::string shown() const;
+
 private:
     /// Null while it has none.
     HWND window() const;

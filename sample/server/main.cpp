@@ -2,6 +2,7 @@
 #include "dll/class_factory.h"
 #include "plant/plant.h"
 #include "server/calls.h"
+#include "server/kept_interfaces.h"
 #include "server/many_items.h"
 #include "server/options.h"
 #include "server/published.h"
@@ -72,12 +73,20 @@ void serve_messages(Window& window, bool until_released) {
     }
 }
 
+/// The published ones and the system's own that clients ask their objects for.
+std::vector<IID> called_interfaces() {
+    std::vector<IID> interfaces = published_interfaces();
+    for (const IID& iid : {IID_IDispatch, IID_IEnumVARIANT, IID_ISupportErrorInfo}) interfaces.push_back(iid);
+    return interfaces;
+}
+
 int serve(HINSTANCE program, int show_command, const Options& options) {
     publish_plant_objects();
     the_plant =
         std::make_shared<plant::Plant>(plant_with(options.items), std::make_shared<plant::SystemClock>());
     const com_ptr<Calls> calls = make_com<Calls>(options.switches, options.log);
     const com_ptr<IClassFactory> factory = class_factory_of(offered_class);
+    const KeptInterfaces kept(called_interfaces());
     Window window(*calls.get(), ModuleLock::count());
     // Nobody asked for one that the system started: it comes up at the edge and takes nobody's keys.
     if (!window.open(program, options.until_released ? SW_SHOWMINNOACTIVE : show_command)) return 1;

@@ -115,6 +115,10 @@ com_ptr<IDispatch> published(const ObjectPtr& object, const std::type_info&) {
 
 } // namespace
 
+std::vector<IID> published_interfaces() {
+    return {IID_IOPCAutoServer, IID_OPCBrowser, IID_IOPCGroups, IID_IOPCGroup, IID_OPCItems, IID_OPCItem};
+}
+
 void publish_plant_objects() { set_make_double(published); }
 
 com_ptr<IDispatch> new_server(plant::Plant& plant) { return to_dispatch(plant.make_server()); }

@@ -4,6 +4,7 @@
 #include "com/guid_text.h"
 #include "com/module.h"
 #include "dll/registry.h"
+#include "server/published.h"
 
 #include <OPCAutomation.h>
 
@@ -71,8 +72,7 @@ Entries class_entries() {
 /// What calls to the interfaces travel by. An installed wrapper has it too.
 Entries interface_entries() {
     Entries entries{library_entry()};
-    for (const IID& iid :
-         {IID_IOPCAutoServer, IID_OPCBrowser, IID_IOPCGroups, IID_IOPCGroup, IID_OPCItems, IID_OPCItem}) {
+    for (const IID& iid : published_interfaces()) {
         const std::wstring key = classes_path + L"Interface\\" + guid_text(iid);
         entries.push_back({{key + L"\\ProxyStubClsid32", L""}, automation_proxy});
         entries.push_back({{key + L"\\TypeLib", L""}, guid_text(LIBID_OPCAutomation)});

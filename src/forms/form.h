@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/call_gate.h"
 #include "common/trap.h"
 #include "forms/control.h"
 #include "forms/environment.h"
@@ -107,7 +108,7 @@ protected:
 
     /// What a dialog of the host's answers, which waits for a person.
     template <class Question> auto answered(Question&& question) {
-        if (work().is_stopped()) throw Stopped();
+        call_gate::pass();
         environment_.engine.comes_before_forms();
         const Work::Pause pause(Work::Afterwards::afresh);
         return question();
