@@ -1,4 +1,5 @@
 #include "browsing.h"
+#include "testing.h"
 
 // What a person sees and does while a server takes its time.
 
@@ -135,6 +136,57 @@ SCENARIO(SlowServers, WhoeverLeavesWaitsForNoFurtherCall) {
         its.person.is_at("");
         dialog.result();
     }
+}
+
+SCENARIO(SlowServers, EscapeThatClosesTheLineForFindingEndsNoReading) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    its.person.hits(Key::control_f);
+    its.host.calls.during("OPCBrowser.Item(2)",
+                          [&] { static_cast<void>(its.person.screen().key(Key::escape)); });
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("lstItem").size(), 5U);
+    EXPECT_FALSE(its.person.sees("txtFind").visible);
+    its.person.is_at("dlgItemSelect");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, ACallThatIsBrokenOffIsReadingThatWasStopped) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    its.host.calls.during("OPCBrowser.Item(3)", [&] {
+        its.stage->pass(a_second);
+        EXPECT_TRUE(its.person.screen().stop());
+        throw Stopped(Stopped::Call::broken_off);
+    });
+    its.person.clicks_node("TrView", "Line1");
+    EXPECT_EQ(its.person.lines_of("lstItem"), (Lines{"A", "B"}));
+    EXPECT_EQ(its.person.reads("lblNotice"), "Reading was stopped. To read the items: a click on the group.");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, ACallThatTheServerCancelsByItselfIsAnError) {
+    a_long_branch(its);
+    Browsing dialog(its);
+    its.host.calls.during("OPCBrowser.Item(3)", [] { throw Error(error::call_canceled, "Enough.", "Sim"); });
+    its.person.clicks_node("TrView", "Line1");
+    its.expect_report(error::call_canceled, "dlgItemSelect.BuildLeaves");
+    its.person.closes_the_window();
+    dialog.result();
+}
+
+SCENARIO(SlowServers, WhoeverLeavesADialogIsShownNoOtherAndToldNothing) {
+    for (const char* button : {"bnItem", "bnTest"}) {
+        Testing testing(its, its.host.has_test(0, ""));
+        its.host.calls.at(1, [&] { its.person.screen().press("bnCancel"); });
+        its.person.presses(button);
+        its.person.is_at("");
+        EXPECT_FALSE(testing.result());
+    }
+    EXPECT_EQ(its.host.calls.count("OPCServer.CreateBrowser"), 0);
+    EXPECT_EQ(its.host.calls.count("create hlxTestSelect"), 0);
 }
 
 SCENARIO(SlowServers, GroupsThatWereNotAllReadAreToldOfUntilTheyAre) {

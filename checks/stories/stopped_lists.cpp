@@ -28,9 +28,9 @@ void stops_in(Play& its, const std::string& call) {
 
 SCENARIO(StoppedLists, TestsThatWereReadAreThereAndTheTabSaysThatTheyAreNotAll) {
     three_tests(its);
-    stops_in(its, "hlxOPCTest.State");
+    its.host.calls.during("hlxOPCTest.State", [&its] { stops_in(its, "hlxOPCTest.OPCItemID"); });
     Configuring dialog(its);
-    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 1U);
+    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 1U) << "The second is half read.";
     EXPECT_EQ(its.person.reads("lblTestsNotice"),
               "Reading the tests was stopped after 1. To read them all: open this dialog again.");
     EXPECT_TRUE(its.person.sees("txtName").enabled) << "The configuration itself was read.";
@@ -48,7 +48,8 @@ SCENARIO(StoppedLists, TestsThatWereReadAreThereAndTheTabSaysThatTheyAreNotAll) 
 SCENARIO(StoppedLists, DescriptorsToo) {
     its.host.configuration->descriptors->has({.type = 0, .item = "12", .group = "Lots"});
     its.host.configuration->descriptors->has({.type = 1, .item = "Bolt", .group = "Parts"});
-    stops_in(its, "hlxOPCDescriptor.ItemName");
+    its.host.calls.during("hlxOPCDescriptor.ItemName",
+                          [&its] { stops_in(its, "hlxOPCDescriptor.GroupName"); });
     Configuring dialog(its);
     dialog.turns_to_descriptors();
     EXPECT_EQ(its.person.lines_of("lvwDescriptors").size(), 1U);
@@ -80,6 +81,35 @@ SCENARIO(StoppedLists, AListThatIsReadAgainInVainRests) {
     EXPECT_EQ(its.person.lines_of("lvwTest").size(), 3U) << "As they were.";
     EXPECT_EQ(its.person.reads("lblTestsNotice"),
               "Reading the tests was stopped. To read them all: open this dialog again.");
+    EXPECT_FALSE(its.person.sees("bnRemove").enabled) << "Nobody knows what it would remove.";
+    dialog.leaves();
+}
+
+SCENARIO(StoppedLists, ARemovalThatWasStoppedBeforeItWasMadeLeavesNoDoubt) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", its.person.line_of("lvwTest", 1));
+    stops_in(its, "hlxOPCConfiguration.Tests");
+    its.person.presses("bnRemove");
+    its.expect_report(error::call_canceled, "dlgConfiguration.bnRemove_Click", ErrorLibrary::hlxER01);
+    EXPECT_EQ(its.person.reads("lblTestsNotice"), "");
+    its.person.presses("bnRemove");
+    EXPECT_EQ(its.host.configuration->tests->entries.size(), 2U);
+    EXPECT_EQ(its.person.lines_of("lvwTest").size(), 2U);
+    dialog.leaves();
+}
+
+SCENARIO(StoppedLists, ARemovalThatWasBrokenOffIsLookedAt) {
+    three_tests(its);
+    Configuring dialog(its);
+    its.person.picks("lvwTest", its.person.line_of("lvwTest", 1));
+    its.host.calls.during("hlxOPCTests.Remove", [&] {
+        its.stage->pass(std::chrono::seconds(1));
+        EXPECT_TRUE(its.person.screen().stop());
+        throw Stopped(Stopped::Call::broken_off);
+    });
+    its.person.presses("bnRemove");
+    its.expect_report(error::call_canceled, "dlgConfiguration.bnRemove_Click", ErrorLibrary::hlxER01);
     EXPECT_FALSE(its.person.sees("bnRemove").enabled) << "Nobody knows what it would remove.";
     dialog.leaves();
 }

@@ -242,3 +242,15 @@ SCENARIO(TestDialog, AnItemWithoutAHandleIsNotTakenBack) {
     EXPECT_FALSE(testing.result());
     EXPECT_EQ(its.host.calls.count("OPCItems.Remove"), 0);
 }
+
+SCENARIO(TestDialog, CancelThatIsStoppedTakesTheItemBackAllTheSame) {
+    Testing testing(its, its.host.has_test(0, ""));
+    testing.picks_item("Line1.Speed");
+    its.host.calls.during("OPCGroup.OPCItems", [&] {
+        its.stage->pass(std::chrono::seconds(1));
+        EXPECT_TRUE(its.person.screen().stop());
+    });
+    its.person.presses("bnCancel");
+    its.person.is_at("");
+    EXPECT_EQ(its.host.group->items->ids(), std::vector<std::string>());
+}

@@ -53,7 +53,7 @@ void dlgItemSelect::ConnectServer() {
         lstItem.clear();
         set_path("");
         if (!browser_) ignoring([&] { browser_ = the(server_).CreateBrowser(); });
-        if (work().is_stopped()) throw Stopped();
+        work().expect_no_stop();
         if (!browser_) return show_nothing_to_browse();
         browser_->MoveToRoot();
         browser_->ShowBranches();
@@ -218,7 +218,7 @@ void dlgItemSelect::reads(const char* procedure, const std::string& what, const 
 }
 
 void dlgItemSelect::ignoring(const std::function<void()>& step) {
-    if (work().is_stopped()) throw Stopped();
+    work().expect_no_stop();
     attempt([&] {
         try {
             step();

@@ -96,6 +96,8 @@ private:
     void bnCancel_Click();
     void txtFind_Change();
     bool takes(Shortcut which) override;
+    /// It closes the line in which one looks for something first.
+    bool escape_leaves() const override { return !txtFind.visible() && Form::escape_leaves(); }
 
     void ConnectServer();
     void BuildGroupList();

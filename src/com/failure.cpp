@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/com_ptr.h"
+#include "common/call_gate.h"
 
 #include <array>
 
@@ -69,6 +70,13 @@ void check(HRESULT result, IUnknown* object, REFIID iid) {
         information->GetSource(source.out());
     }
     throw error_of(result, description.text(), source.text());
+}
+
+void check_call(HRESULT result, IUnknown* object, REFIID iid) {
+    // Cancelled, or turned away and not tried again.
+    if (result == RPC_E_CALL_CANCELED || result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER)
+        call_gate::expect_no_stop();
+    check(result, object, iid);
 }
 
 HRESULT code_of(const Error& error) {

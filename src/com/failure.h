@@ -22,6 +22,9 @@ void check(HRESULT result);
 /// the object left for it.
 void check(HRESULT result, IUnknown* object, REFIID iid);
 
+/// The same for a call of the host's objects. One that a person had broken off throws `Stopped`.
+void check_call(HRESULT result, IUnknown* object, REFIID iid);
+
 /// The failure code for an error number, the other way round. A number that is no failure code is E_FAIL.
 HRESULT code_of(const Error& error);
 

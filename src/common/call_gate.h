@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/error.h"
+
 #include <atomic>
 
 /// What every call of the host's objects passes first. It is open unless somebody minds it, which costs a
@@ -27,6 +29,15 @@ private:
 
 inline void pass() {
     if (minded.load(std::memory_order_relaxed) != 0 && !is_wide_open) ask.load()();
+}
+
+/// For a call that came back cancelled or refused: throws `Stopped` when that is what a person wanted.
+inline void expect_no_stop() {
+    try {
+        pass();
+    } catch (const Stopped&) {
+        throw Stopped(Stopped::Call::broken_off);
+    }
 }
 
 } // namespace brx::call_gate

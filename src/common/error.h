@@ -53,10 +53,22 @@ private:
     std::string source_;
 };
 
-/// A person has stopped the work, and this call was not made.
+/// A person has stopped the work: this call was not made, or was broken off while it was under way.
 class Stopped : public Error {
 public:
-    Stopped() : Error(error::call_canceled, "Stopped by the user") {}
+    enum class Call { not_made, broken_off };
+
+    explicit Stopped(Call call = Call::not_made)
+        : Error(error::call_canceled, "Stopped by the user"), call_(call) {}
+
+    /// Whether the host's objects are certain to be as they were before the call.
+    bool was_not_made() const { return call_ == Call::not_made; }
+
+private:
+    Call call_;
 };
+
+/// A person is about to leave what the work was for: it ends like work that is stopped, but nobody is told.
+class Left : public Stopped {};
 
 } // namespace brx

@@ -104,6 +104,8 @@ protected:
         const TrapScope here(name_, procedure);
         try {
             body();
+        } catch (const Left&) {
+            // She knows.
         } catch (...) {
             report(library, procedure);
         }

@@ -26,8 +26,8 @@ void dlgConfiguration::ConfigureDescriptors() {
         work().go_on_with("Reading the descriptors of " + txtName.text());
         const auto descriptors = the(the(configuration_).Descriptors()).NewEnum();
         while (const hlxOPCDescriptorPtr descriptor = descriptors->Next()) {
-            fill(rows.emplace_back(), *descriptor);
-            if (work().is_stopped()) throw Stopped();
+            ListedObjects::draft(rows, [&](RowDraft& row) { fill(row, *descriptor); });
+            work().expect_no_stop();
         }
     });
 }

@@ -4,6 +4,24 @@
 
 namespace brx {
 
+namespace {
+
+/// When `step` fails the host may have done it all the same: then it is looked again. A call that was not made
+/// leaves no doubt.
+void in_doubt(const std::function<void()>& step, const std::function<void()>& look_again) {
+    try {
+        step();
+    } catch (const Stopped& stopped) {
+        if (!stopped.was_not_made()) attempt(look_again);
+        throw;
+    } catch (...) {
+        attempt(look_again);
+        throw;
+    }
+}
+
+} // namespace
+
 RowDraft::Cell& RowDraft::cell(int column) {
     const auto index = static_cast<std::size_t>(column);
     if (cells_.size() <= index) cells_.resize(index + 1);
@@ -52,22 +70,14 @@ void ListedObjects::show_read_part(const Drafts& rows) {
 }
 
 void ListedObjects::add(const std::function<void()>& make, const std::function<void()>& list_again) {
-    try {
-        make();
-    } catch (...) {
-        attempt(list_again);
-        throw;
-    }
+    in_doubt(make, list_again);
 }
 
 void ListedObjects::take_away(const std::function<void()>& remove, const std::function<void()>& list_again) {
-    try {
-        remove();
-    } catch (...) {
+    in_doubt(remove, [&] {
         listed_ = Listed::uncertain;
-        attempt(list_again);
-        throw;
-    }
+        list_again();
+    });
 }
 
 /// While there are as many rows as before, the selected one stays selected.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/error.h"
 #include "forms/button.h"
 #include "forms/label.h"
 #include "forms/list_view.h"
@@ -52,6 +53,16 @@ public:
     }
 
     using Drafts = std::vector<RowDraft>;
+    /// A draft of the next object, as far as it can be read. One that a person stops has no row.
+    template <class Fill> static void draft(Drafts& rows, Fill&& fill) {
+        RowDraft& row = rows.emplace_back();
+        try {
+            fill(row);
+        } catch (const Stopped&) {
+            rows.pop_back();
+            throw;
+        }
+    }
     /// Lists the objects that `read` makes drafts of, in their order, and passes on its failure. The first
     /// time there are then rows for the objects up to it, and later for a list in part that did not become
     /// shorter; otherwise the rows stay as they were. That a person has stopped it is no failure, but said.

@@ -14,20 +14,22 @@ void dlgConfiguration::AddToList() {
         const std::int32_t count = the(tests).Count();
         work().counts_to(count);
         for (std::int32_t position = 1; position <= count; ++position) {
-            if (work().is_stopped()) throw Stopped();
+            work().expect_no_stop();
             work().has_done(position - 1);
             const hlxOPCTestPtr test = tests->Item(position);
             const std::string name = the(test).CharacteristicName();
-            RowDraft& row = rows.emplace_back();
-            row.set_text(name);
-            row.set_text(1, test->OPCItemID());
-            const hlxOPCConfigurationPtr configuration = the(test->Parent()).Parent();
-            const hlxOPCServerPtr entry = the(the(configuration).Server()).ServerEntry();
-            row.set_text(2, the(entry).ServerName());
-            row.set_text(3, entry->Node());
-            if (test->State() != test_state::item_not_shown) continue;
-            row.set_text(1, "");
-            for (const int column : {0, 2, 3}) row.set_look(column, {.bold = true, .fore_color = color::red});
+            ListedObjects::draft(rows, [&](RowDraft& row) {
+                row.set_text(name);
+                row.set_text(1, test->OPCItemID());
+                const hlxOPCConfigurationPtr configuration = the(test->Parent()).Parent();
+                const hlxOPCServerPtr entry = the(the(configuration).Server()).ServerEntry();
+                row.set_text(2, the(entry).ServerName());
+                row.set_text(3, entry->Node());
+                if (test->State() != test_state::item_not_shown) return;
+                row.set_text(1, "");
+                for (const int column : {0, 2, 3})
+                    row.set_look(column, {.bold = true, .fore_color = color::red});
+            });
         }
     });
 }

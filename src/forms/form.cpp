@@ -40,11 +40,16 @@ void Form::show_modal() {
         }
     };
     const Unloading at_the_end{*this}; // also when no window can be had for it
-    call_gate::pass();                 // nobody who has stopped the work waits for a dialog
+    expect_still_wanted();
     load();
     if (!loaded_) return;
     const ModalTurn waiting(this);
     environment_.engine.show_modal(*this);
+}
+
+void Form::expect_still_wanted() {
+    call_gate::pass();
+    if (work().is_stopped()) throw Left();
 }
 
 void Form::load() {

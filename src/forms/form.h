@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/call_gate.h"
 #include "common/trap.h"
 #include "forms/control.h"
 #include "forms/environment.h"
@@ -76,6 +75,8 @@ public:
     /// The button that Enter presses, and the one that Escape presses; null when there is none.
     class Button* default_button() const;
     class Button* cancel_button() const;
+    /// Whether Escape is for leaving it by now, and for nothing else.
+    virtual bool escape_leaves() const { return cancel_button() != nullptr; }
 
     /// A person closed the window by other means than a button.
     bool user_close();
@@ -108,7 +109,7 @@ protected:
 
     /// What a dialog of the host's answers, which waits for a person.
     template <class Question> auto answered(Question&& question) {
-        call_gate::pass();
+        expect_still_wanted();
         environment_.engine.comes_before_forms();
         const Work::Pause pause(Work::Afterwards::afresh);
         return question();
@@ -123,6 +124,8 @@ protected:
 
 private:
     friend class Control;
+    /// Nobody who has stopped the work, or is leaving it, waits for another dialog: throws then.
+    void expect_still_wanted();
     void load();
     void move_focus(Control* control);
     void keep_focus_usable();

@@ -26,8 +26,12 @@ void Work::waits_for(const std::string& what) {
     what_ = what;
 }
 
-void Work::go_on_with(const std::string& what) {
+void Work::expect_no_stop() {
     if (is_stopped()) throw Stopped();
+}
+
+void Work::go_on_with(const std::string& what) {
+    expect_no_stop();
     waits_for(what);
 }
 

@@ -48,6 +48,8 @@ public:
     void has_done(int count) { done_.store(count, std::memory_order_relaxed); }
     /// Whether a person wants it to end before its next call. What does not ask has its next call fail.
     bool is_stopped() { return is_seen_.load(std::memory_order_relaxed) && looks_for_stop(); }
+    /// Throws `Stopped` then.
+    void expect_no_stop();
     /// Whether a person has done something that waits for it to end.
     virtual bool keeps_a_person_waiting() { return false; }
     Milliseconds lasted() const { return now() - began_.load(); }

@@ -1,6 +1,7 @@
 // What a test is made of: choosing its characteristic and its item.
 
 #include "classes/LeafSelect.h"
+#include "common/call_gate.h"
 #include "common/group_items.h"
 #include "tests/dlgOPCTest.h"
 
@@ -137,6 +138,7 @@ void dlgOPCTest::take_item(OPCItems& items, const ObjectPtr& server) {
 /// one can bring the server down. An item whose group cannot be reached waits for the next time.
 void dlgOPCTest::drop_added_item() {
     if (!added_new_item_ || server_handles_.at(1) == 0) return;
+    const call_gate::Undoing undoing;
     const OPCItemsPtr group_items = items_of(the(configuration()).OPCGroup());
     OPCItems& reached = the(group_items);
     added_new_item_ = false;

@@ -142,7 +142,7 @@ bool HeadlessScreen::key(Key key) {
         }
         return false;
     };
-    return deed(press, key == Key::escape);
+    return deed(press, key == Key::escape && user_.escape_leaves());
 }
 
 bool HeadlessScreen::accelerator(char letter) {

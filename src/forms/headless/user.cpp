@@ -67,6 +67,8 @@ bool HeadlessUser::leaves(const std::string& name) const {
     return button && button->leaves();
 }
 
+bool HeadlessUser::escape_leaves() const { return form() && form()->escape_leaves(); }
+
 bool HeadlessUser::click(const std::string& name) {
     Control* control = find(name);
     if (!control || !control->takes_input() || !control->shows()) return false;

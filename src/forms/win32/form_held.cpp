@@ -65,8 +65,14 @@ void end_keys_of_then() {
 
 /// Of the key that was dealt with last.
 bool take_character(MSG& message) {
-    return PeekMessageW(&message, nullptr, WM_CHAR, WM_DEADCHAR, PM_REMOVE) ||
-           PeekMessageW(&message, nullptr, WM_SYSCHAR, WM_SYSDEADCHAR, PM_REMOVE);
+    const auto take = [&](UINT first, UINT last) {
+        if (!PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) return false;
+        // It comes through every filter, and is the host's.
+        const bool is_quit = message.message == WM_QUIT;
+        if (is_quit) PostQuitMessage(static_cast<int>(message.wParam));
+        return !is_quit;
+    };
+    return take(WM_CHAR, WM_DEADCHAR) || take(WM_SYSCHAR, WM_SYSDEADCHAR);
 }
 
 } // namespace
@@ -111,7 +117,7 @@ bool FormWindow::leaves(const MSG& held) const {
     case Input::closing:
         return true;
     case Input::key:
-        return held.message == WM_KEYDOWN && held.wParam == VK_ESCAPE && form_.cancel_button();
+        return held.message == WM_KEYDOWN && held.wParam == VK_ESCAPE && form_.escape_leaves();
     case Input::mouse:
         return held.message == WM_LBUTTONDOWN && std::ranges::any_of(form_.controls(), [&](Control* each) {
                    const auto* button = dynamic_cast<Button*>(each);

@@ -29,7 +29,9 @@ constexpr std::array<UINT, 4> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN,
 /// Takes it out of the queue, so that it does nothing else.
 bool take_escape() {
     MSG key{};
-    if (!PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) || key.wParam != VK_ESCAPE)
+    // The host's quit message comes through every filter.
+    if (!PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) || key.message != WM_KEYDOWN ||
+        key.wParam != VK_ESCAPE)
         return false;
     return PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE) != FALSE;
 }
