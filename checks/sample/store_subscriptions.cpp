@@ -187,6 +187,21 @@ TEST_F(StoreSubscription, FindsOutThatAQuietItemIsNoLongerWhatItWas) {
     EXPECT_EQ(pass(1.5).value, Variant(508.0));
 }
 
+/// A question's answer is old news only until something else has been told.
+TEST_F(StoreSubscription, TellsWhatComesBackToWhatWasAskedLast) {
+    for (const float dead_band : {0.0F, 5.0F}) {
+        SCOPED_TRACE(dead_band);
+        begin(dead_band);
+        tells(said(0.0));
+        EXPECT_EQ(pass(15).value, Variant(0.0));
+        EXPECT_GT(group.questions, 0);
+        for (const double ready : {1.0, 0.0, 1.0, 0.0}) {
+            tells(said(ready));
+            EXPECT_EQ(pass(1).value, Variant(ready));
+        }
+    }
+}
+
 TEST_F(StoreSubscription, LeavesSmallChangesInADeadBandAlone) {
     begin(5);
     tells(said(501.0));

@@ -79,11 +79,13 @@ ItemReading Subscription::read(const std::string& item_id) {
     return reading_of(item, seconds_());
 }
 
-/// What a question of ours has brought is no news, and neither is what was known before.
+/// What a question of ours has brought is no news, and neither is what was known before. But once something
+/// else is told, the same can come again and is.
 void Subscription::hear(Item& item, const Observation& known, double now) const {
     if (!has_said_anything(known) || item.known == known) return;
     item.known = known;
     if (item.found && says_the_same(*item.found, known)) return;
+    item.found.reset();
     item.answer = known;
     item.since = now;
     item.only_asked = false;
