@@ -37,6 +37,8 @@ TEST(CollectConditions, CompareTextsWhereOneSideIsNoNumber) {
 TEST(CollectConditions, HoldForNothingButAlwaysWhereNothingCanBeCompared) {
     EXPECT_EQ(holding(Null{}, 1.0), "0");
     EXPECT_EQ(holding(std::nan(""), 1.0), "0");
+    EXPECT_EQ(holding(std::nan(""), std::string("x")), "0");
+    EXPECT_EQ(holding(HUGE_VAL, 1.0), "0236") << "It is more than any number, although none that is saved.";
 }
 
 Date on(int year, unsigned month, unsigned day, double time = 0) {

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <limits>
+
 namespace brx::collect {
 
 namespace {
@@ -85,6 +88,29 @@ TEST_F(CollectPieces, AreNumbersOnly) {
     EXPECT_EQ(story(), "12 -1 |");
 }
 
+TEST_F(CollectPieces, AreFiniteNumbersOnly) {
+    settings.piece = every(1, 0);
+    for (const double range : {0.0, 50.0}) {
+        if (range > 0) values.ranges["Weight"] = range;
+        begin();
+        for (const double weight : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
+            weighs(weight);
+            EXPECT_FALSE(collector->has_number(1));
+        }
+        becomes("Weight", std::numeric_limits<float>::quiet_NaN());
+        weighs(7);
+        EXPECT_EQ(story(), "7");
+    }
+}
+
+TEST_F(CollectPieces, OfAConstantThatIsNoNumberAreNotTaken) {
+    settings.tests[0].save_as = SaveAs::constant;
+    settings.tests[0].constant = std::nan("");
+    begin();
+    weighs(1);
+    EXPECT_EQ(story(), "");
+}
+
 TEST_F(CollectPieces, AreNotTakenOfAnItemWithoutAValue) {
     settings.piece = every(1, 0);
     begin();
@@ -126,6 +152,19 @@ TEST_F(CollectFeed, HasNoDeadBandForAnItemWithoutARange) {
     begin();
     weighs(101);
     EXPECT_EQ(story(), "101");
+}
+
+TEST_F(CollectFeed, KnowsAValueAgainThatIsNoNumber) {
+    settings.piece = when("Ready", 0, Empty{});
+    values.values["Ready"] = true;
+    begin();
+    for (const Variant& odd : {Variant(std::nan("")), Variant(std::numeric_limits<float>::quiet_NaN())}) {
+        becomes("Ready", false);
+        const std::size_t before = series().points().size();
+        becomes("Ready", odd);
+        pass(3);
+        EXPECT_EQ(series().points().size(), before + 1);
+    }
 }
 
 TEST_F(CollectFeed, TellsAValueThatComesBackAsTheFirstOne) {

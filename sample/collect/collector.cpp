@@ -11,7 +11,7 @@
 namespace brx::collect {
 
 std::optional<double> saved(const TestSettings& test, const Variant& value) {
-    if (test.save_as == SaveAs::constant) return test.constant;
+    if (test.save_as == SaveAs::constant) return number_in(test.constant);
     const auto number = number_in(value);
     if (!number) return std::nullopt;
     if (test.save_as == SaveAs::absolute) return std::abs(*number);

@@ -40,7 +40,7 @@ private:
     std::map<std::int64_t, Series> series_;
 };
 
-/// The value as it is saved; none for what is no number.
+/// The value as it is saved; none for what is no finite number.
 std::optional<double> saved(const TestSettings& test, const Variant& value);
 
 } // namespace brx::collect

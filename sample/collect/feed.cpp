@@ -20,7 +20,7 @@ void Feed::watch(const std::string& item) {
 bool Feed::is_news(const Variant& value, const Variant& told, std::optional<double> range) const {
     const auto from = number_in(told);
     const auto to = number_in(value);
-    if (!from || !to || !range) return value != told;
+    if (!from || !to || !range) return !is_the_same(value, told);
     return std::abs(*to - *from) > *range * dead_band_ / 100;
 }
 

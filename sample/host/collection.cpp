@@ -166,7 +166,10 @@ std::int32_t Collection::stored_subgroups(std::int32_t position) const {
 std::string Collection::trouble_of(std::int64_t test) const {
     std::string text;
     const auto trouble = troubles_.find(collector_->test(test)->item);
-    if (trouble != troubles_.end() && !trouble->second.empty()) text += ".  No value: " + trouble->second;
+    if (trouble != troubles_.end() && !trouble->second.empty())
+        text += ".  No value: " + trouble->second;
+    else if (trouble != troubles_.end() && !collector_->has_number(test))
+        text += ".  Nothing to save: the value is no finite number";
     const auto waiting = std::ranges::count(waiting_, test, &StoredSubgroup::test_id);
     if (!store_failure_.empty() && waiting != 0)
         text += ".  " + counted(waiting, "subgroup waits", "subgroups wait") + " to be stored";
