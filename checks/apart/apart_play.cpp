@@ -13,6 +13,7 @@ namespace {
 
 const wchar_t* const wrapper_class = L"OPC.Automation";
 constexpr HRESULT call_not_executed = HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE);
+constexpr int tries_to_create = 5;
 
 com_ptr<IOPCAutoServer> a_server_there() {
     CLSID clsid{};
@@ -22,9 +23,11 @@ com_ptr<IOPCAutoServer> a_server_there() {
         return CoCreateInstance(clsid, nullptr, CLSCTX_LOCAL_SERVER, __uuidof(IOPCAutoServer),
                                 reinterpret_cast<void**>(server.out()));
     };
-    const HRESULT created = create();
-    // Of a process that bears the number of one that died Wine finds the way only the second time.
-    check(created == call_not_executed ? create() : created);
+    HRESULT created = create();
+    // Wine keeps connections to processes that have died, and a process that bears the number of one of them
+    // is reached when these are used up: each costs a try.
+    for (int tries = 1; created == call_not_executed && tries < tries_to_create; ++tries) created = create();
+    check(created);
     return server;
 }
 

@@ -22,16 +22,23 @@ std::filesystem::path this_program() {
 
 std::filesystem::path server_program() { return this_program().parent_path() / BRX_SERVER_FROM_PROGRAM; }
 
+constexpr int tries_to_start = 5;
+
 PROCESS_INFORMATION started(const std::wstring& arguments) {
     const std::filesystem::path program = server_program().lexically_normal();
     std::wstring line = L"\"" + program.wstring() + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &process))
-        throw std::runtime_error("The server program does not start: error " +
-                                 std::to_string(GetLastError()));
+    // Under load Wine now and then gives up with an internal error, and starts the program the next time.
+    for (int tries = 1; !CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                        nullptr, &startup, &process);
+         ++tries) {
+        const DWORD failure = GetLastError();
+        if (failure != ERROR_INTERNAL_ERROR || tries == tries_to_start)
+            throw std::runtime_error("The server program does not start: error " + std::to_string(failure));
+        Sleep(500);
+    }
     return process;
 }
 
