@@ -104,11 +104,18 @@ void play(ApartPlay& play, const ApartStory& story) {
     }
 }
 
-void play_loosely(ApartPlay& play, const ApartStory& story) {
-    testing::TestPartResultArray ignored;
-    const testing::ScopedFakeTestPartResultReporter ignore(
-        testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &ignored);
-    brx::checks::play(play, story);
+std::string play_loosely(ApartPlay& play, const ApartStory& story) {
+    testing::TestPartResultArray results;
+    {
+        const testing::ScopedFakeTestPartResultReporter intercept(
+            testing::ScopedFakeTestPartResultReporter::INTERCEPT_ALL_THREADS, &results);
+        brx::checks::play(play, story);
+    }
+    std::string failures;
+    for (int i = 0; i < results.size(); ++i)
+        if (results.GetTestPartResult(i).failed())
+            failures += std::string(results.GetTestPartResult(i).message()) + "\n";
+    return failures;
 }
 
 } // namespace brx::checks

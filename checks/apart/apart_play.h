@@ -50,8 +50,9 @@ using ApartStory = std::function<void(ApartPlay&)>;
 
 /// Plays the story as it is told.
 void play(ApartPlay& play, const ApartStory& story);
-/// Plays it whatever becomes of it: with a server in trouble nothing in it needs to come true.
-void play_loosely(ApartPlay& play, const ApartStory& story);
+/// Plays it whatever becomes of it: with a server in trouble nothing in it needs to come true. Gives what did
+/// not, "" for nothing.
+std::string play_loosely(ApartPlay& play, const ApartStory& story);
 
 /// How many calls the host itself makes before a dialog makes one.
 constexpr unsigned calls_to_connect = 3;
