@@ -2,6 +2,8 @@
 
 #include "apart/apart_play.h"
 
+#include <ostream>
+
 namespace brx::checks {
 
 // What each dialog is there for, with a server in another process.
@@ -23,5 +25,6 @@ struct MainStory {
     bool in_ticks = false;
 };
 const std::vector<MainStory>& main_stories();
+inline void PrintTo(const MainStory& story, std::ostream* out) { *out << story.name; }
 
 } // namespace brx::checks
