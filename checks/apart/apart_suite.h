@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apart/main_stories.h"
+#include "apart/only_wrapper.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,7 @@
 namespace brx::checks {
 
 /// Each dialog's main story in turn, while the server program is installed.
-class Apart : public testing::TestWithParam<MainStory> {
+class Apart : public OnlyWrapper<testing::TestWithParam<MainStory>> {
 protected:
     static void SetUpTestSuite() { installed_ = std::make_unique<InstalledServer>(); }
     static void TearDownTestSuite() { installed_ = nullptr; }

@@ -1,6 +1,5 @@
-#include "apart/server_program.h"
+#include "apart/only_wrapper.h"
 
-#include <gtest/gtest.h>
 #include <objbase.h>
 
 #include <string>
@@ -12,8 +11,15 @@ namespace brx::checks {
 namespace {
 
 const std::wstring classes = L"Software\\Classes\\";
-constexpr const wchar_t* wrapper_name = L"OPC.Automation";
 constexpr const wchar_t* own_name = L"brxSample.Server";
+const std::wstring interface_key = L"Interface\\{28E68F92-8D75-11D1-8DC3-3C302A000000}\\TypeLib";
+const std::wstring library_key = L"TypeLib\\{28E68F91-8D75-11D1-8DC3-3C302A000000}\\1.0";
+
+#ifdef _WIN64
+const std::wstring file_key = library_key + L"\\0\\win64";
+#else
+const std::wstring file_key = library_key + L"\\0\\win32";
+#endif
 
 bool has_key(const std::wstring& path) {
     HKEY key = nullptr;
@@ -23,45 +29,75 @@ bool has_key(const std::wstring& path) {
     return true;
 }
 
-std::wstring class_of(const wchar_t* name) {
-    std::wstring text(64, L'\0');
-    DWORD size = 64 * sizeof(wchar_t);
-    const std::wstring key = classes + name + L"\\CLSID";
-    if (RegGetValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size) !=
-        ERROR_SUCCESS)
+/// "" where there is none.
+std::wstring text_at(const std::wstring& path) {
+    std::wstring text(1024, L'\0');
+    DWORD size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    if (RegGetValueW(HKEY_LOCAL_MACHINE, (classes + path).c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
+                     text.data(), &size) != ERROR_SUCCESS)
         return {};
     return text.c_str();
 }
 
-TEST(InstalledServer, IsFoundByItsNamesAndLeavesNothingBehind) {
-    const std::wstring interface_key = L"Interface\\{28E68F92-8D75-11D1-8DC3-3C302A000000}\\TypeLib";
-    const std::wstring library_key = L"TypeLib\\{28E68F91-8D75-11D1-8DC3-3C302A000000}\\1.0";
+std::wstring class_of(const std::wstring& name) { return text_at(name + L"\\CLSID"); }
+
+void write(const std::wstring& path, const std::wstring& text) {
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (classes + path).c_str(), nullptr, REG_SZ, text.c_str(),
+                    static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+}
+
+void expect_nothing_left(const std::wstring& id) {
+    for (const std::wstring& key :
+         {L"CLSID\\" + id, std::wstring(own_name), std::wstring(wrapper_name), interface_key, library_key})
+        EXPECT_FALSE(has_key(key));
+}
+
+/// Another program's wrapper, by its name only, on a computer that has none.
+class ForeignWrapper {
+public:
+    ForeignWrapper() { write(std::wstring(wrapper_name) + L"\\CLSID", id); }
+    ForeignWrapper(const ForeignWrapper&) = delete;
+    ForeignWrapper& operator=(const ForeignWrapper&) = delete;
+    ~ForeignWrapper() { RegDeleteTreeW(HKEY_LOCAL_MACHINE, (classes + wrapper_name).c_str()); }
+
+    const std::wstring id = L"{0F7C5A11-54B1-4F0B-9E0E-6A5C6F1B2D01}";
+};
+
+class Installing : public OnlyWrapper<> {
+protected:
+    void SetUp() override {
+        OnlyWrapper::SetUp();
+        const std::filesystem::path library = text_at(file_key);
+        if (std::filesystem::exists(library) && library != server_program())
+            GTEST_SKIP()
+                << "This computer has the interfaces' library of another program, which is left alone: "
+                << library;
+    }
+};
+
+TEST_F(Installing, IsFoundByItsNamesAndLeavesNothingBehind) {
     std::wstring id;
     {
         const InstalledServer installed;
         id = class_of(own_name);
         EXPECT_TRUE(has_key(L"CLSID\\" + id + L"\\LocalServer32"));
         EXPECT_EQ(class_of(wrapper_name), id);
+        EXPECT_EQ(other_wrapper(), "") << "It is no other program's.";
         EXPECT_TRUE(has_key(interface_key));
-        EXPECT_TRUE(has_key(library_key));
+        EXPECT_EQ(text_at(file_key), server_program().wstring());
     }
-    for (const std::wstring& key :
-         {L"CLSID\\" + id, std::wstring(own_name), std::wstring(wrapper_name), interface_key, library_key})
-        EXPECT_FALSE(has_key(key));
+    expect_nothing_left(id);
 }
 
-TEST(InstalledServer, LeavesTheNameOfAWrapperThatIsThereAlone) {
-    const std::wstring other = L"{0F7C5A11-54B1-4F0B-9E0E-6A5C6F1B2D01}";
-    const std::wstring key = classes + wrapper_name;
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + L"\\CLSID").c_str(), nullptr, REG_SZ, other.c_str(),
-                    static_cast<DWORD>((other.size() + 1) * sizeof(wchar_t)));
+TEST_F(Installing, LeavesTheNameOfAWrapperThatIsThereAlone) {
+    const ForeignWrapper foreign;
+    EXPECT_NE(other_wrapper(), "") << "What needs the name has to be skipped here.";
     {
         const InstalledServer installed;
-        EXPECT_EQ(class_of(wrapper_name), other);
+        EXPECT_EQ(class_of(wrapper_name), foreign.id);
         EXPECT_NE(class_of(own_name), L"");
     }
-    EXPECT_EQ(class_of(wrapper_name), other);
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
+    EXPECT_EQ(class_of(wrapper_name), foreign.id);
 }
 
 } // namespace

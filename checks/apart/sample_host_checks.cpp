@@ -1,4 +1,4 @@
-#include "apart/server_program.h"
+#include "apart/only_wrapper.h"
 #include "sample/windows/host_program.h"
 
 #include <gmock/gmock.h>
@@ -38,7 +38,9 @@ void close(const OpenHost& host) {
     EXPECT_TRUE(no_server_runs());
 }
 
-TEST(SampleHostApart, TheSystemStartsTheServerAndItEndsWithTheHost) {
+class SampleHostApart : public OnlyWrapper<> {};
+
+TEST_F(SampleHostApart, TheSystemStartsTheServerAndItEndsWithTheHost) {
     const InstalledServer installed;
     const OpenHost host(L"--wrapper");
     EXPECT_TRUE(server_window());
@@ -46,7 +48,7 @@ TEST(SampleHostApart, TheSystemStartsTheServerAndItEndsWithTheHost) {
     close(host);
 }
 
-TEST(SampleHostApart, ValuesComeFromTheOtherProcess) {
+TEST_F(SampleHostApart, ValuesComeFromTheOtherProcess) {
     const InstalledServer installed;
     const OpenHost host(L"--wrapper");
     const auto value = [&] { return host.cell(L"lstTests", 0, 4); };
@@ -56,7 +58,7 @@ TEST(SampleHostApart, ValuesComeFromTheOtherProcess) {
     close(host);
 }
 
-TEST(SampleHostApart, TheHostTellsThatItsServerIsGoneAndConnectsAgain) {
+TEST_F(SampleHostApart, TheHostTellsThatItsServerIsGoneAndConnectsAgain) {
     const InstalledServer installed;
     const OpenHost host(L"--wrapper");
     PostMessageW(server_window(), WM_CLOSE, 0, 0);

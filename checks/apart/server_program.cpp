@@ -20,12 +20,9 @@ std::filesystem::path this_program() {
     return program;
 }
 
-std::filesystem::path server_program() { return this_program().parent_path() / BRX_SERVER_FROM_PROGRAM; }
-
 constexpr int tries_to_start = 5;
 
-PROCESS_INFORMATION started(const std::wstring& arguments) {
-    const std::filesystem::path program = server_program().lexically_normal();
+PROCESS_INFORMATION started(const std::filesystem::path& program, const std::wstring& arguments) {
     std::wstring line = L"\"" + program.wstring() + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
@@ -48,8 +45,8 @@ void close(const PROCESS_INFORMATION& process) {
 }
 
 /// Runs it and gives its exit code.
-DWORD run(const std::wstring& arguments) {
-    const PROCESS_INFORMATION process = started(arguments);
+DWORD run(const std::filesystem::path& program, const std::wstring& arguments) {
+    const PROCESS_INFORMATION process = started(program, arguments);
     DWORD code = STILL_ACTIVE;
     if (WaitForSingleObject(process.hProcess, 30'000) == WAIT_OBJECT_0)
         GetExitCodeProcess(process.hProcess, &code);
@@ -57,20 +54,49 @@ DWORD run(const std::wstring& arguments) {
     return code;
 }
 
-} // namespace
-
-InstalledServer::InstalledServer() {
-    if (run(L"--install") != 0) throw std::runtime_error("The server program cannot be installed.");
+/// The class that a name stands for; "" for none.
+std::wstring class_in(HKEY hive, const wchar_t* name) {
+    std::array<wchar_t, 64> text{};
+    DWORD size = sizeof text;
+    const std::wstring key = L"Software\\Classes\\" + std::wstring(name) + L"\\CLSID";
+    const LSTATUS read = RegGetValueW(hive, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+    return read == ERROR_SUCCESS ? text.data() : L"";
 }
 
-InstalledServer::~InstalledServer() { run(L"--uninstall"); }
+} // namespace
+
+std::filesystem::path server_program() {
+    return (this_program().parent_path() / BRX_SERVER_FROM_PROGRAM).lexically_normal();
+}
+
+std::string other_wrapper() {
+    // What a run that was broken off has left behind is the server program's own.
+    constexpr const wchar_t* own_class = L"{8684556D-2892-4CA2-BB6E-94D0137A1686}";
+    for (HKEY hive : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        const std::wstring other = class_in(hive, wrapper_name);
+        if (!other.empty() && CompareStringOrdinal(other.c_str(), -1, own_class, -1, TRUE) != CSTR_EQUAL)
+            return "This computer has an OPC automation wrapper of its own, " +
+                   utf8_of(std::wstring_view(other)) +
+                   ", which is left alone: what has to be answered by the sample's server is not checked.";
+    }
+    return {};
+}
+
+InstalledServer::InstalledServer(std::filesystem::path program) : program_(std::move(program)) {
+    if (run(program_, L"--install") != 0) throw std::runtime_error("The server program cannot be installed.");
+}
+
+InstalledServer::~InstalledServer() {
+    // What was moved is uninstalled where it lies now.
+    if (std::filesystem::exists(program_)) run(program_, L"--uninstall");
+}
 
 ServerProgram::ServerProgram(const std::wstring& switches) {
     static unsigned number = 0;
     log_ = std::filesystem::temp_directory_path() /
            ("brx-apart-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number) + ".log");
     std::filesystem::remove(log_); // an earlier program of the same number may have left one
-    process_ = started(switches + L" --log \"" + log_.wstring() + L"\" -Embedding");
+    process_ = started(server_program(), switches + L" --log \"" + log_.wstring() + L"\" -Embedding");
     // It gives its window a name when its class can be found.
     for (int tries = 0; tries < 1'500 && name_of(window()) != "brxSampleServer"; ++tries) Sleep(20);
 }

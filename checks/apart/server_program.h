@@ -8,13 +8,26 @@
 
 namespace brx::checks {
 
+/// Whose name the sample's server program takes while nobody else has it.
+inline constexpr const wchar_t* wrapper_name = L"OPC.Automation";
+
+/// Why the server program cannot be this computer's OPC automation wrapper: another program is, and what is
+/// checked would be asked of that one. "" for no reason.
+std::string other_wrapper();
+
+/// Where it was built.
+std::filesystem::path server_program();
+
 /// Makes the sample's server program the OPC automation wrapper of this computer while it lives.
 class InstalledServer {
 public:
-    InstalledServer();
+    explicit InstalledServer(std::filesystem::path program = server_program());
     InstalledServer(const InstalledServer&) = delete;
     InstalledServer& operator=(const InstalledServer&) = delete;
     ~InstalledServer();
+
+private:
+    std::filesystem::path program_;
 };
 
 /// The server program as a process beside this one, ready to be connected to. It ends when everything of it
