@@ -63,6 +63,31 @@ public:
     const std::wstring id = L"{0F7C5A11-54B1-4F0B-9E0E-6A5C6F1B2D01}";
 };
 
+/// The server program in a folder of its own, which can be moved.
+class MovingProgram {
+public:
+    MovingProgram()
+        : folder_(std::filesystem::temp_directory_path() /
+                  ("brx-moving-" + std::to_string(GetCurrentProcessId()))) {
+        for (const char* place : {"one", "other"}) std::filesystem::create_directories(folder_ / place);
+        std::filesystem::copy_file(server_program(), at("one"),
+                                   std::filesystem::copy_options::overwrite_existing);
+    }
+    MovingProgram(const MovingProgram&) = delete;
+    MovingProgram& operator=(const MovingProgram&) = delete;
+    ~MovingProgram() {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+
+    std::filesystem::path at(const char* place) const { return folder_ / place / "brxSampleServer.exe"; }
+    void moves() const { std::filesystem::rename(at("one"), at("other")); }
+
+private:
+    std::filesystem::path folder_;
+};
+
+/// On a computer without a library of the interfaces either, but one that these checks have left behind.
 class Installing : public OnlyWrapper<> {
 protected:
     void SetUp() override {
@@ -98,6 +123,40 @@ TEST_F(Installing, LeavesTheNameOfAWrapperThatIsThereAlone) {
         EXPECT_NE(class_of(own_name), L"");
     }
     EXPECT_EQ(class_of(wrapper_name), foreign.id);
+}
+
+TEST_F(Installing, AgainFromAnotherFolderTakesTheLibraryAlong) {
+    const MovingProgram program;
+    const InstalledServer before(program.at("one"));
+    const std::wstring id = class_of(own_name);
+    EXPECT_EQ(text_at(file_key), program.at("one").wstring());
+    program.moves();
+    {
+        const InstalledServer now(program.at("other"));
+        EXPECT_EQ(text_at(file_key), program.at("other").wstring());
+    }
+    expect_nothing_left(id);
+}
+
+TEST_F(Installing, TakesThePlaceOfALibraryWhoseFileIsGone) {
+    write(file_key, L"C:\\no such folder\\wrapper.dll\\2");
+    std::wstring id;
+    {
+        const InstalledServer installed;
+        id = class_of(own_name);
+        EXPECT_EQ(text_at(file_key), server_program().wstring());
+    }
+    expect_nothing_left(id);
+}
+
+TEST_F(Installing, LeavesTheLibraryOfAnotherProgramAlone) {
+    const MovingProgram other;
+    for (const std::wstring& path : {other.at("one").wstring(), other.at("one").wstring() + L"\\2"}) {
+        write(file_key, path);
+        { const InstalledServer installed; }
+        EXPECT_EQ(text_at(file_key), path);
+    }
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, (classes + library_key).c_str());
 }
 
 } // namespace

@@ -8,7 +8,9 @@
 
 #include <OPCAutomation.h>
 
+#include <filesystem>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace brx::server {
@@ -90,11 +92,28 @@ bool is_taken(const wchar_t* name) {
     return false;
 }
 
-/// Whether the interfaces are another program's to install.
+/// What is no full path may be found anywhere.
+bool is_gone(const std::wstring& path) {
+    std::error_code failure;
+    return std::filesystem::path(path).is_absolute() && !std::filesystem::exists(path, failure) && !failure;
+}
+
+/// The file that a library lies in: a number behind it says which one of those inside.
+std::wstring file_of_library(const std::wstring& path) {
+    const std::size_t name = path.find_last_of(L'\\') + 1;
+    const bool is_number =
+        name > 0 && name < path.size() && path.find_first_not_of(L"0123456789", name) == std::wstring::npos;
+    return is_number ? path.substr(0, name - 1) : path;
+}
+
+/// Whether the interfaces are another program's to install: one that is there, and is not this one in the
+/// folder where it lay before.
 bool has_other_library(HKEY root) {
     const Entry ours = library_entry();
     const std::wstring path = registry_text(root, ours.place);
-    return !path.empty() && !is_same(path, ours.text);
+    if (path.empty() || is_same(path, ours.text)) return false;
+    if (is_same(L"\"" + path + L"\"", registry_text(root, server_entry().place))) return false;
+    return !is_gone(file_of_library(path));
 }
 
 void remove(HKEY root, const Entries& entries) {
