@@ -15,6 +15,8 @@ const wchar_t* const wrapper_class = L"OPC.Automation";
 constexpr HRESULT call_not_executed = HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE);
 constexpr int tries_to_create = 5;
 
+} // namespace
+
 com_ptr<IOPCAutoServer> a_server_there() {
     CLSID clsid{};
     check(CLSIDFromProgID(wrapper_class, &clsid));
@@ -30,8 +32,6 @@ com_ptr<IOPCAutoServer> a_server_there() {
     check(created);
     return server;
 }
-
-} // namespace
 
 ApartPlay::ApartPlay(const std::wstring& switches, const std::string& program_id) : program_id_(program_id) {
     start(switches);

@@ -13,6 +13,9 @@
 
 namespace brx::checks {
 
+/// An object of the server program that runs, not connected.
+com_ptr<IOPCAutoServer> a_server_there();
+
 /// A story whose OPC server is another process: the objects of the host are as ever, but its connection, the
 /// group and the connection that lists servers are the system's proxies of objects there.
 class ApartPlay {

@@ -102,7 +102,7 @@ ServerProgram::ServerProgram(const std::wstring& switches) {
 }
 
 ServerProgram::~ServerProgram() {
-    PostMessageW(window(), WM_CLOSE, 0, 0);
+    close_window();
     if (!has_ended()) TerminateProcess(process_.hProcess, 99);
     close(process_);
     std::error_code ignored;

@@ -47,6 +47,9 @@ public:
     void suspend() { for_each_thread(SuspendThread); }
     void resume() { for_each_thread(ResumeThread); }
 
+    /// What a person does who closes its window.
+    void close_window() const { PostMessageW(window(), WM_CLOSE, 0, 0); }
+
     /// Whether it has come to its end; looks for a while.
     bool has_ended(DWORD milliseconds = 5'000) const;
 

@@ -54,8 +54,22 @@ HRESULT Calls::QueryInterface(REFIID iid, void** object) {
     return S_OK;
 }
 
-DWORD Calls::HandleInComingCall(DWORD, HTASK, DWORD, INTERFACEINFO* info) {
-    const std::wstring& name = name_of(*info);
+void Calls::window_is_gone() {
+    window = nullptr;
+    switches.hold = false;
+    switches.delay = 0;
+}
+
+DWORD Calls::HandleInComingCall(DWORD, HTASK, DWORD, INTERFACEINFO* info) noexcept {
+    try {
+        return answer_to(*info);
+    } catch (...) {
+        return SERVERCALL_ISHANDLED; // uncounted, but what is asked for can still be had
+    }
+}
+
+DWORD Calls::answer_to(const INTERFACEINFO& call) {
+    const std::wstring& name = name_of(call);
     if (name.empty()) return SERVERCALL_ISHANDLED;
     if (tries_ < switches.turn_away) {
         ++tries_;

@@ -23,6 +23,8 @@ public:
     Switches switches;
     /// Whose messages are served while a call is delayed; no other message is, for it could be the next call.
     HWND window = nullptr;
+    /// Of the window: nobody could let a call go on any more that is held back.
+    void window_is_gone();
     /// The class under which clients find the program; 0 for none.
     DWORD offered = 0;
 
@@ -34,11 +36,12 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK caller, DWORD ticks,
-                                               INTERFACEINFO* info) override;
+                                               INTERFACEINFO* info) noexcept override;
     DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK, DWORD, DWORD) override { return static_cast<DWORD>(-1); }
     DWORD STDMETHODCALLTYPE MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
 
 private:
+    DWORD answer_to(const INTERFACEINFO& call);
     /// "" of what is no call to the plant.
     const std::wstring& name_of(const INTERFACEINFO& info);
     [[noreturn]] void end_the_program() const;

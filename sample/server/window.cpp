@@ -96,6 +96,7 @@ LRESULT Window::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     }
     case WM_DESTROY:
         sample::forget_name(window_);
+        calls_.window_is_gone();
         PostQuitMessage(0);
         return 0;
     default:
