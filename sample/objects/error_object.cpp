@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/dual.h"
+#include "common/trap.h"
 #include "host/words.h"
 #include "objects/site.h"
 
@@ -14,14 +15,36 @@ namespace {
 
 constexpr int text_in_box = 0xFFFF;
 
-/// An error while its box is open.
-struct OpenBox {
-    const ReportedError& error;
-    const std::string text;
-    HWND window = nullptr;
-    OpenBox* outer;
-};
+LRESULT CALLBACK find_box(int code, WPARAM wparam, LPARAM lparam);
+
+class OpenBox;
 thread_local OpenBox* innermost = nullptr;
+
+/// An error from when its box is about to open until it has closed, or has not opened.
+class OpenBox {
+public:
+    explicit OpenBox(const ReportedError& of)
+        : error(of),
+          outer(innermost),
+          hook_(SetWindowsHookExW(WH_CBT, find_box, nullptr, GetCurrentThreadId())) {
+        innermost = this;
+    }
+    OpenBox(const OpenBox&) = delete;
+    OpenBox& operator=(const OpenBox&) = delete;
+    ~OpenBox() {
+        UnhookWindowsHookEx(hook_);
+        innermost = outer;
+        attempt([&] { site().errors.box_closed(error, seconds()); });
+    }
+
+    const ReportedError& error;
+    std::string text;
+    HWND window = nullptr;
+    OpenBox* const outer;
+
+private:
+    HHOOK hook_;
+};
 
 /// The last line is kept free for how many more like it came: a box never grows.
 std::string text_of(const OpenBox& box) {
@@ -35,14 +58,13 @@ LRESULT CALLBACK find_box(int code, WPARAM wparam, LPARAM lparam) {
     return CallNextHookEx(nullptr, code, wparam, lparam);
 }
 
-void tell_in_box(const ReportedError& error, const std::string& text) {
-    OpenBox box{error, text, nullptr, innermost};
-    innermost = &box;
-    const HHOOK hook = SetWindowsHookExW(WH_CBT, find_box, nullptr, GetCurrentThreadId());
+void tell_in_box(const ReportedError& error, BSTR source, BSTR application) {
+    OpenBox box(error);
+    box.text = error.description + " (error " + number_in_words(error.number) +
+               ")\r\n\r\nLocation: " + error.location + "\r\nSource: " + brx::text_of(source) +
+               "\r\nReported by: " + brx::text_of(application);
     MessageBoxW(GetActiveWindow(), wide(text_of(box)).c_str(), L"Unexpected Error",
                 MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
-    UnhookWindowsHookEx(hook);
-    innermost = box.outer;
 }
 
 void count_in_box(const ReportedError& error) {
@@ -57,10 +79,7 @@ public:
         return guard(__uuidof(Interface), [&] {
             const ReportedError error{number, brx::text_of(description), brx::text_of(location)};
             if (!site().errors.add(error, seconds())) return count_in_box(error);
-            tell_in_box(error, error.description + " (error " + number_in_words(number) +
-                                   ")\r\n\r\nLocation: " + error.location + "\r\nSource: " +
-                                   brx::text_of(source) + "\r\nReported by: " + brx::text_of(application));
-            site().errors.box_closed(error, seconds());
+            tell_in_box(error, source, application);
         });
     }
 };
