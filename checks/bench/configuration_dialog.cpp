@@ -2,6 +2,7 @@
 
 #include "bench/component.h"
 #include "bench/configuration_floor.h"
+#include "bench/timer_watch.h"
 #include "bench/when_idle.h"
 
 #include "com/failure.h"
@@ -42,30 +43,6 @@ public:
 
 private:
     HWND window_;
-};
-
-/// Notes the number of the timer whose messages a window gets.
-class TimerWatch {
-public:
-    TimerWatch() : hook_(SetWindowsHookExW(WH_GETMESSAGE, note, nullptr, GetCurrentThreadId())) {
-        seen_ = {};
-    }
-    ~TimerWatch() { UnhookWindowsHookEx(hook_); }
-    TimerWatch(const TimerWatch&) = delete;
-    TimerWatch& operator=(const TimerWatch&) = delete;
-
-    /// 0 while none came.
-    static WPARAM timer_of(HWND window) { return seen_.hwnd == window ? seen_.wParam : 0; }
-
-private:
-    static LRESULT CALLBACK note(int code, WPARAM wparam, LPARAM lparam) {
-        const MSG& message = *reinterpret_cast<const MSG*>(lparam);
-        if (code == HC_ACTION && message.message == WM_TIMER && message.hwnd) seen_ = message;
-        return CallNextHookEx(nullptr, code, wparam, lparam);
-    }
-
-    static inline MSG seen_{};
-    HHOOK hook_;
 };
 
 /// Counts the messages that reach a window, until the end.

@@ -15,6 +15,7 @@
 #include "bench/floor.h"
 #include "bench/item_browser.h"
 #include "bench/openings.h"
+#include "bench/walk.h"
 
 #include "com/module.h"
 

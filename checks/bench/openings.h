@@ -20,9 +20,6 @@ struct Template {
     std::vector<Part> controls;
 };
 
-/// The dialogs by their names.
-const std::vector<std::string>& dialogs();
-
 /// From `Show`, or from the press of the button that opens it, to the dialog that waits for input. Throws
 /// when it does not open.
 Opening open_dialog(const std::string& name);

@@ -88,6 +88,12 @@ public:
     void during(const std::string& member, std::function<void()> deed) { during_[member] = std::move(deed); }
 
     const std::vector<HostCall>& made() const { return made_; }
+    /// For a host that lasts: as if nothing had been called yet.
+    void forget() {
+        made_.clear();
+        fail_at_ = 0;
+        deed_at_ = 0;
+    }
     std::vector<std::string> members() const {
         std::vector<std::string> members;
         for (const HostCall& call : made_) members.push_back(call.member);

@@ -90,6 +90,7 @@ ObjectPtr FakeHost::make(const std::string& name) {
 }
 
 ObjectPtr FakeHost::remembered(const ObjectPtr& fresh) {
+    std::erase_if(created_, [](const auto& created) { return created.expired(); });
     created_.push_back(fresh);
     return fresh;
 }

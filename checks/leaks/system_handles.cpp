@@ -11,8 +11,12 @@ namespace {
 
 constexpr std::size_t handful = 64;
 
-/// The index in a handle: its low 16 bits.
-int index_of(HANDLE handle) { return static_cast<int>(reinterpret_cast<ULONG_PTR>(handle) & 0xFFFFU); }
+/// The index in a handle of a window or a pen: its low 16 bits.
+template <class Handle> int index_of(Handle handle) {
+    return static_cast<int>(reinterpret_cast<ULONG_PTR>(handle) & 0xFFFFU);
+}
+/// In one of the kernel's, which are all multiples of four.
+template <> int index_of(HANDLE handle) { return static_cast<int>(reinterpret_cast<ULONG_PTR>(handle) / 4); }
 
 template <class Handle, class Create, class Destroy> int highest_index(Create&& create, Destroy&& destroy) {
     std::vector<Handle> taken;
@@ -36,6 +40,8 @@ SystemHandles system_handles() {
         },
         DestroyWindow);
     handles.gdi = highest_index<HPEN>([] { return CreatePen(PS_SOLID, 1, RGB(1, 2, 3)); }, DeleteObject);
+    handles.kernel =
+        highest_index<HANDLE>([] { return CreateEventW(nullptr, FALSE, FALSE, nullptr); }, CloseHandle);
     return handles;
 }
 

@@ -7,6 +7,7 @@ namespace brx::checks {
 struct SystemHandles {
     int user = 0;
     int gdi = 0;
+    int kernel = 0;
 };
 
 /// Measured by taking a handful of handles for a moment, because not every system counts them for a program.
