@@ -3,7 +3,7 @@
 // is.
 //
 //   brx_bench                     prints the table
-//   brx_bench items|configuration|openings
+//   brx_bench items|finding|configuration|openings
 //                                 prints the lines about one dialog, or about opening each of them
 //   brx_bench --open NAME         opens a dialog once, for a profiler
 //   brx_bench --bytes N           prints the private bytes that N leaves take in the dialog; a process of its
@@ -12,6 +12,7 @@
 #include "bench/comparison.h"
 #include "bench/configuration_dialog.h"
 #include "bench/configuration_floor.h"
+#include "bench/find_line.h"
 #include "bench/floor.h"
 #include "bench/item_browser.h"
 #include "bench/openings.h"
@@ -92,6 +93,14 @@ void measure_items(Table& table) {
     });
 }
 
+/// In the line in which an item is found.
+void measure_finding(Table& table) {
+    table.measure(1, [] {
+        const Answers answers = find_leaves(1'000'000, 15);
+        print_line("a key among 1,000,000 leaves", answers.passes, answers.keys, 1.25);
+    });
+}
+
 void measure_configuration(Table& table) {
     const auto load = [](const char* what, const Holdings& holdings) {
         const Comparison loads(list_configuration, open_configuration, holdings, Holdings{}, 15);
@@ -127,8 +136,10 @@ void measure_openings(Table& table) {
         });
 }
 
-const std::map<std::string, void (*)(Table&)> subjects = {
-    {"items", measure_items}, {"configuration", measure_configuration}, {"openings", measure_openings}};
+const std::map<std::string, void (*)(Table&)> subjects = {{"items", measure_items},
+                                                          {"finding", measure_finding},
+                                                          {"configuration", measure_configuration},
+                                                          {"openings", measure_openings}};
 
 /// Of one subject, or of all.
 int print_table(const std::string& wanted) {
@@ -157,7 +168,7 @@ int main(int argc, char** argv) {
             std::printf("%zu\n", bytes_of(std::stoi(arguments[1])));
             status = EXIT_SUCCESS;
         } else {
-            std::fprintf(stderr, "brx_bench [items|configuration|openings|--open NAME|--bytes N]\n");
+            std::fprintf(stderr, "brx_bench [items|finding|configuration|openings|--open NAME|--bytes N]\n");
         }
     } catch (const std::exception& error) {
         std::fprintf(stderr, "brx_bench: %s\n", error.what());
