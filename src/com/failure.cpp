@@ -74,7 +74,8 @@ void check(HRESULT result, IUnknown* object, REFIID iid) {
 
 void check_call(HRESULT result, IUnknown* object, REFIID iid) {
     // Cancelled, or turned away and not tried again.
-    if (result == RPC_E_CALL_CANCELED || result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER)
+    if (result == RPC_E_CALL_CANCELED || result == RPC_E_CALL_REJECTED ||
+        result == RPC_E_SERVERCALL_RETRYLATER)
         call_gate::expect_no_stop();
     check(result, object, iid);
 }

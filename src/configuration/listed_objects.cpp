@@ -6,8 +6,8 @@ namespace brx {
 
 namespace {
 
-/// When `step` fails the host may have done it all the same: then it is looked again. A call that was not made
-/// leaves no doubt.
+/// When `step` fails the host may have done it all the same: then it is looked again. A call that was not
+/// made leaves no doubt.
 void in_doubt(const std::function<void()>& step, const std::function<void()>& look_again) {
     try {
         step();
