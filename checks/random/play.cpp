@@ -35,7 +35,15 @@ void end_if_it_hangs() {
 #endif
 }
 
+/// Looking for lost memory takes its time.
+void nothing_hangs_now() {
+#ifndef _WIN32
+    alarm(0);
+#endif
+}
+
 void look_for_lost_memory() {
+    nothing_hangs_now();
 #ifdef __SANITIZE_ADDRESS__
     if (__lsan_do_recoverable_leak_check() != 0) throw Finding("lost memory", "");
 #endif

@@ -111,6 +111,7 @@ bool Sitting::person_does(const Deed& deed) {
     case Verb::copies:
         return at.copy(deed.text);
     case Verb::hits:
+        if (static_cast<Key>(deed.number) == Key::escape) disturbance_.stopped = true;
         return at.key(static_cast<Key>(deed.number));
     case Verb::uses_accelerator:
         return at.accelerator(deed.text.empty() ? 'a' : deed.text.front());
@@ -122,6 +123,7 @@ bool Sitting::person_does(const Deed& deed) {
         return at.pass_ticks(deed.number), true;
     case Verb::stops:
         stage_->pass(until_the_waiting_shows);
+        disturbance_.stopped = true;
         return at.stop();
     default:
         return false;

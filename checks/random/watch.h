@@ -15,6 +15,7 @@ class FakeHost;
 struct Disturbance {
     int failures = 0;            ///< calls that failed because a deed said so
     bool by_a_person = false;    ///< who did something meanwhile
+    bool stopped = false;        ///< ever, perhaps, by a person; also what goes on after a message
     bool strange_answer = false; ///< ever
 };
 
@@ -30,7 +31,7 @@ public:
     void look_at_the_end();
 
 private:
-    void look_at_reports();
+    void look_at_reports(bool stopped);
     void look_at_failures(bool exactly);
     void look_at_objects(const Disturbance& disturbance);
 
