@@ -1,3 +1,4 @@
+#include "common/call_gate.h"
 #include "common/locales.h"
 #include "forms/headless/engine.h"
 #include "forms/parted_tick.h"
@@ -6,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <vector>
 
 using namespace brx;
 using namespace brx::checks;
@@ -104,6 +106,54 @@ TEST_F(WorkOf, EachHandlerBeginsWithNothingStoppedAndNothingTold) {
     EXPECT_FALSE(work.is_stopped());
     EXPECT_EQ(told_what(work.report()), "Waiting for the server");
     EXPECT_EQ(told_how_far(work.report(), Locale{}), "0 s");
+}
+
+TEST_F(WorkOf, ADialogThatAnUndoingCallShowsObeysAStopItself) {
+    const Work::Scope scope(work);
+    const call_gate::Undoing undoing;
+    {
+        const Work::Pause pause;
+        const Work::Scope of_the_dialog(work);
+        work.pass(milliseconds(1000));
+        work.stop();
+        EXPECT_THROW(call_gate::pass(), Stopped);
+    }
+    work.pass(milliseconds(1000));
+    work.stop();
+    EXPECT_NO_THROW(call_gate::pass()) << "What is undone is undone.";
+}
+
+TEST_F(WorkOf, AListEndsBeforeTheNextLineWhenThatIsWanted) {
+    const Work::Scope scope(work);
+    std::vector<int> visited;
+    const auto visit = [&](int i) {
+        visited.push_back(i);
+        if (i == 2) work.leave();
+    };
+    EXPECT_EQ(work.each(4, visit), 2);
+    EXPECT_EQ(visited, (std::vector<int>{1, 2}));
+    EXPECT_EQ(work.report().done, 2);
+    EXPECT_EQ(work.report().total, 4);
+    EXPECT_THROW(work.all(4, visit), Left);
+    EXPECT_THROW(work.first_of(4, [](int) { return true; }), Left);
+    work.stop();
+    EXPECT_THROW(work.expect_no_stop(), Stopped);
+    EXPECT_EQ(work.each(4, visit), 0);
+    EXPECT_EQ(visited.size(), 2U);
+}
+
+TEST_F(WorkOf, AStopThatCameAtTheLastLineLeavesTheListWhole) {
+    const Work::Scope scope(work);
+    EXPECT_NO_THROW(work.all(2, [&](int i) {
+        if (i == 2) work.stop();
+    }));
+}
+
+TEST_F(WorkOf, WhoLeavesWhatSheHasStoppedHasStoppedIt) {
+    const Work::Scope scope(work);
+    work.stop();
+    work.leave();
+    EXPECT_TRUE(Work::refuses_calls());
 }
 
 TEST_F(WorkOf, IsToldWithTheUsersSignBetweenThousands) {

@@ -1,5 +1,10 @@
 #include "calls.h"
 #include "configuring.h"
+#include "testing.h"
+
+#include <functional>
+#include <map>
+#include <string>
 
 // What becomes of the lists of a configuration when a person does not want to wait for them.
 
@@ -128,6 +133,39 @@ SCENARIO(StoppedLists, WhoeverClosesTheDialogWaitsForNoFurtherTest) {
     its.person.is_at("");
     EXPECT_EQ(its.host.calls.count("hlxOPCTests.Item"), read_by_then);
     EXPECT_EQ(its.host.calls.count("hlxOPCConfiguration.Name="), 1) << "Close keeps what it keeps.";
+}
+
+SCENARIO(StoppedLists, WhoeverCancelsWaitsForNoFurtherServer) {
+    for (const char* name : {"Matrix", "Sim", "Line"}) its.host.servers->has(name);
+    const std::map<std::string, std::function<bool()>> ways = {
+        {"PC7", [&] { return its.person.screen().press("bnCancel"); }},
+        {"PC8", [&] { return its.person.screen().accelerator('c'); }},
+    };
+    for (const auto& [node, cancel] : ways) {
+        its.host.servers_on(node, {"Sim"});
+        Showing select(*its.stage, "ServerSelect");
+        select.show(its.host.servers);
+        its.person.presses("bnServer");
+        its.person.enters("txtNode", node);
+        its.person.presses("cmdRefreshList");
+        its.person.picks("lstOPCServers", "Sim");
+        its.host.calls.during("hlxOPCServer.Node", cancel);
+        const int read_before = its.host.calls.count("hlxOPCServer.Node");
+        its.person.presses("bnOK");
+        its.person.is_at("");
+        EXPECT_EQ(its.host.calls.count("hlxOPCServer.Node"), read_before + 1);
+        EXPECT_FALSE(select.result());
+    }
+}
+
+SCENARIO(StoppedLists, WhoeverCancelsWaitsForNoFurtherTestOfTheCharacteristic) {
+    three_tests(its);
+    Testing testing(its, its.host.has_test(0, ""));
+    its.host.calls.during("hlxOPCTests.Item", [&] { its.person.screen().press("bnCancel"); });
+    testing.picks_characteristic(8, "Width");
+    its.person.is_at("");
+    EXPECT_EQ(its.host.calls.count("hlxOPCTests.Item"), 1);
+    EXPECT_FALSE(testing.result());
 }
 
 SCENARIO(StoppedLists, WhatIsWaitedForIsTold) {

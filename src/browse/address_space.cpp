@@ -45,10 +45,10 @@ bool tells_of_a_lost_server(std::int32_t number) {
 bool dlgItemSelect::is_placeholder(const TreeNode& node) { return to_upper(node.text()) == "XXX"; }
 
 void dlgItemSelect::ConnectServer() {
-    reads("ConnectServer", "groups", "Refresh", [&] {
+    reads("ConnectServer", groups_part, [&] {
         const BusyCursor busy(*this);
         work().waits_for("Reading the groups of " + server_title_);
-        note("", "");
+        note_of_groups("");
         TrView.clear();
         lstItem.clear();
         set_path("");
@@ -83,7 +83,7 @@ void dlgItemSelect::show_browsing() {
 }
 
 void dlgItemSelect::BuildGroupList() {
-    reads("BuildGroupList", "groups", "Refresh", [&] {
+    reads("BuildGroupList", groups_part, [&] {
         if (!browser_) return;
         const bool flat = browser_->Organization() == flat_organization;
         TrView.set_visible(!flat);
@@ -92,15 +92,12 @@ void dlgItemSelect::BuildGroupList() {
         browser_->ShowBranches();
         const std::int32_t count = browser_->Count();
         if (count < 1) return GetAllLeaves();
-        work().counts_to(count);
-        for (std::int32_t i = 1; i <= count; ++i) {
-            if (work().is_stopped()) return note(stopped_after(i - 1, count, "groups", "Refresh"), "");
-            work().has_done(i - 1);
+        read_each(groups_part, count, [&](std::int32_t i) {
             const std::string name = browser_->Item(i);
             TreeNode& node = TrView.add(name, name);
             node.set_tag(name);
             TrView.add_child(node, "", "xxx");
-        }
+        });
     });
 }
 
@@ -116,10 +113,10 @@ void dlgItemSelect::TrView_Expand(TreeNode& Node) {
 }
 
 void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
-    reads("BuildNodes", "groups", "Refresh", [&] {
+    reads("BuildNodes", groups_part, [&] {
         lstItem.clear();
         set_path("");
-        note(groups_notice_, "");
+        note_of_items("");
         const StringArray branches = branches_of(ParentKey);
         if (!browser_) return;
         work().waits_for("Reading branch " + ParentKey + " of " + server_title_);
@@ -137,16 +134,13 @@ void dlgItemSelect::BuildNodes(const std::string& ParentKey, int ParentIndex) {
             return;
         }
         TreeNode& parent = TrView.node(ParentKey);
-        work().counts_to(count);
-        for (std::int32_t i = 1; i <= count; ++i) {
-            if (work().is_stopped()) return note(stopped_after(i - 1, count, "groups", "Refresh"), "");
-            work().has_done(i - 1);
+        read_each(groups_part, count, [&](std::int32_t i) {
             const std::string name = browser_->Item(i);
             const std::string key = parent.tag() + "." + name;
             TreeNode& node = TrView.add_child(parent, key, name);
             node.set_tag(key);
             TrView.add_child(node, "", "XXX");
-        }
+        });
     });
 }
 
@@ -162,23 +156,23 @@ void dlgItemSelect::TrView_Click() {
 }
 
 void dlgItemSelect::BuildLeaves(const std::string& Key, int) {
-    reads("BuildLeaves", "items", "a click on the group", [&] {
+    reads("BuildLeaves", items_of_group, [&] {
         if (work().is_stopped()) return; // what the same click has read so far stays
         lstItem.clear();
         set_path("");
-        note(groups_notice_, "");
+        note_of_items("");
         const StringArray branches = branches_of(Key);
         if (!browser_) return;
         work().waits_for("Reading branch " + Key + " of " + server_title_);
         browser_->MoveToRoot();
         ignoring([&] { browser_->MoveTo(branches); });
         ignoring([&] { browser_->ShowLeafs(false); });
-        list_items(browser_->Count(), "a click on the group");
+        list_items(items_of_group, browser_->Count());
     });
 }
 
 void dlgItemSelect::GetAllLeaves() {
-    reads("GetAllLeaves", "items", "Refresh", [&] {
+    reads("GetAllLeaves", all_items, [&] {
         lstItem.clear();
         if (!browser_) return;
         work().waits_for("Reading all items of " + server_title_);
@@ -186,35 +180,36 @@ void dlgItemSelect::GetAllLeaves() {
         browser_->ShowLeafs(true);
         const std::int32_t count = browser_->Count();
         if (count > 0) TrView.set_visible(false);
-        list_items(count, "Refresh");
+        list_items(all_items, count);
     });
 }
 
-void dlgItemSelect::list_items(std::int32_t count, const char* again) {
-    Work& reading = work();
-    reading.counts_to(count);
+void dlgItemSelect::list_items(const Part& part, std::int32_t count) {
     std::string name;
-    for (std::int32_t i = 1; i <= count; ++i) {
-        if (reading.is_stopped()) return note(groups_notice_, stopped_after(i - 1, count, "items", again));
-        reading.has_done(i - 1);
+    read_each(part, count, [&](std::int32_t i) {
         browser_->read_item(i, name);
         hlxListTools::add(lstItem, name);
-    }
+    });
 }
 
-void dlgItemSelect::reads(const char* procedure, const std::string& what, const std::string& again,
-                          const std::function<void()>& body) {
+void dlgItemSelect::reads(const char* procedure, const Part& part, const std::function<void()>& body) {
     trap(procedure, [&] {
         try {
             body();
         } catch (const Stopped&) {
-            const std::string notice = "Reading was stopped. To read the " + what + ": " + again + ".";
-            if (what == "groups")
-                note(notice, "");
-            else
-                note(groups_notice_, notice);
+            note_of(part,
+                    std::string("Reading was stopped. To read the ") + part.of + ": " + part.again + ".");
         }
     });
+}
+
+void dlgItemSelect::read_each(const Part& part, std::int32_t count,
+                              const std::function<void(std::int32_t)>& step) {
+    const int read = work().each(count, step);
+    if (read >= count) return;
+    const Locale& locale = environment().locale;
+    note_of(part, "Reading was stopped at " + grouped(read, locale) + " of " + grouped(count, locale) + " " +
+                      part.of + ". To read them all: " + part.again + ".");
 }
 
 void dlgItemSelect::ignoring(const std::function<void()>& step) {
@@ -224,21 +219,26 @@ void dlgItemSelect::ignoring(const std::function<void()>& step) {
             step();
         } catch (const Error& error) {
             if (!work().is_stopped() && tells_of_a_lost_server(error.number()))
-                note(groups_notice_, "The server does not answer: " + error.description());
+                note_of_items("The server does not answer: " + error.description());
         }
     });
 }
 
-void dlgItemSelect::note(const std::string& of_groups, const std::string& of_items) {
-    groups_notice_ = of_groups;
-    const char* const between = of_groups.empty() || of_items.empty() ? "" : "  ";
-    lblNotice.set_caption(of_groups + between + of_items);
+void dlgItemSelect::note_of_groups(const std::string& notice) {
+    groups_notice_ = notice;
+    note_of_items("");
 }
 
-std::string dlgItemSelect::stopped_after(int read, int of_all, const char* what, const char* again) const {
-    const Locale& locale = environment().locale;
-    return "Reading was stopped at " + grouped(read, locale) + " of " + grouped(of_all, locale) + " " + what +
-           ". To read them all: " + again + ".";
+void dlgItemSelect::note_of_items(const std::string& notice) {
+    const char* const between = groups_notice_.empty() || notice.empty() ? "" : "  ";
+    lblNotice.set_caption(groups_notice_ + between + notice);
+}
+
+void dlgItemSelect::note_of(const Part& part, const std::string& notice) {
+    if (&part == &groups_part)
+        note_of_groups(notice);
+    else
+        note_of_items(notice);
 }
 
 } // namespace brx

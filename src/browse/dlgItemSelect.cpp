@@ -51,16 +51,12 @@ bool dlgItemSelect::SearchForPath(bool SelectFlag) {
             browser_->MoveToRoot();
             browser_->ShowLeafs(true);
             const std::int32_t count = browser_->Count();
-            work().counts_to(count);
-            for (std::int32_t i = 1; i <= count; ++i) {
-                work().has_done(i - 1);
-                if (SelectFlag) return set_path(leaf_);
-                if (!equal_ignoring_case(browser_->Item(i), leaf_)) continue;
-                found = true;
-                return;
-            }
+            if (SelectFlag && count > 0) return set_path(leaf_);
+            found = work().first_of(count, [&](std::int32_t i) {
+                return equal_ignoring_case(browser_->Item(i), leaf_);
+            }) != 0;
         } catch (const Stopped&) {
-            note(groups_notice_, "Looking for " + leaf_ + " was stopped.");
+            note_of_items("Looking for " + leaf_ + " was stopped.");
         }
     });
     return found;

@@ -123,16 +123,25 @@ private:
 
     void show_nothing_to_browse();
     void show_browsing();
-    /// `again`: how they are read again when that is stopped.
-    void list_items(std::int32_t count, const char* again);
-    /// A procedure that reads the address space: when that is stopped before there is anything of it, this is
-    /// told of, and how it is read again.
-    void reads(const char* procedure, const std::string& what, const std::string& again,
-               const std::function<void()>& body);
+    /// A part of the address space that is read at one go.
+    struct Part {
+        const char* of;    ///< what it consists of
+        const char* again; ///< how a person has it read again
+    };
+    static constexpr Part groups_part = {"groups", "Refresh"};
+    static constexpr Part items_of_group = {"items", "a click on the group"};
+    static constexpr Part all_items = {"items", "Refresh"};
+    /// A procedure that reads it. When that is stopped before there is anything of it, this is told of.
+    void reads(const char* procedure, const Part& part, const std::function<void()>& body);
+    /// Goes through it, and tells of it when that is stopped.
+    void read_each(const Part& part, std::int32_t count, const std::function<void(std::int32_t)>& step);
+    void list_items(const Part& part, std::int32_t count);
     /// A step whose error is ignored, but for telling that the server does not answer.
     void ignoring(const std::function<void()>& step);
-    void note(const std::string& of_groups, const std::string& of_items);
-    std::string stopped_after(int read, int of_all, const char* what, const char* again) const;
+    /// Nothing is known of the items then.
+    void note_of_groups(const std::string& notice);
+    void note_of_items(const std::string& notice);
+    void note_of(const Part& part, const std::string& notice);
     void set_path(const std::string& text);
 
     OPCServerPtr server_;

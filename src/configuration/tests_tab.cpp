@@ -12,10 +12,7 @@ void dlgConfiguration::AddToList() {
         work().go_on_with("Reading the tests of " + txtName.text());
         const hlxOPCTestsPtr tests = the(configuration_).Tests();
         const std::int32_t count = the(tests).Count();
-        work().counts_to(count);
-        for (std::int32_t position = 1; position <= count; ++position) {
-            work().expect_no_stop();
-            work().has_done(position - 1);
+        work().all(count, [&](std::int32_t position) {
             const hlxOPCTestPtr test = tests->Item(position);
             const std::string name = the(test).CharacteristicName();
             ListedObjects::draft(rows, [&](RowDraft& row) {
@@ -30,7 +27,7 @@ void dlgConfiguration::AddToList() {
                 for (const int column : {0, 2, 3})
                     row.set_look(column, {.bold = true, .fore_color = color::red});
             });
-        }
+        });
     });
 }
 

@@ -40,7 +40,11 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
     const CodeTurn code;
     const Work::Pause others; // of a dialog from whose handler the host shows this one
     // Not on the stack, which goes at once when the host ends the thread in one of its objects.
-    const auto surroundings = std::make_unique<Surroundings>();
+    std::unique_ptr<Surroundings> surroundings;
+    if (!attempt([&] { surroundings = std::make_unique<Surroundings>(); })) {
+        if (result) *result = VARIANT_FALSE; // without memory there is nothing to tell it with
+        return S_OK;
+    }
     Surroundings& here = *surroundings;
     const CallRetries retries([&work = here.engine.work()] { return work.is_stopped(); });
     bool outcome = false;

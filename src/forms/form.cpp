@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include "common/call_gate.h"
+#include "forms/accelerator.h"
 #include "forms/button.h"
 #include "forms/showing.h"
 
@@ -49,7 +50,7 @@ void Form::show_modal() {
 
 void Form::expect_still_wanted() {
     call_gate::pass();
-    if (work().is_stopped()) throw Left();
+    work().expect_no_stop();
 }
 
 void Form::load() {
@@ -136,6 +137,12 @@ template <class Test> Button* find_button(const std::vector<Control*>& controls,
 }
 
 } // namespace
+
+bool Form::letter_leaves(char letter) const {
+    const Accelerator found = accelerator_of(*this, letter);
+    const auto* button = dynamic_cast<const Button*>(found.control);
+    return button && found.alone && button->leaves();
+}
 
 Button* Form::default_button() const {
     return find_button(controls_, [](const Button& button) { return button.is_default(); });

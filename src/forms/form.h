@@ -77,6 +77,8 @@ public:
     class Button* cancel_button() const;
     /// Whether Escape is for leaving it by now, and for nothing else.
     virtual bool escape_leaves() const { return cancel_button() != nullptr; }
+    /// Whether Alt and this letter press a button that leaves it.
+    bool letter_leaves(char letter) const;
 
     /// A person closed the window by other means than a button.
     bool user_close();

@@ -27,7 +27,9 @@ void Work::waits_for(const std::string& what) {
 }
 
 void Work::expect_no_stop() {
-    if (is_stopped()) throw Stopped();
+    if (!is_stopped()) return;
+    if (wish_ == Wish::leave) throw Left();
+    throw Stopped();
 }
 
 void Work::go_on_with(const std::string& what) {
@@ -45,22 +47,23 @@ Work::Report Work::report() const {
             .done = done_,
             .total = total_,
             .lasted = lasted(),
-            .stopped = stopped_,
+            .wish = wish_,
+            .call_goes_on = call_goes_on_,
             .turn = turn_};
 }
 
 void Work::stop(unsigned turn) {
     const std::lock_guard lock(mutex_);
     if (!going_on_ || turn != turn_) return;
-    stopped_ = refuses_ = true;
+    wish_ = Wish::stop;
     is_seen();
-    break_off_call();
+    call_goes_on_ = !break_off_call();
 }
 
 void Work::leave() {
     const std::lock_guard lock(mutex_);
-    if (!going_on_) return;
-    stopped_ = true;
+    if (!going_on_ || wish_ == Wish::stop) return;
+    wish_ = Wish::leave;
     is_seen();
 }
 
@@ -70,10 +73,11 @@ void Work::is_seen() {
 
 void Work::forget() {
     if (is_seen_.exchange(false)) --call_gate::minded;
-    stopped_ = refuses_ = false;
+    wish_ = Wish::go_on;
+    call_goes_on_ = false;
 }
 
-bool Work::refuses_calls() { return running && running->is_stopped() && running->refuses_; }
+bool Work::refuses_calls() { return running && running->is_stopped() && running->wish_ == Wish::stop; }
 
 void Work::go_on(bool on) {
     {
@@ -101,27 +105,28 @@ Work::Scope::~Scope() {
 }
 
 Work::Pause::Pause(Afterwards afterwards)
-    : paused_(std::exchange(running, nullptr)), afterwards_(afterwards) {
+    : paused_(std::exchange(running, nullptr)),
+      undoes_(std::exchange(call_gate::is_wide_open, false)),
+      afterwards_(afterwards) {
     if (!paused_) return;
     paused_->go_on(false);
     const Report before = paused_->report();
     what_ = before.what;
     done_ = before.done;
     total_ = before.total;
-    stopped_ = before.stopped;
-    refuses_ = paused_->refuses_;
+    wish_ = before.wish;
 }
 
 Work::Pause::~Pause() {
     running = paused_;
+    call_gate::is_wide_open = undoes_;
     if (!paused_) return;
     paused_->waits_for(what_);
     paused_->done_ = done_;
     paused_->total_ = total_;
     paused_->forget();
-    if (stopped_ && afterwards_ == Afterwards::as_before) {
-        paused_->stopped_ = true;
-        paused_->refuses_ = refuses_;
+    if (wish_ != Wish::go_on && afterwards_ == Afterwards::as_before) {
+        paused_->wish_ = wish_;
         paused_->is_seen();
     }
     paused_->go_on(true);

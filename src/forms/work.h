@@ -4,6 +4,7 @@
 #include <chrono>
 #include <mutex>
 #include <string>
+#include <utility>
 
 namespace brx {
 
@@ -21,14 +22,22 @@ public:
     /// What nobody waits for in particular leaves the thread to a person by then.
     static constexpr Milliseconds long_for_a_tick{500};
 
+    /// What a person wants of it.
+    enum class Wish {
+        go_on,
+        leave, ///< what it is for: it need not go on, but no call fails for that
+        stop,  ///< it: the next call fails
+    };
+
     /// What there is to tell of it.
     struct Report {
         std::string what;      ///< is waited for, as a sentence without its full stop
         int done = 0;          ///< of `total`
         int total = 0;         ///< 0 where nobody knows
         Milliseconds lasted{}; ///< since it began, or went on after a person was asked something
-        bool stopped = false;
-        unsigned turn = 0; ///< which work of its thread it is, for `stop`
+        Wish wish = Wish::go_on;
+        bool call_goes_on = false; ///< at a stop: it could not be broken off
+        unsigned turn = 0;         ///< which work of its thread it is, for `stop`
     };
 
     Work();
@@ -40,15 +49,34 @@ public:
 
     /// From here on this is waited for.
     void waits_for(const std::string& what);
-    /// The same for a part of the work that a person who has stopped the last one does not wait for: throws
-    /// `Stopped` then.
+    /// The same for a part of the work that a person who has stopped the last one does not wait for.
     void go_on_with(const std::string& what);
     /// There is so much of it to be done, one after the other.
     void counts_to(int total) { done_ = 0, total_ = total; }
     void has_done(int count) { done_.store(count, std::memory_order_relaxed); }
+    /// Does it for 1 to `count`, as long as nobody wants it to end. Returns for how many it was done.
+    template <class Step> int each(int count, Step&& step) {
+        counts_to(count);
+        int done = 0;
+        for (; done < count && !is_stopped(); has_done(++done)) step(done + 1);
+        return done;
+    }
+    /// The same, and throws when it has ended before the last one.
+    template <class Step> void all(int count, Step&& step) {
+        if (each(count, std::forward<Step>(step)) < count) expect_no_stop();
+    }
+    /// The first of 1 to `count` that is sought, 0 for none. Throws when it has ended before.
+    template <class IsSought> int first_of(int count, IsSought&& is_sought) {
+        counts_to(count);
+        for (int i = 1; i <= count; ++i, has_done(i - 1)) {
+            expect_no_stop();
+            if (is_sought(i)) return i;
+        }
+        return 0;
+    }
     /// Whether a person wants it to end before its next call. What does not ask has its next call fail.
     bool is_stopped() { return is_seen_.load(std::memory_order_relaxed) && looks_for_stop(); }
-    /// Throws `Stopped` then.
+    /// Throws `Stopped` or `Left` then.
     void expect_no_stop();
     /// Whether a person has done something that waits for it to end.
     virtual bool keeps_a_person_waiting() { return false; }
@@ -101,8 +129,8 @@ public:
         std::string what_;
         int done_ = 0;
         int total_ = 0;
-        bool stopped_ = false;
-        bool refuses_ = false;
+        Wish wish_{};
+        bool undoes_;
         Afterwards afterwards_;
     };
 
@@ -111,9 +139,10 @@ protected:
     virtual void changed() {}
     /// A person sees it, and so can want it to end: asked before each call, which costs nothing before that.
     void is_seen();
-    virtual bool looks_for_stop() { return stopped_; }
-    /// Breaks off the call that is under way, where that can be done. The work does not end meanwhile.
-    virtual void break_off_call() {}
+    virtual bool looks_for_stop() { return wish_ != Wish::go_on; }
+    /// Breaks off the call that is under way. The work does not end meanwhile. False where that cannot be
+    /// done.
+    virtual bool break_off_call() { return true; }
 
 private:
     void go_on(bool on);
@@ -124,8 +153,8 @@ private:
     unsigned turn_ = 0;
     std::atomic<int> done_ = 0;
     std::atomic<int> total_ = 0;
-    std::atomic<bool> stopped_ = false;
-    std::atomic<bool> refuses_ = false; ///< calls, not only to go on
+    std::atomic<Wish> wish_ = Wish::go_on;
+    std::atomic<bool> call_goes_on_ = false;
     std::atomic<bool> is_seen_ = false;
     std::atomic<bool> going_on_ = false;
     std::atomic<Milliseconds> began_{};

@@ -122,12 +122,10 @@ std::optional<bool> dlgServerAdd::NotInColl(const hlxOPCServersPtr& servers) {
         work().waits_for("Looking whether " + server_name_ + " is there already");
         count_before_ = the(servers).Count();
         is_new = true;
-        work().counts_to(count_before_);
-        for (std::int32_t i = 1; i <= count_before_ && *is_new; ++i) {
-            work().has_done(i - 1);
-            trap("NotInColl", [&] { is_new = !is_chosen(the(the(servers).Item(i)), node); });
-            if (work().is_stopped()) return is_new.reset(); // and the dialog stays as it is
-        }
+        work().each(count_before_, [&](std::int32_t i) {
+            if (*is_new) trap("NotInColl", [&] { is_new = !is_chosen(the(the(servers).Item(i)), node); });
+        });
+        if (work().is_stopped()) is_new.reset(); // and the dialog stays as it is
     });
     return is_new;
 }

@@ -51,15 +51,13 @@ void dlgServerSelect::BuildList() {
         bnOK.set_enabled(false); // with no line selected there is nothing to confirm, whatever fails below
         work().waits_for("Reading the list of servers");
         const std::int16_t count = to_int16(the(servers_).Count());
-        work().counts_to(count);
-        for (std::int32_t i = 1; i <= count; ++i) {
-            work().has_done(i - 1);
+        work().all(count, [&](std::int32_t i) {
             const hlxOPCServerPtr entry = the(servers_).Item(i);
             const std::string node = the(entry).Node();
             const std::string server_name = the(entry).ServerName();
-            if (server_name.empty()) continue;
+            if (server_name.empty()) return;
             hlxListTools::add(cboServer, server_display_text(node, server_name), to_int16(i));
-        }
+        });
         if (selected_server_index_ != 0) hlxListTools::select_data(cboServer, selected_server_index_);
     });
 }

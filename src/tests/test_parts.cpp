@@ -43,12 +43,9 @@ bool dlgOPCTest::is_duplicate(std::int32_t id) {
     work().waits_for("Looking for other tests of the characteristic");
     const hlxOPCTestsPtr tests = the(test_).Parent();
     const std::int32_t count = the(tests).Count();
-    work().counts_to(count);
-    for (std::int32_t i = 1; i <= count; ++i) {
-        work().has_done(i - 1);
-        if (resolve<hlxTestData>(the(tests->Item(i)).TestData())->ID() == id) return true;
-    }
-    return false;
+    return work().first_of(count, [&](std::int32_t i) {
+        return resolve<hlxTestData>(the(tests->Item(i)).TestData())->ID() == id;
+    }) != 0;
 }
 
 hlxRecordPtr dlgOPCTest::GetTestGrp(std::int32_t id) {

@@ -146,7 +146,7 @@ bool HeadlessScreen::key(Key key) {
 }
 
 bool HeadlessScreen::accelerator(char letter) {
-    return deed([=, this] { return user_.accelerator(letter); });
+    return deed([=, this] { return user_.accelerator(letter); }, user_.letter_leaves(letter));
 }
 
 bool HeadlessScreen::close_box() {

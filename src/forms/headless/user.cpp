@@ -69,6 +69,8 @@ bool HeadlessUser::leaves(const std::string& name) const {
 
 bool HeadlessUser::escape_leaves() const { return form() && form()->escape_leaves(); }
 
+bool HeadlessUser::letter_leaves(char letter) const { return form() && form()->letter_leaves(letter); }
+
 bool HeadlessUser::click(const std::string& name) {
     Control* control = find(name);
     if (!control || !control->takes_input() || !control->shows()) return false;

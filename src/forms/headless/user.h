@@ -20,6 +20,7 @@ public:
     /// Whether a click on it leaves the form.
     bool leaves(const std::string& button) const;
     bool escape_leaves() const;
+    bool letter_leaves(char letter) const;
     bool click(const std::string& control);
     bool choose(const std::string& list, int line);
     bool double_click(const std::string& list, int line);

@@ -117,7 +117,7 @@ bool FormWindow::leaves(const MSG& held) const {
     case Input::closing:
         return true;
     case Input::key:
-        return held.message == WM_KEYDOWN && held.wParam == VK_ESCAPE && form_.escape_leaves();
+        return leaves_by_key(held);
     case Input::mouse:
         return held.message == WM_LBUTTONDOWN && std::ranges::any_of(form_.controls(), [&](Control* each) {
                    const auto* button = dynamic_cast<Button*>(each);
@@ -125,6 +125,22 @@ bool FormWindow::leaves(const MSG& held) const {
                });
     default:
         return held.message == WM_NCLBUTTONDOWN && held.wParam == HTCLOSE && held.hwnd == handle_;
+    }
+}
+
+/// The release of a letter tells of Alt and that letter as well: what waits in the queue is known by the
+/// first of its kind, and the first that is pressed is Alt itself.
+bool FormWindow::leaves_by_key(const MSG& held) const {
+    switch (held.message) {
+    case WM_KEYDOWN:
+        return held.wParam == VK_ESCAPE && form_.escape_leaves();
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+        if (held.wParam == VK_F4) return true;
+        return held.wParam >= '0' && held.wParam <= 'Z' &&
+               form_.letter_leaves(static_cast<char>(held.wParam));
+    default:
+        return false;
     }
 }
 

@@ -123,6 +123,7 @@ private:
     HWND window_of(const Control* focused) const;
     bool takes_key(const MSG& message);
     bool turn_tabs();
+    bool leaves_by_key(const MSG& held) const;
     bool take_accelerator(WPARAM character);
     bool take_shortcut(WPARAM key);
     void finish_typing();

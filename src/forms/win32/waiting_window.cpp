@@ -31,19 +31,18 @@ RECT at_scale(const RECT& place, unsigned dpi) {
             scaled(place.bottom, dpi)};
 }
 
-std::string sentence(const Work::Report& report, bool can_break_off) {
+std::string sentence(const Work::Report& report) {
     const std::string what = told_what(report) + ".";
-    if (!report.stopped) return what;
-    return what + (can_break_off ? "\nIt ends with the call that is under way."
-                                 : "\nThis call cannot be broken off: it ends when the server answers.");
+    if (report.wish == Work::Wish::go_on) return what;
+    return what + (report.call_goes_on ? "\nThis call cannot be broken off: it ends when the server answers."
+                                       : "\nIt ends with the call that is under way.");
 }
 
 } // namespace
 
-WaitingWindow::WaitingWindow(HWND over, const Locale& locale, bool can_break_off, std::function<void()> stop)
+WaitingWindow::WaitingWindow(HWND over, const Locale& locale, std::function<void()> stop)
     : over_(over),
       locale_(locale),
-      can_break_off_(can_break_off),
       stop_(std::move(stop)),
       dpi_(over ? dpi_of(over) : dpi_of(GetDesktopWindow())) {
     const LOGFONTW look = message_font(dpi_);
@@ -90,7 +89,7 @@ void WaitingWindow::write(int id, const std::string& text) const {
 
 void WaitingWindow::tell(const Work::Report& report) {
     if (!handle_) return;
-    write(what_part, sentence(report, can_break_off_));
+    write(what_part, sentence(report));
     write(how_far_part, told_how_far(report, locale_));
     const HWND bar = GetDlgItem(handle_, bar_part);
     ShowWindow(bar, report.total > 0 ? SW_SHOWNA : SW_HIDE);

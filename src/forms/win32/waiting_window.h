@@ -16,9 +16,8 @@ namespace brx {
 /// its own, to none of the dialog's windows, and takes no focus unless a person clicks it.
 class WaitingWindow {
 public:
-    /// `over` is the dialog, or what it will lie over, or null. `can_break_off`: whether Stop ends a call
-    /// that is under way.
-    WaitingWindow(HWND over, const Locale& locale, bool can_break_off, std::function<void()> stop);
+    /// `over` is the dialog, or what it will lie over, or null.
+    WaitingWindow(HWND over, const Locale& locale, std::function<void()> stop);
     ~WaitingWindow();
     WaitingWindow(const WaitingWindow&) = delete;
     WaitingWindow& operator=(const WaitingWindow&) = delete;
@@ -37,7 +36,6 @@ private:
     const VisualStyles styles_;
     HWND over_;
     const Locale& locale_;
-    bool can_break_off_;
     bool is_above_all_ = false;
     std::function<void()> stop_;
     unsigned dpi_;

@@ -3,6 +3,8 @@
 #include "common/trap.h"
 #include "forms/win32/dpi.h"
 
+#include <objbase.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -24,7 +26,8 @@ template <class Function> Function com_function(const char* name) {
                    : nullptr;
 }
 
-constexpr std::array<UINT, 4> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_CLOSE};
+constexpr std::array<UINT, 6> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN,
+                                               WM_SYSKEYUP,    WM_SYSCOMMAND,    WM_CLOSE};
 
 /// Takes it out of the queue, so that it does nothing else.
 bool take_escape() {
@@ -35,6 +38,18 @@ bool take_escape() {
         return false;
     return PeekMessageW(&key, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE) != FALSE;
 }
+
+/// For its lifetime a person sees what is waited for.
+class IsShown {
+public:
+    explicit IsShown(std::atomic<bool>& shown) : shown_(shown) { shown_ = true; }
+    ~IsShown() { shown_ = false; }
+    IsShown(const IsShown&) = delete;
+    IsShown& operator=(const IsShown&) = delete;
+
+private:
+    std::atomic<bool>& shown_;
+};
 
 } // namespace
 
@@ -57,7 +72,7 @@ WatchedWork::~WatchedWork() {
 void WatchedWork::changed() {
     if (is_going_on()) {
         over_ = ask_.window_in_front();
-        if (!thread_) {
+        if (!thread_ && woken_) {
             worker_thread_.reset(OpenThread(SYNCHRONIZE, FALSE, worker_));
             thread_.reset(CreateThread(nullptr, 0, thread, this, 0, nullptr));
         }
@@ -89,8 +104,14 @@ bool WatchedWork::keeps_a_person_waiting() {
     return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0 || ask_.holds_deeds();
 }
 
-void WatchedWork::break_off_call() {
-    if (const auto cancel = com_function<CancelCall>("CoCancelCall")) cancel(worker_, 0);
+bool WatchedWork::break_off_call() {
+    const auto cancel = com_function<CancelCall>("CoCancelCall");
+    if (!cancel) return false;
+    // The watching thread belongs to no apartment otherwise.
+    const HRESULT entered = CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    const HRESULT cancelled = cancel(worker_, 0);
+    if (SUCCEEDED(entered)) CoUninitialize();
+    return SUCCEEDED(cancelled) || cancelled == RPC_E_CALL_COMPLETE;
 }
 
 DWORD WINAPI WatchedWork::thread(void* self) noexcept {
@@ -129,9 +150,8 @@ bool WatchedWork::is_deserted() const {
 void WatchedWork::show_it() {
     const ScaleOf scale(over_);
     const unsigned turn = report().turn;
-    const bool can_break_off = com_function<CancelCall>("CoCancelCall") != nullptr;
-    WaitingWindow window(over_, locale_, can_break_off, [&] { stop(turn); });
-    shown_ = true;
+    WaitingWindow window(over_, locale_, [&] { stop(turn); });
+    const IsShown until_the_end(shown_);
     is_seen();
     HANDLE const woken = woken_.get();
     while (!is_over()) {
@@ -144,7 +164,6 @@ void WatchedWork::show_it() {
         }
         MsgWaitForMultipleObjects(1, &woken, FALSE, refreshed_every, QS_ALLINPUT);
     }
-    shown_ = false;
 }
 
 } // namespace brx

@@ -42,7 +42,7 @@ public:
 protected:
     void changed() override;
     bool looks_for_stop() override;
-    void break_off_call() override;
+    bool break_off_call() override;
 
 private:
     static DWORD WINAPI thread(void* self) noexcept;
