@@ -123,6 +123,27 @@ TEST_F(HostsTest, AHostThatQuitsInACallOfTheDialogsIsObeyedAfterIt) {
     EXPECT_EQ(errors.heard.size(), 0U);
 }
 
+TEST_F(HostsTest, AHostThatQuitsWhileAKeyWaitsForTheCallIsObeyedToo) {
+    while_showing([&] { show_information(); },
+                  [&](Hands& hands) {
+                      const HWND form = hands.form("dlgServerInformation");
+                      hands.run([&] {
+                          model.calls.during("OPCServer.StartTime", [form] {
+                              // One that has no character.
+                              const HWND control = GetWindow(form, GW_CHILD);
+                              PostMessageW(control, WM_KEYDOWN, VK_DOWN, 0);
+                              MSG message{};
+                              while (PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+                                  DispatchMessageW(&message);
+                              PostQuitMessage(42);
+                          });
+                      });
+                      EXPECT_TRUE(Hands::eventually([&] { return windows_of(windows.id()).empty(); }));
+                  });
+    EXPECT_EQ(quit_message(), 42);
+    EXPECT_EQ(errors.heard.size(), 0U);
+}
+
 TEST_F(HostsTest, AQuitMessageClosesTheBoxThatTellsOfAnError) {
     errors.while_shown = [] { return E_FAIL; };
     while_showing([&] { show_nothing(); },
