@@ -26,8 +26,8 @@ template <class Function> Function com_function(const char* name) {
                    : nullptr;
 }
 
-constexpr std::array<UINT, 6> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN,
-                                               WM_SYSKEYUP,    WM_SYSCOMMAND,    WM_CLOSE};
+constexpr std::array<UINT, 6> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_SYSKEYUP, WM_SYSCOMMAND,
+                                               WM_CLOSE};
 
 /// Takes it out of the queue, so that it does nothing else.
 bool take_escape() {
