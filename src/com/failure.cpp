@@ -3,8 +3,10 @@
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "common/call_gate.h"
+#include "common/trace.h"
 
 #include <array>
+#include <typeinfo>
 
 namespace brx {
 
@@ -38,6 +40,24 @@ com_ptr<IErrorInfo> information_from(IUnknown* object, REFIID iid) {
     return information;
 }
 
+Error error_left_by(IUnknown* object, REFIID iid, HRESULT result) {
+    Bstr description;
+    Bstr source;
+    if (const auto information = information_from(object, iid)) {
+        information->GetDescription(description.out());
+        information->GetSource(source.out());
+    }
+    return error_of(result, description.text(), source.text());
+}
+
+/// "N3brx10hlxOPCTestE" is what the compilers call brx::hlxOPCTest.
+std::string name_of(const std::type_info& model) {
+    const std::string coded = model.name();
+    const std::size_t begin = coded.find_first_not_of("0123456789", 5);
+    return coded.starts_with("N3brx") && begin < coded.size() ? coded.substr(begin, coded.size() - begin - 1)
+                                                              : coded;
+}
+
 void leave(const Error& error, REFIID iid) {
     com_ptr<ICreateErrorInfo> created;
     check(CreateErrorInfo(created.out()));
@@ -62,22 +82,23 @@ void check(HRESULT result) {
 }
 
 void check(HRESULT result, IUnknown* object, REFIID iid) {
-    if (SUCCEEDED(result)) return;
-    Bstr description;
-    Bstr source;
-    if (const auto information = information_from(object, iid)) {
-        information->GetDescription(description.out());
-        information->GetSource(source.out());
-    }
-    throw error_of(result, description.text(), source.text());
+    if (FAILED(result)) throw error_left_by(object, iid, result);
 }
 
-void check_call(HRESULT result, IUnknown* object, REFIID iid) {
+void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model) {
+    if (SUCCEEDED(result)) return;
     // Cancelled, or turned away and not tried again.
     if (result == RPC_E_CALL_CANCELED || result == RPC_E_CALL_REJECTED ||
         result == RPC_E_SERVERCALL_RETRYLATER)
         call_gate::expect_no_stop();
-    check(result, object, iid);
+    const Error error = error_left_by(object, iid, result);
+    const std::string procedure = current_location();
+    trace::line([&] {
+        return "call of " + name_of(model) + " failed: error " + std::to_string(error.number()) + ": " +
+               error.description() + " (" + error.source() + "), in " +
+               (procedure.empty() ? "a step that may fail" : procedure);
+    });
+    throw error;
 }
 
 HRESULT code_of(const Error& error) {

@@ -7,6 +7,7 @@
 #include <oleauto.h>
 
 #include <new>
+#include <typeinfo>
 
 namespace brx {
 
@@ -22,8 +23,9 @@ void check(HRESULT result);
 /// the object left for it.
 void check(HRESULT result, IUnknown* object, REFIID iid);
 
-/// The same for a call of the host's objects. One that a person had broken off throws `Stopped`.
-void check_call(HRESULT result, IUnknown* object, REFIID iid);
+/// The same for a call of the host's objects, of this interface of the model. One that a person had broken
+/// off throws `Stopped`.
+void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model);
 
 /// The failure code for an error number, the other way round. A number that is no failure code is E_FAIL.
 HRESULT code_of(const Error& error);

@@ -39,6 +39,11 @@ std::string error_text(std::int32_t number) {
     }
 }
 
+std::string told_in_a_line(const ErrorReport& report) {
+    return report.application + ": error " + std::to_string(report.number) + " in " + report.location + ": " +
+           report.description + " (" + report.source + ")";
+}
+
 Error current_error() noexcept {
     try {
         throw;

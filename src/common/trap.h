@@ -26,6 +26,9 @@ struct ErrorReport {
     std::string application; ///< the component's name and version
 };
 
+/// On one line, for whoever reads a log.
+std::string told_in_a_line(const ErrorReport& report);
+
 /// Where unexpected errors go. An implementation never throws.
 class ErrorReporter {
 public:

@@ -66,8 +66,7 @@ void report_to_host(ErrorLibrary library, const ErrorReport& report) {
 }
 
 void write_for_debugger(const ErrorReport& report) {
-    std::string line = report.application + ": error " + std::to_string(report.number) + " in " +
-                       report.location + ": " + report.description + " (" + report.source + ")";
+    std::string line = told_in_a_line(report);
     std::replace_if(
         line.begin(), line.end(), [](char each) { return each == '\r' || each == '\n' || each == '\0'; },
         ' ');

@@ -3,9 +3,11 @@
 #include "com/call_retries.h"
 #include "com/com_ptr.h"
 #include "com/system_locale.h"
+#include "common/trace.h"
 #include "common/trap.h"
 #include "dll/com_error_libraries.h"
 #include "dll/com_object_factory.h"
+#include "dll/trace_file.h"
 #include "forms/turn.h"
 #include "forms/win32/engine.h"
 
@@ -36,6 +38,8 @@ public:
 HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
              const std::function<bool(Environment&)>& dialog) noexcept {
     const com_ptr<IUnknown> alive(&object);
+    trace_as_asked();
+    trace::line([&] { return std::string(class_name) + ".Show begins"; });
     // Until a dialog is open, windows of other dialogs on this thread are not to be worked with.
     const CodeTurn code;
     const Work::Pause others; // of a dialog from whose handler the host shows this one
@@ -53,6 +57,7 @@ HRESULT show(IUnknown& object, const char* class_name, VARIANT_BOOL* result,
         here.engine.work().set_locale(here.environment.locale);
         outcome = dialog(here.environment);
     });
+    trace::line([&] { return std::string(class_name) + ".Show ends: " + (outcome ? "True" : "False"); });
     if (result) *result = outcome ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;
 }

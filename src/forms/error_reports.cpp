@@ -1,5 +1,6 @@
 #include "forms/error_reports.h"
 
+#include "common/trace.h"
 #include "forms/form.h"
 #include "forms/showing.h"
 #include "forms/turn.h"
@@ -17,6 +18,9 @@ Message error_message(const ErrorReport& report) {
 }
 
 void ErrorReports::Show(ErrorLibrary library, const ErrorReport& report) noexcept {
+    trace::line([&] {
+        return std::string("report to ") + error_class_name(library) + ": " + told_in_a_line(report);
+    });
     const Work::Pause pause; // the host's way to tell may wait for the person
     attempt([&] { libraries_.Show(library, report, [&] { attempt([&] { tell(report); }); }); });
 }

@@ -1,10 +1,17 @@
 #include "forms/services.h"
 
-#include "common/trap.h"
+#include "common/trace.h"
 
 namespace brx {
 
 std::int32_t Services::show_message(const Message& message) {
+    trace::line([&] { return "message box: " + message.shown_title() + ": " + message.text; });
+    const std::int32_t answer = answer_to(message);
+    trace::line([&] { return "message box answered: " + std::to_string(answer); });
+    return answer;
+}
+
+std::int32_t Services::answer_to(const Message& message) {
     if (!looked_for_message_) {
         looked_for_message_ = true;
         // A host without the service leaves message boxes to the system.

@@ -27,6 +27,8 @@ public:
     std::string help_file();
 
 private:
+    std::int32_t answer_to(const Message& message);
+
     ObjectFactory& objects_;
     FormEngine& engine_;
     hlxMessagePtr message_;

@@ -44,7 +44,7 @@ protected:
     }
 
     void require(HRESULT result) {
-        if (FAILED(result)) check_call(result, object_.get(), __uuidof(Interface));
+        if (FAILED(result)) check_call(result, object_.get(), __uuidof(Interface), typeid(Model));
     }
 
 private:
