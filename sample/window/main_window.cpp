@@ -156,7 +156,7 @@ LRESULT MainWindow::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_TIMER:
         if (wparam == collection_timer)
             collect();
-        else
+        else if (IsWindowEnabled(window_)) // a dialog is not to wait for what the window behind it asks
             refresh();
         return 0;
     case WM_COMMAND:
