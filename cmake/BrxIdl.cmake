@@ -45,7 +45,7 @@ function(brx_idl name)
                 "-L${stdole_folder}" "-L${BRX_IDL_DIR}"
                 -h -H "${stem}.h" -u -U "${stem}_i.c" -t -T "${stem}.tlb" "${source}"
         WORKING_DIRECTORY "${BRX_IDL_DIR}"
-        DEPENDS "${source}" ${neighbours} ${imported_tlbs} "${CMAKE_SOURCE_DIR}/src/common/version.h"
+        DEPENDS "${source}" ${neighbours} ${imported_tlbs}
         COMMENT "widl ${stem}.idl"
         VERBATIM)
     add_custom_target(${name}_tlb DEPENDS ${made})
@@ -61,6 +61,7 @@ endfunction()
 function(brx_typelib_resource target script name)
     get_target_property(tlb ${name} BRX_TLB)
     set_property(SOURCE ${script} APPEND PROPERTY OBJECT_DEPENDS "${tlb}")
-    set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES "${BRX_IDL_DIR}" "${CMAKE_SOURCE_DIR}/src")
+    set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES "${BRX_IDL_DIR}" "${CMAKE_SOURCE_DIR}/src"
+        "${BRX_CONFIGURED}")
     add_dependencies(${target} ${name}_tlb)
 endfunction()

@@ -19,6 +19,9 @@ is_root() { [ "$(id -u)" -eq 0 ]; }
 # The product, below the build folder of a Windows preset.
 brx_dll=src/dll/brxOpcDlgs6.dll
 
+# The version, from the one place that says it.
+project_version() { sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' "$brx_top/CMakeLists.txt"; }
+
 # build PRESET [TARGET..]: configures and builds. Builds of the same preset wait for each other.
 build() {
     local preset=$1

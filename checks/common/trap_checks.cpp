@@ -1,4 +1,5 @@
 #include "common/trap.h"
+#include "common/version.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +39,7 @@ TEST(ErrorTrap, ReportsNumberDescriptionSourceAndLocation) {
     EXPECT_EQ(report.description, "The RPC server is unavailable.");
     EXPECT_EQ(report.source, "Wrapper");
     EXPECT_EQ(report.location, "dlgServerSelect.bnOK_Click");
-    EXPECT_EQ(report.application, "brxOpcDlgs6 6.0.0");
+    EXPECT_EQ(report.application, "brxOpcDlgs6 " BRX_VERSION_TEXT);
 }
 
 TEST(ErrorTrap, NamesTheComponentAsTheSourceOfItsOwnErrors) {

@@ -126,6 +126,9 @@ TEST_F(FileTest, ItTellsItsVersion) {
     EXPECT_EQ(numbers.dwProductVersionMS, 0x00060000u);
     EXPECT_EQ(numbers.dwFileType, static_cast<DWORD>(VFT_DLL));
     EXPECT_EQ(version_text(data, L"FileVersion"), L"" BRX_VERSION_TEXT);
+    EXPECT_EQ(version_text(data, L"ProductVersion"), L"" BRX_VERSION_TEXT);
+    EXPECT_EQ(version_text(data, L"CompanyName"), L"" BRX_COMPANY_TEXT);
+    EXPECT_EQ(version_text(data, L"LegalCopyright"), L"" BRX_COPYRIGHT_TEXT);
     EXPECT_EQ(version_text(data, L"ProductName"), L"brxOpcDlgs6");
     EXPECT_EQ(version_text(data, L"OriginalFilename"), L"brxOpcDlgs6.dll");
     EXPECT_EQ(version_text(data, L"FileDescription"), L"OPC collection dialogs");

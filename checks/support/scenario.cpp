@@ -1,5 +1,7 @@
 #include "scenario.h"
 
+#include "common/version.h"
+
 namespace brx::checks {
 
 Showing::Showing(Stage& stage, const std::string& class_name) : stage_(stage) {
@@ -57,7 +59,7 @@ void Play::expect_report(std::int32_t number, const std::string& location, Error
     EXPECT_EQ(report.library, library);
     EXPECT_FALSE(report.what.description.empty());
     EXPECT_FALSE(report.what.source.empty());
-    EXPECT_EQ(report.what.application, "brxOpcDlgs6 6.0.0");
+    EXPECT_EQ(report.what.application, "brxOpcDlgs6 " BRX_VERSION_TEXT);
 }
 
 void Play::close_everything() {

@@ -73,7 +73,20 @@ as_drawn() {
 # The one program in the guide is the one that is built and run.
 shown_example() { diff <(sed -n '/^```cpp$/,/^```$/{//!p}' docs/embedding.md) sample/describe/main.cpp; }
 
+# The version stands in CMakeLists.txt, and the changelog begins with it; everything else is told it. Those of the system
+# controls look alike.
+one_version() {
+    local version found
+    version=$(project_version)
+    found=$(files src sample checks cmake scripts packaging run check package | xargs -r -d '\n' grep -nHF -- "$version" |
+        grep -vE 'Common-Controls"?"? version' || true)
+    [ -z "$found" ] || { sed 's/$/: error: the version stands in CMakeLists.txt/' <<<"$found" && return 1; }
+    grep -m 1 '^## ' CHANGELOG.md | grep -qE "^## ${version//./\\.}(,|$)" ||
+        { say "CHANGELOG.md:1: error: it does not begin with version $version" && return 1; }
+}
+
 rule "every file is formatted" formatted
+rule "one place says the version" one_version
 rule "no file is longer than one idea" short_files
 rule "no file names another machine" no_addresses
 rule "the repository holds text" only_text

@@ -1,3 +1,4 @@
+#include "common/version.h"
 #include "sample/windows/host_program.h"
 #include "sample/windows/objects_stage.h"
 #include "sample/windows/ticking.h"
@@ -19,7 +20,7 @@ protected:
     void report(const std::string& location) {
         call(error_.get(), "Show",
              {std::int32_t{91}, std::string("Object variable not set"), std::string("brxOpcDlgs6"), location,
-              std::string("brxOpcDlgs6 6.0.0")});
+              std::string("brxOpcDlgs6 " BRX_VERSION_TEXT)});
     }
     static std::vector<HWND> boxes() {
         std::vector<HWND> found;

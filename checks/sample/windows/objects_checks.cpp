@@ -1,6 +1,7 @@
 #include "sample/windows/objects_stage.h"
 
 #include "adapters/to_com.h"
+#include "common/version.h"
 
 #include <gmock/gmock.h>
 
@@ -173,10 +174,10 @@ TEST_F(SampleObjects, AnErrorIsShownAndLogged) {
         SetTimer(nullptr, 0, 50, press_ok);
         call(create_by_name(name).get(), "Show",
              {std::int32_t{13}, std::string("Type mismatch"), std::string("brxOpcDlgs6"),
-              std::string("dlgServerAdd.bnOK_Click"), std::string("brxOpcDlgs6 6.0.0")});
+              std::string("dlgServerAdd.bnOK_Click"), std::string("brxOpcDlgs6 " BRX_VERSION_TEXT)});
         EXPECT_THAT(box_text, HasSubstr("Type mismatch"));
         EXPECT_THAT(box_text, HasSubstr("dlgServerAdd.bnOK_Click"));
-        EXPECT_THAT(box_text, HasSubstr("brxOpcDlgs6 6.0.0"));
+        EXPECT_THAT(box_text, HasSubstr("brxOpcDlgs6 " BRX_VERSION_TEXT));
         EXPECT_EQ(get(host.get(), "LogLine", {get(host.get(), "LogCount")}),
                   Variant(std::string("Error 13 in dlgServerAdd.bnOK_Click: Type mismatch")));
     }
