@@ -29,8 +29,12 @@ public:
         text(in + L"\\ProgID", L"", name);
         text(in + L"\\TypeLib", L"", library_id);
         text(in + L"\\Version", L"", L"6.0");
+        text(in + L"\\VersionIndependentProgID", L"", name);
         text(name, L"", help);
         text(name + L"\\CLSID", L"", id);
+        text(name + L"\\CurVer", L"", name + L".6");
+        text(name + L".6", L"", help);
+        text(name + L".6\\CLSID", L"", id);
     }
 
     void of_interface(const std::wstring& name, const std::wstring& id) {

@@ -233,6 +233,7 @@ TEST_F(RegistrationTest, NamesSharedWithTheComponentOfOtherBitsStayForIt) {
         return !registry_text(HKEY_LOCAL_MACHINE, {key, L""}).empty();
     };
     EXPECT_EQ(stands(classes + L"\\brxOpcDlgs6.ServerSelect\\CLSID"), two_views);
+    EXPECT_EQ(stands(classes + L"\\brxOpcDlgs6.ServerSelect.6\\CLSID"), two_views);
     EXPECT_EQ(stands(library + L"\\6.0"), two_views);
     EXPECT_FALSE(stands(select_class));
     EXPECT_FALSE(stands(library + L"\\6.0\\0\\" + platform));
@@ -247,6 +248,13 @@ TEST_F(RegistrationTest, HostsFindTheClassesByTheirNames) {
     for (const wchar_t* name : class_names) {
         CLSID clsid{};
         EXPECT_EQ(CLSIDFromProgID(name, &clsid), S_OK) << name;
+        CLSID of_this_version{};
+        EXPECT_EQ(CLSIDFromProgID((std::wstring(name) + L".6").c_str(), &of_this_version), S_OK) << name;
+        EXPECT_EQ(of_this_version, clsid) << name;
+        wchar_t* told = nullptr;
+        EXPECT_EQ(ProgIDFromCLSID(clsid, &told), S_OK) << name;
+        EXPECT_STREQ(told, name);
+        CoTaskMemFree(told);
         com_ptr<IDispatch> object;
         EXPECT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
                                    reinterpret_cast<void**>(object.out())),
@@ -255,6 +263,7 @@ TEST_F(RegistrationTest, HostsFindTheClassesByTheirNames) {
     ASSERT_EQ(dll.unregister_for_machine(), S_OK);
     CLSID clsid{};
     EXPECT_NE(CLSIDFromProgID(L"brxOpcDlgs6.ServerSelect", &clsid), S_OK);
+    EXPECT_NE(CLSIDFromProgID(L"brxOpcDlgs6.ServerSelect.6", &clsid), S_OK);
 }
 
 TEST_F(RegistrationTest, HostsOfTheUserFindTheClassesByTheirNames) {

@@ -57,7 +57,8 @@ public:
         const Documentation library_text = documentation_of(library, MEMBERID_NIL);
         library_name_ = library_text.name;
         library_id_ = guid_text(attributes->guid);
-        version_ = hexadecimal(attributes->wMajorVerNum) + L"." + hexadecimal(attributes->wMinorVerNum);
+        major_version_ = hexadecimal(attributes->wMajorVerNum);
+        version_ = major_version_ + L"." + hexadecimal(attributes->wMinorVerNum);
 
         const std::wstring key = L"TypeLib\\" + library_id_ + L"\\" + version_;
         const std::wstring language = hexadecimal(attributes->lcid);
@@ -99,16 +100,22 @@ private:
 
     void describe_class(const std::wstring& id, const Documentation& text) {
         const std::wstring name = library_name_ + L"." + text.name;
+        const std::wstring versioned_name = name + L"." + major_version_;
         const std::wstring key = L"CLSID\\" + id;
         own(key, L"", text.help);
         own(key + L"\\InprocServer32", L"", path_);
         server_places_.push_back(entries_.back().place);
         own(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+        // The name that hosts have always been told for the class, not the versioned one.
         own(key + L"\\ProgID", L"", name);
         own(key + L"\\TypeLib", L"", library_id_);
         own(key + L"\\Version", L"", version_);
+        own(key + L"\\VersionIndependentProgID", L"", name);
         shared(name, L"", text.help);
         shared(name + L"\\CLSID", L"", id);
+        shared(name + L"\\CurVer", L"", versioned_name);
+        shared(versioned_name, L"", text.help);
+        shared(versioned_name + L"\\CLSID", L"", id);
     }
 
     void own(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
@@ -121,6 +128,7 @@ private:
     std::wstring path_;
     std::wstring library_name_;
     std::wstring library_id_;
+    std::wstring major_version_;
     std::wstring version_;
     std::vector<RegistryEntry> entries_;
     std::vector<RegistryPlace> server_places_;
