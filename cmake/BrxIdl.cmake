@@ -41,7 +41,8 @@ function(brx_idl name)
     endforeach()
     add_custom_command(
         OUTPUT ${made}
-        COMMAND "${BRX_WIDL}" ${bits} "-I${BRX_IDL_INCLUDES}" "-I${folder}" "-I${CMAKE_SOURCE_DIR}/src"
+        # The compiler writes down when it ran.
+        COMMAND "${CMAKE_COMMAND}" -E env WIDL_TIME_OVERRIDE=0 "${BRX_WIDL}" ${bits} "-I${BRX_IDL_INCLUDES}" "-I${folder}" "-I${CMAKE_SOURCE_DIR}/src"
                 "-L${stdole_folder}" "-L${BRX_IDL_DIR}"
                 -h -H "${stem}.h" -u -U "${stem}_i.c" -t -T "${stem}.tlb" "${source}"
         WORKING_DIRECTORY "${BRX_IDL_DIR}"

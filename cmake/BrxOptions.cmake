@@ -40,7 +40,10 @@ set(CMAKE_C_FLAGS_RELWITHDEBINFO "-g1 -gdwarf-4 -DNDEBUG")
 set(BRX_OPTIMIZATION -Os)
 
 # The same file from the same source, wherever the checkout lies.
-add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=" "-ffile-prefix-map=${BRX_CACHE}/=")
+if(MINGW)
+    add_link_options(-Wl,--no-insert-timestamp)
+endif()
 
 if(BRX_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
