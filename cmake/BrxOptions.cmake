@@ -40,7 +40,10 @@ set(CMAKE_C_FLAGS_RELWITHDEBINFO "-g1 -gdwarf-4 -DNDEBUG")
 set(BRX_OPTIMIZATION -Os)
 
 # The same file from the same source, wherever the checkout lies.
-add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=" "-ffile-prefix-map=${BRX_CACHE}/=")
+# With the cache the compiler is told names as seen from the build folder, without it whole ones.
+file(RELATIVE_PATH from_build "${CMAKE_BINARY_DIR}" "${CMAKE_SOURCE_DIR}")
+add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=" "-ffile-prefix-map=${CMAKE_BINARY_DIR}/="
+    "-ffile-prefix-map=${from_build}=" "-ffile-prefix-map=${BRX_CACHE}/=")
 if(MINGW)
     add_link_options(-Wl,--no-insert-timestamp)
 endif()

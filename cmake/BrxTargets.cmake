@@ -34,6 +34,13 @@ function(brx_library name)
     target_link_libraries(${name} PUBLIC brx_options ${arg_LINK})
 endfunction()
 
+# brx_mapped(TARGET): the linker says what it linked, beside the file, for the package's list of parts.
+function(brx_mapped name)
+    if(MINGW)
+        target_link_options(${name} PRIVATE "-Wl,-Map=$<TARGET_FILE:${name}>.map")
+    endif()
+endfunction()
+
 # brx_program(NAME [WINDOWED] [WIDE_MAIN] [SOURCES] file... [LINK library...]): a program. On Windows it starts in
 # wWinMain and has no console when WINDOWED, in wmain when WIDE_MAIN, in main otherwise.
 function(brx_program name)
@@ -47,6 +54,7 @@ function(brx_program name)
     if(MINGW AND (arg_WINDOWED OR arg_WIDE_MAIN))
         target_link_options(${name} PRIVATE -municode)
     endif()
+    brx_mapped(${name})
 endfunction()
 
 # brx_com_dll(NAME DEF file [SOURCES] file... [LINK library...]): an in-process COM server, NAME.dll. The definition
@@ -59,6 +67,7 @@ function(brx_com_dll name)
     cmake_path(ABSOLUTE_PATH arg_DEF OUTPUT_VARIABLE def)
     set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS "${def}")
     target_link_libraries(${name} PRIVATE brx_options ${arg_LINK})
+    brx_mapped(${name})
     target_link_options(${name} PRIVATE -Wl,--enable-stdcall-fixup,--kill-at,--exclude-all-symbols
         -Wl,--gc-sections)
     add_custom_command(TARGET ${name} POST_BUILD

@@ -2,9 +2,10 @@
 # Makes a Debian 12 machine ready to build and check the project: what is missing is installed, the rest is left alone.
 # Without root it prints the command that root has to run, and fails.
 #
-#   scripts/setup.sh           everything but the 32-bit root
-#   scripts/setup.sh --all     also the 32-bit root (scripts/wine32.sh make; some minutes and about 1 GB, once)
-#   scripts/setup.sh --check   changes nothing; exit status 0 when nothing is missing
+#   scripts/setup.sh            everything but the 32-bit root
+#   scripts/setup.sh --all      also the 32-bit root (scripts/wine32.sh make; some minutes and about 1 GB, once)
+#   scripts/setup.sh --package  also what ./package needs
+#   scripts/setup.sh --check    changes nothing; exit status 0 when nothing is missing
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -19,6 +20,9 @@ packages=(
     debootstrap util-linux locales
     shellcheck
 )
+
+# Only ./package and its check need these.
+packaging=(nsis wixl msitools faketime zip unzip cmark-gfm osslsigncode openssl libxml2-utils jq)
 
 # SQLite for Windows: its amalgamation, as the npm package better-sqlite3 carries it. A new version needs new sums:
 # scripts/setup.sh fails and prints where the files lie.
@@ -85,8 +89,9 @@ check_only='' with_wine32=''
 for argument in "$@"; do
     case $argument in
     --all) with_wine32=yes ;;
+    --package) packages+=("${packaging[@]}") ;;
     --check) check_only=yes ;;
-    *) die "use: scripts/setup.sh [--all | --check]" ;;
+    *) die "use: scripts/setup.sh [--all | --package] [--check]" ;;
     esac
 done
 install_packages || exit 1

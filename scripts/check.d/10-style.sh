@@ -24,7 +24,7 @@ short_files() {
     [ -z "$long" ] || { printf '%s' "$long" && return 1; }
 }
 
-sound_scripts() { files '*.sh' run check .ci/run | xargs -r -d '\n' shellcheck --external-sources; }
+sound_scripts() { files '*.sh' run check package .ci/run | xargs -r -d '\n' shellcheck --external-sources; }
 
 # Pictures of the documentation are the only files that are not text.
 only_text() {
@@ -80,7 +80,7 @@ one_version() {
     version=$(project_version)
     found=$(files src sample checks cmake scripts packaging run check package | xargs -r -d '\n' grep -nHF -- "$version" |
         grep -vE 'Common-Controls"?"? version' || true)
-    [ -z "$found" ] || { sed 's/$/: error: the version stands in CMakeLists.txt/' <<<"$found" && return 1; }
+    [ -z "$found" ] || { say "error: the version stands in CMakeLists.txt alone"$'\n'"$found" && return 1; }
     grep -m 1 '^## ' CHANGELOG.md | grep -qE "^## ${version//./\\.}(,|$)" ||
         { say "CHANGELOG.md:1: error: it does not begin with version $version" && return 1; }
 }

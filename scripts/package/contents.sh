@@ -1,0 +1,125 @@
+# What is in the developer's kit, for the check part `package`, which has unpacked it in $kit. Sourced.
+# shellcheck shell=bash disable=SC2154
+
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+# Every file of the kit but samples and pictures, whose names change.
+kit_files() {
+    local arch each
+    for arch in x64 x86; do
+        for each in brxDatabase6.tlb brxOpcAuto6.tlb brxOpcDlgs6.Assembly.manifest brxOpcDlgs6.dll brxOpcDlgs6.tlb; do
+            say "$arch/$each"
+        done
+        say "debug/$arch/brxOpcDlgs6.dll.debug"
+    done
+    for each in OPCAutomation brxDatabase6 brxError6 brxOpcAuto6 brxOpcDlgs6 hlxER01; do
+        printf '%s\n' "idl/$each.idl" "include/$each.h" "include/${each}_i.c"
+    done
+    for each in {gcc,g++}-mingw-w64-{i686,x86-64}-posix mingw-w64-{i686,x86-64}-dev GPL-3; do
+        say "licenses/$each.txt"
+    done
+    printf '%s\n' sbom.spdx.json idl/OPCAutomation_codes.idh idl/OPCAutomation_groups.idh idl/brxOpcAuto6_configuration.idh \
+        idl/reserved.idh LICENSE NOTICE README.html host.exe.manifest doc/CHANGELOG.html
+    for each in "$brx_top"/docs/*.md; do say "doc/$(basename "$each" .md).html"; done
+}
+
+has_its_files() {
+    local found
+    found=$(cd "$kit" && find . -type f ! -path './samples/*' ! -path './doc/pictures/*' -printf '%P\n' | LC_ALL=C sort)
+    diff <(kit_files | LC_ALL=C sort) - <<<"$found" | sed -n 's/^[<>]/error: &/p' | { ! grep .; }
+}
+
+has_samples() {
+    local each missing=''
+    for each in scripts/select-server.vbs scripts/configure.vbs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
+        [ -s "$kit/samples/$each" ] || missing+="error: there is no samples/$each"$'\n'
+    done
+    [ -z "$missing" ] || { say "$missing" && return 1; }
+}
+
+sums_agree() { (cd "$brx_build/package" && sha256sum --check --quiet SHA256SUMS && [ "$(wc -l <SHA256SUMS)" -eq "$(find . -type f ! -name SHA256SUMS | wc -l)" ]); }
+
+# Links within the pages: the file is there, and has the heading.
+links_lead_somewhere() {
+    local page link file name dead=''
+    while read -r page; do
+        while read -r link; do
+            file=${link%%#*}
+            name=${link#"$file"}
+            file=${file:+$(dirname "$page")/$file}
+            [ -f "${file:-$page}" ] && { [ -z "$name" ] || grep -q "id=\"${name#?}\"" "${file:-$page}"; } ||
+                dead+="error: ${page#"$kit"/} has a dead link: $link"$'\n'
+        done < <(grep -oE '(href|src)="[^"]*"' "$page" | sed -E 's/^[a-z]*="(.*)"$/\1/')
+    done < <(find "$kit" -name '*.html')
+    [ -z "$dead" ] || { say "$dead" && return 1; }
+}
+
+# headers_compile COMPILER..: each header before and after Windows' own.
+headers_compile() {
+    local header failed=''
+    for header in "$kit"/include/*.h; do
+        header=$(basename "$header")
+        printf '#include <windows.h>\n#include <%s>\n' "$header" | "$@" -fsyntax-only -I "$kit/include" - ||
+            failed+="error: $header does not compile after windows.h"$'\n'
+        printf '#include <%s>\n#include <windows.h>\n' "$header" | "$@" -fsyntax-only -I "$kit/include" - ||
+            failed+="error: $header does not compile before windows.h"$'\n'
+    done
+    [ -z "$failed" ] || { say "$failed" && return 1; }
+}
+
+manifests_are_sound() { xmllint --noout "$kit"/*/*.manifest "$kit/host.exe.manifest"; }
+
+# debug_file_knows TRIPLE ARCHITECTURE: function and line of an entry point, by its address in the DLL.
+debug_file_knows() {
+    local base address told
+    base=$("$1-objdump" -p "$kit/$2/brxOpcDlgs6.dll" | sed -nE 's/^ImageBase\s+([0-9a-f]+)$/\1/p')
+    address=$("$1-objdump" -p "$kit/$2/brxOpcDlgs6.dll" |
+        sed -nE '/^Export Address Table/,/^$/s/^\s+\[ *1\] .* ([0-9a-f]+) Export RVA$/\1/p')
+    told=$("$1-addr2line" -Cfe "$kit/debug/$2/brxOpcDlgs6.dll.debug" "$(printf '%x' $((0x$base + 0x$address)))")
+    [[ $told == DllGetClassObject*src/dll/entry_points.cpp:[1-9]* ]] || { say "error: it says $told" && return 1; }
+}
+
+# Of each file the list of parts has the right sum and what is linked into it; SQLite is in the sample alone.
+list_of_parts_is_right() {
+    local list=$kit/sbom.spdx.json wrong='' file sum
+    jq -e '.spdxVersion == "SPDX-2.3" and (.files | length) == 12' "$list" >/dev/null ||
+        wrong+='error: it does not have its 12 files'$'\n'
+    while read -r sum file; do
+        [ "$(sha256sum <"$kit/$file" | cut -d ' ' -f 1)" = "$sum" ] || wrong+="error: it has another sum of $file"$'\n'
+    done < <(jq -r '.files[] | (.checksums[] | select(.algorithm == "SHA256").checksumValue) + " " + .fileName' "$list")
+    [ "$(jq -r '.relationships[] | select(.relatedSpdxElement == "SPDXRef-SQLite").spdxElementId' "$list" | tr '\n' ' ')" = \
+        "SPDXRef-File-samples-x64-brxSample.dll SPDXRef-File-samples-x86-brxSample.dll " ] ||
+        wrong+='error: it does not have SQLite in the sample alone'$'\n'
+    for file in x64-brxOpcDlgs6.dll x86-brxOpcDlgs6.dll; do
+        [ "$(jq "[.relationships[] | select(.spdxElementId == \"SPDXRef-File-$file\")] | length" "$list")" -eq 3 ] ||
+            wrong+="error: $file does not have the three parts of its compiler"$'\n'
+    done
+    [ -z "$wrong" ] || { say "$wrong" && return 1; }
+}
+
+# What CMake installs for those who build themselves, and what CPack packs of that.
+cmake_installs() {
+    local folder=$work/installed each
+    cmake --install "$brx_build/windows-x64" --prefix "$folder" --strip >/dev/null || return
+    for each in bin/brxOpcDlgs6.dll bin/brxOpcDlgs6.tlb include/brxOpcDlgs6.h idl/brxOpcDlgs6.idl doc/embedding.md LICENSE; do
+        [ -s "$folder/$each" ] || { say "error: it does not install $each" && return 1; }
+    done
+    cpack --config "$brx_build/windows-x64/CPackConfig.cmake" -B "$work/cpack" &&
+        unzip -l "$work/cpack/brxOpcDlgs6-$version-"*.zip | grep -q bin/brxOpcDlgs6.dll
+}
+
+check_contents() {
+    rule "the sums agree" sums_agree
+    rule "the zip has its files and no others" has_its_files
+    rule "the zip has samples" has_samples
+    rule "links in the pages lead somewhere" links_lead_somewhere
+    rule "the list of parts is right" list_of_parts_is_right
+    rule "CMake installs, CPack packs" cmake_installs
+    rule "the manifests are sound" manifests_are_sound
+    rule "gcc takes the headers as C++" headers_compile x86_64-w64-mingw32-g++ -x c++
+    rule "gcc takes the headers as C" headers_compile x86_64-w64-mingw32-gcc -x c
+    rule "gcc takes the headers in 32 bits" headers_compile i686-w64-mingw32-g++ -x c++
+    rule "clang takes the headers" headers_compile clang --target=x86_64-w64-mingw32 -x c
+    rule "the 64-bit debug file knows function and line" debug_file_knows x86_64-w64-mingw32 x64
+    rule "the 32-bit debug file knows function and line" debug_file_knows i686-w64-mingw32 x86
+}

@@ -1,0 +1,104 @@
+# The developer's kit as a folder; sourced by ./package.
+# shellcheck shell=bash
+
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+# The name of the side-by-side assembly. It is not the DLL's: Windows would look into that for the manifest.
+assembly=brxOpcDlgs6.Assembly
+
+# bits_of ARCHITECTURE, win_of ARCHITECTURE: what others call x64 and x86.
+bits_of() { if [ "$1" = x64 ]; then say 64; else say 32; fi; }
+
+# registration ARCHITECTURE: the lines of registration.awk.
+registration() {
+    awk -v platform="win$(bits_of "$1")" -f "$brx_top/scripts/package/registration.awk" \
+        "$brx_top/src/com/idl/brxOpcDlgs6.idl"
+}
+
+# page FILE.md FILE.html: a document to read in a browser.
+page() {
+    local title
+    title=$(sed -n 's/^# //p' "$1" | sed -n 1p)
+    cmark-gfm --extension table --to html "$1" | sed -E 's/(href="[^":]*)\.md(["#])/\1.html\2/g' |
+        awk -v title="$title" -f "$brx_top/scripts/package/page.awk" >"$2"
+}
+
+# kit_binaries KIT ARCHITECTURE: the DLL, what registers or describes it, its debug file.
+kit_binaries() {
+    local kit=$1 arch=$2 products=$brx_build/windows-$2 architecture=amd64 library
+    [ "$arch" = x64 ] || architecture=x86
+    mkdir -p "$kit/$arch" "$kit/debug/$arch"
+    cp "$products/$brx_dll" "$kit/$arch/"
+    cp "$products/$brx_dll.debug" "$kit/debug/$arch/"
+    for library in brxOpcDlgs6 brxOpcAuto6 brxDatabase6; do cp "$products/idl/$library.tlb" "$kit/$arch/"; done
+    registration "$arch" | awk -F '\t' -v architecture="$architecture" -v name="$assembly" -v file=brxOpcDlgs6.dll \
+        -f "$brx_top/scripts/package/assembly.awk" >"$kit/$arch/$assembly.manifest"
+}
+
+# Windows' own headers know another ServerInformation. Nothing but its declaration as a class is in their way, and
+# CLSID_ServerInformation says as much.
+without_clash() {
+    awk '/^#ifndef __ServerInformation_FWD_DEFINED__/ { leaving = 1 }
+         /^class DECLSPEC_UUID\([^)]*\) ServerInformation;/ { leaving = 2 }
+         leaving == 0 { print }
+         leaving == 1 && /__ServerInformation_FWD_DEFINED__ \*\// { leaving = 0 }
+         leaving == 2 && /^#endif/ { leaving = 0 }'
+}
+
+kit_interfaces() {
+    local kit=$1 made=$brx_build/windows-x64/idl file
+    mkdir -p "$kit/idl" "$kit/include"
+    cp "$brx_top"/src/com/idl/*.id[lh] "$kit/idl/"
+    for file in "$kit"/idl/*.idl; do
+        file=$(basename "$file" .idl)
+        without_clash <"$made/$file.h" >"$kit/include/$file.h"
+        cp "$made/${file}_i.c" "$kit/include/"
+    done
+}
+
+kit_host_manifest() {
+    local version
+    version=$(registration x64 | sed -nE 's/.*\tTypeLib\\[^\]*\\([0-9.]+)\t\t.*/\1/p')
+    sed "s/@ASSEMBLY@/$assembly/; s/@ASSEMBLY_VERSION@/$version.0.0/" "$brx_top/packaging/host.exe.manifest"
+}
+
+kit_documents() {
+    local kit=$1 file
+    mkdir -p "$kit/doc"
+    for file in "$brx_top"/docs/*.md; do page "$file" "$kit/doc/$(basename "$file" .md).html"; done
+    cp -r "$brx_top/docs/pictures" "$kit/doc/"
+    page "$brx_top/CHANGELOG.md" "$kit/doc/CHANGELOG.html"
+    sed -i 's#href="docs/#href="#g' "$kit/doc/CHANGELOG.html"
+}
+
+# The scripts, the programs of the sample host, and whatever else stands in the folder samples.
+kit_samples() {
+    local kit=$1 arch products
+    mkdir -p "$kit/samples/scripts"
+    cp "$brx_top"/sample/scripts/*.vbs "$kit/samples/scripts/"
+    mkdir -p "$kit/samples/describe"
+    cp "$brx_top/sample/describe/main.cpp" "$kit/samples/describe/"
+    for arch in x64 x86; do
+        products=$brx_build/windows-$arch
+        mkdir -p "$kit/samples/$arch"
+        cp "$products/$brx_dll" "$products/sample/objects/brxSample.dll" "$products/sample/window/brxSampleHost.exe" \
+            "$products/sample/server/brxSampleServer.exe" "$products/sample/describe/brxDescribe.exe" \
+            "$kit/samples/$arch/"
+        x86_64-w64-mingw32-strip "$kit/samples/$arch/"*.exe
+    done
+    [ ! -d "$brx_top/samples" ] || cp -r "$brx_top/samples/." "$kit/samples/"
+}
+
+# make_kit FOLDER
+make_kit() {
+    local kit=$1 arch
+    rm -rf "$kit"
+    mkdir -p "$kit"
+    for arch in x64 x86; do kit_binaries "$kit" "$arch"; done
+    kit_interfaces "$kit"
+    kit_documents "$kit"
+    kit_samples "$kit"
+    page "$brx_top/packaging/README.md" "$kit/README.html"
+    kit_host_manifest >"$kit/host.exe.manifest"
+    cp "$brx_top/LICENSE" "$brx_top/NOTICE" "$kit/"
+}
