@@ -1,10 +1,10 @@
 # Prints the texts in C++ sources that a person can be shown: FILE:LINE, a tab, the text. These are the string literals of
 # two words and more, and those that are a message's text or title whatever they say, line by line. What controls are
-# called and what they are for is not among them, nor are paths.
+# called and what they are for is not among them, nor are paths, formats, and what a trace tells.
 
 function is_shown(text, before) {
     if (before ~ /\.(caption|tip) *= *$/ || text ~ /^&/) return 0
-    if (text ~ /\\\\/) return 0
+    if (text ~ /\\\\/ || text ~ /^%/ || in_trace) return 0
     if (before ~ /\.(text|title) *= *$/) return text ~ /[[:alpha:]]/
     return text ~ /[[:alpha:]][^[:alpha:]]* +[^[:alpha:]]*[[:alpha:]][[:alpha:]]/
 }
@@ -19,7 +19,9 @@ function print_lines(text, before,    lines, count, i) {
     }
 }
 
-FNR == 1 { in_comment = 0; before = "" }
+FNR == 1 { in_comment = in_trace = 0; before = "" }
+
+/trace::line\(/ { in_trace = 1 }
 
 /^ *#/ { next }
 
@@ -45,4 +47,5 @@ FNR == 1 { in_comment = 0; before = "" }
             line = substr(line, 2)
         }
     }
+    if ($0 ~ /}\);/) in_trace = 0
 }
