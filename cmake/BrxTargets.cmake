@@ -70,9 +70,11 @@ function(brx_com_dll name)
     brx_mapped(${name})
     target_link_options(${name} PRIVATE -Wl,--enable-stdcall-fixup,--kill-at,--exclude-all-symbols
         -Wl,--gc-sections)
+    # It would write down when it ran.
+    set(objcopy "${CMAKE_COMMAND}" -E env SOURCE_DATE_EPOCH=0 "${CMAKE_OBJCOPY}")
     add_custom_command(TARGET ${name} POST_BUILD
-        COMMAND "${CMAKE_OBJCOPY}" --only-keep-debug "$<TARGET_FILE:${name}>" "$<TARGET_FILE:${name}>.debug"
-        COMMAND "${CMAKE_OBJCOPY}" --strip-unneeded "--add-gnu-debuglink=$<TARGET_FILE:${name}>.debug"
+        COMMAND ${objcopy} --only-keep-debug "$<TARGET_FILE:${name}>" "$<TARGET_FILE:${name}>.debug"
+        COMMAND ${objcopy} --strip-unneeded "--add-gnu-debuglink=$<TARGET_FILE:${name}>.debug"
                 "$<TARGET_FILE:${name}>"
         VERBATIM)
 endfunction()

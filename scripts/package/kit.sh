@@ -45,14 +45,17 @@ without_clash() {
          leaving == 2 && /^#endif/ { leaving = 0 }'
 }
 
+# The compiler writes down where its source lay.
+without_folder() { sed '1s# from .*/# from #'; }
+
 kit_interfaces() {
     local kit=$1 made=$brx_build/windows-x64/idl file
     mkdir -p "$kit/idl" "$kit/include"
     cp "$brx_top"/src/com/idl/*.id[lh] "$kit/idl/"
     for file in "$kit"/idl/*.idl; do
         file=$(basename "$file" .idl)
-        without_clash <"$made/$file.h" >"$kit/include/$file.h"
-        cp "$made/${file}_i.c" "$kit/include/"
+        without_clash <"$made/$file.h" | without_folder >"$kit/include/$file.h"
+        without_folder <"$made/${file}_i.c" >"$kit/include/${file}_i.c"
     done
 }
 
