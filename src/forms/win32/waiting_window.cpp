@@ -10,6 +10,8 @@
 
 #include <commctrl.h>
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace brx {
@@ -36,6 +38,13 @@ std::string sentence(const Work::Report& report) {
     if (report.wish == Work::Wish::go_on) return what;
     return what + (report.call_goes_on ? "\nThis call cannot be broken off: it ends when the server answers."
                                        : "\nIt ends with the call that is under way.");
+}
+
+/// What some systems put in the place of a window whose thread has not answered for long.
+bool is_ghost(HWND window) {
+    std::array<wchar_t, 8> name{};
+    return window && GetClassNameW(window, name.data(), static_cast<int>(name.size())) != 0 &&
+           std::wstring_view(name.data()) == L"Ghost";
 }
 
 } // namespace
@@ -107,7 +116,7 @@ void WaitingWindow::follow() {
     if (EqualRect(&place, &over_place_) && IsWindowVisible(handle_)) how |= SWP_NOMOVE;
     over_place_ = place;
     const HWND in_front = GetForegroundWindow();
-    const bool above_all = !over_ || in_front == over_ || in_front == handle_;
+    const bool above_all = !over_ || in_front == over_ || in_front == handle_ || is_ghost(in_front);
     HWND behind = HWND_TOPMOST;
     if (!above_all && is_above_all_) // right before the dialog again
         behind = GetWindow(over_, GW_HWNDPREV) ? GetWindow(over_, GW_HWNDPREV) : HWND_NOTOPMOST;

@@ -26,8 +26,8 @@ template <class Function> Function com_function(const char* name) {
                    : nullptr;
 }
 
-constexpr std::array<UINT, 6> ways_to_leave = {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_SYSKEYUP, WM_SYSCOMMAND,
-                                               WM_CLOSE};
+constexpr std::array ways_to_leave = {UINT{WM_LBUTTONDOWN}, UINT{WM_NCLBUTTONDOWN}, UINT{WM_SYSKEYUP},
+                                      UINT{WM_SYSCOMMAND}, UINT{WM_CLOSE}};
 
 /// Takes it out of the queue, so that it does nothing else.
 bool take_escape() {
@@ -111,7 +111,8 @@ bool WatchedWork::break_off_call() {
     const HRESULT entered = CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     const HRESULT cancelled = cancel(worker_, 0);
     if (SUCCEEDED(entered)) CoUninitialize();
-    return SUCCEEDED(cancelled) || cancelled == RPC_E_CALL_COMPLETE;
+    // By an earlier Stop, or the call has just ended.
+    return SUCCEEDED(cancelled) || cancelled == RPC_E_CALL_CANCELED || cancelled == RPC_E_CALL_COMPLETE;
 }
 
 DWORD WINAPI WatchedWork::thread(void* self) noexcept {
