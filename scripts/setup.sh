@@ -22,7 +22,10 @@ packages=(
 )
 
 # Only ./package and its check need these.
-packaging=(nsis wixl msitools faketime zip unzip cmark-gfm osslsigncode openssl libxml2-utils jq)
+packaging=(
+    nsis wixl msitools faketime zip unzip cmark-gfm osslsigncode openssl libxml2-utils jq
+    fp-compiler fp-units-fcl fp-units-misc fp-utils
+)
 
 # SQLite for Windows: its amalgamation, as the npm package better-sqlite3 carries it. A new version needs new sums:
 # scripts/setup.sh fails and prints where the files lie.

@@ -3,6 +3,7 @@
 #include "adapters/to_com.h"
 #include "host/server_entry.h"
 #include "objects/error_object.h"
+#include "objects/help_object.h"
 #include "objects/host_object.h"
 #include "objects/record_objects.h"
 #include "objects/site.h"
@@ -32,6 +33,7 @@ const NamedClass all[] = {
     {{CLSID_hlxOPCServer, new_fresh_entry}, L"brxOpcAuto6.hlxOPCServer", L"A fresh server entry"},
     {{CLSID_Error, new_error_object<_Error>}, L"brxError6.Error", L"Reports an unexpected error"},
     {{CLSID_hlxER01_Error, new_error_object<_hlxError>}, L"hlxER01.Error", L"Reports an unexpected error"},
+    {{CLSID_hlxHelp, new_help_object}, L"brxOpcAuto6.hlxHelp", L"Knows where the help is"},
     {{CLSID_hlxTestGroup, new_group<RecordKind::characteristic>},
      L"brxDatabase6.hlxTestGroup",
      L"A group of characteristics"},

@@ -19,7 +19,7 @@ kit_files() {
         say "licenses/$each.txt"
     done
     printf '%s\n' sbom.spdx.json idl/OPCAutomation_codes.idh idl/OPCAutomation_groups.idh idl/brxOpcAuto6_configuration.idh \
-        idl/reserved.idh LICENSE NOTICE README.html host.exe.manifest doc/CHANGELOG.html
+        idl/reserved.idh LICENSE NOTICE README.html brxOpcDlgs6.chm host.exe.manifest doc/CHANGELOG.html
     for each in "$brx_top"/docs/*.md; do say "doc/$(basename "$each" .md).html"; done
 }
 
@@ -39,18 +39,18 @@ has_samples() {
 
 sums_agree() { (cd "$brx_build/package" && sha256sum --check --quiet SHA256SUMS && [ "$(wc -l <SHA256SUMS)" -eq "$(find . -type f ! -name SHA256SUMS | wc -l)" ]); }
 
-# Links within the pages: the file is there, and has the heading.
+# links_lead_somewhere FOLDER: links within the pages, the file is there, and has the heading.
 links_lead_somewhere() {
-    local page link file name dead=''
+    local folder=$1 page link file name dead=''
     while read -r page; do
         while read -r link; do
             file=${link%%#*}
             name=${link#"$file"}
             file=${file:+$(dirname "$page")/$file}
             [ -f "${file:-$page}" ] && { [ -z "$name" ] || grep -q "id=\"${name#?}\"" "${file:-$page}"; } ||
-                dead+="error: ${page#"$kit"/} has a dead link: $link"$'\n'
+                dead+="error: ${page#"$folder"/} has a dead link: $link"$'\n'
         done < <(grep -oE '(href|src)="[^"]*"' "$page" | sed -E 's/^[a-z]*="(.*)"$/\1/')
-    done < <(find "$kit" -name '*.html')
+    done < <(find "$folder" -name '*.html')
     [ -z "$dead" ] || { say "$dead" && return 1; }
 }
 
@@ -108,11 +108,47 @@ cmake_installs() {
         unzip -l "$work/cpack/brxOpcDlgs6-$version-"*.zip | grep -q bin/brxOpcDlgs6.dll
 }
 
+# The help file opens the right page for each number, as "NUMBER HEADING".
+help_has_its_topics() {
+    local help=$work/help name page
+    rm -rf "$help"
+    mkdir -p "$help"
+    cp "$kit/brxOpcDlgs6.chm" "$help/"
+    (cd "$help" && chmls extractall brxOpcDlgs6.chm pages && chmls extractalias brxOpcDlgs6.chm brxOpcDlgs6 '') >/dev/null 2>&1
+    diff - <(
+        while IFS='=' read -r name page; do
+            say "$name $(sed -nE 's#.*<h1[^>]*>(.*)</h1>.*#\1#p' "$help/pages/$page")"
+        done <"$help/brxOpcDlgs6.ali"
+    ) <<'TOPICS'
+193 Select OPC Server
+194 OPC Test Configuration
+195 Add OPC Server
+196 Set Trigger
+197 Select Item
+198 Server information
+199 Configuration Properties
+200 Descriptor Type
+201 Descriptor Properties
+TOPICS
+}
+
+# Contents and index name pages that are there, too.
+help_leads_somewhere() {
+    local file dead=''
+    links_lead_somewhere "$work/help/pages" || return
+    while read -r file; do
+        [ -s "$work/help/pages/$file" ] || dead+=" $file"
+    done < <(sed -nE 's/.*name="Local" value="([^"]*)".*/\1/p' "$work"/help/pages/{contents.hhc,index.hhk})
+    [ -z "$dead" ] || { say "error: contents or index name what is not there: $dead" && return 1; }
+}
+
 check_contents() {
     rule "the sums agree" sums_agree
     rule "the zip has its files and no others" has_its_files
     rule "the zip has samples" has_samples
-    rule "links in the pages lead somewhere" links_lead_somewhere
+    rule "links in the pages lead somewhere" links_lead_somewhere "$kit"
+    rule "the help file opens the page of each dialog" help_has_its_topics
+    rule "links, contents and index of the help file lead somewhere" help_leads_somewhere
     rule "the list of parts is right" list_of_parts_is_right
     rule "CMake installs, CPack packs" cmake_installs
     rule "the manifests are sound" manifests_are_sound

@@ -27,7 +27,7 @@ stage() {
         cp -rp "$kit/$arch" "$folder/"
         cp -rp "$kit/samples/$arch" "$folder/samples/"
     done
-    cp -rp "$kit/doc" "$kit/LICENSE" "$kit/NOTICE" "$folder/"
+    cp -rp "$kit/doc" "$kit/brxOpcDlgs6.chm" "$kit/LICENSE" "$kit/NOTICE" "$folder/"
     (cd "$kit/samples" && find . -mindepth 1 -maxdepth 1 ! -name x64 ! -name x86) | while read -r each; do
         cp -rp "$kit/samples/$each" "$folder/samples/"
     done

@@ -2,6 +2,7 @@
 # shellcheck shell=bash
 
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/help.sh"
 
 # The name of the side-by-side assembly. It is not the DLL's: Windows would look into that for the manifest.
 assembly=brxOpcDlgs6.Assembly
@@ -101,6 +102,7 @@ make_kit() {
     kit_interfaces "$kit"
     kit_documents "$kit"
     kit_samples "$kit"
+    make_help "$kit/brxOpcDlgs6.chm" "$(dirname "$kit")/help"
     page "$brx_top/packaging/README.md" "$kit/README.html"
     kit_host_manifest >"$kit/host.exe.manifest"
     cp "$brx_top/LICENSE" "$brx_top/NOTICE" "$kit/"

@@ -1,6 +1,7 @@
 #include "sample/windows/objects_stage.h"
 
 #include "adapters/to_com.h"
+#include "common/values/utf16.h"
 #include "common/version.h"
 
 #include <gmock/gmock.h>
@@ -28,9 +29,10 @@ protected:
 };
 
 TEST_F(SampleObjects, EveryClassIsFoundByItsNameInTheManifest) {
-    for (const wchar_t* name : {L"brxSample.Host", L"brxOpcAuto6.hlxOPCServer", L"brxError6.Error",
-                                L"hlxER01.Error", L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd",
-                                L"brxOpcDlgs6.ServerInformation", L"brxOpcDlgs6.LeafSelect"})
+    for (const wchar_t* name :
+         {L"brxSample.Host", L"brxOpcAuto6.hlxOPCServer", L"brxError6.Error", L"hlxER01.Error",
+          L"brxOpcDlgs6.ServerSelect", L"brxOpcDlgs6.ServerAdd", L"brxOpcDlgs6.ServerInformation",
+          L"brxOpcDlgs6.LeafSelect", L"brxOpcAuto6.hlxHelp"})
         EXPECT_TRUE(create_by_name(name)) << std::string(name, name + wcslen(name));
 }
 
@@ -157,6 +159,19 @@ TEST_F(SampleObjects, NothingIsLeftWhenAllReferencesAreGone) {
 }
 
 /// The message box in front, read and pressed away by a timer while it waits.
+TEST_F(SampleObjects, TheHelpFileIsTheOneNextToTheObjectsOrInAFolderAroundThem) {
+    const com_ptr<IDispatch> help = create_by_name(L"brxOpcAuto6.hlxHelp");
+    std::filesystem::path around = host_program();
+    for (int i = 0; i < 3; ++i) {
+        around = around.parent_path();
+        const std::filesystem::path file = around / L"brxOpcDlgs6.chm";
+        EXPECT_EQ(get(help.get(), "HelpFile"), Variant(std::string()));
+        write_file(file, "pages");
+        EXPECT_EQ(get(help.get(), "HelpFile"), Variant(utf8_of(std::wstring_view(file.native()))));
+        std::filesystem::remove(file);
+    }
+}
+
 std::string box_text;
 void CALLBACK press_ok(HWND, UINT, UINT_PTR timer, DWORD) {
     const HWND box = FindWindowW(L"#32770", L"Unexpected Error");
