@@ -150,6 +150,20 @@ TEST(ErrorTrap, KnowsWhoWouldReport) {
     EXPECT_EQ(current_location(), "");
 }
 
+TEST(ErrorTrap, KnowsWhoseProceduresRun) {
+    using Modules = std::vector<std::string>;
+    Reports reports;
+    const Unit unit("Unit", reports);
+    const Unit other("Other", reports);
+    EXPECT_EQ(current_modules(), Modules());
+    unit.trap("A", [&] {
+        EXPECT_EQ(current_modules(), Modules{"Unit"});
+        attempt([] { EXPECT_EQ(current_modules(), Modules{"Unit"}) << "Also where errors are ignored."; });
+        other.trap("B", [] { EXPECT_EQ(current_modules(), (Modules{"Other", "Unit"})); });
+    });
+    EXPECT_EQ(current_modules(), Modules());
+}
+
 TEST(ErrorTexts, AreThoseOfTheHostLanguage) {
     EXPECT_EQ(error_text(5), "Invalid procedure call or argument");
     EXPECT_EQ(error_text(6), "Overflow");

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,17 @@ struct HostCall {
     bool watched = false; ///< a person sees what the work waits for, or has stopped it
     bool undoes = false;  ///< what calls before it did
 };
+
+/// A member of the host's, and the dialog or public class that called it.
+struct CallOfDialog {
+    std::string dialog;
+    std::string member; ///< as in HostCall, without what it was given
+    auto operator<=>(const CallOfDialog&) const = default;
+};
+
+/// All that were called in this program so far, of whatever host. Natively: elsewhere the dialogs are in
+/// another module, which does not tell.
+std::set<CallOfDialog> calls_of_all_dialogs();
 
 /// Every call to the host's objects, in order. One of them can be made to fail.
 class CallLog {
@@ -39,6 +51,7 @@ public:
                          .location = current_location_text(),
                          .watched = call_gate::minded != 0,
                          .undoes = call_gate::is_wide_open});
+        remember_who_calls(member);
         if (static_cast<int>(made_.size()) == deed_at_) deed_();
         instead_.reset();
         if (in_each) in_each(made_.size() - 1);
@@ -107,6 +120,7 @@ public:
 
 private:
     static std::string current_location_text();
+    static void remember_who_calls(const std::string& member);
     /// As calls of members do in the component.
     void pass_gate() {
         try {

@@ -71,7 +71,7 @@ as_drawn() {
 }
 
 # The one program in the guide is the one that is built and run.
-shown_example() { diff <(sed -n '/^```cpp$/,/^```$/{//!p}' docs/embedding.md) sample/describe/main.cpp; }
+shown_example() { diff <(sed -n '/^```cpp$/,/^```$/{//!p}' docs/testing.md) sample/describe/main.cpp; }
 
 # The version stands in CMakeLists.txt, and the changelog begins with it; everything else is told it. Those of the system
 # controls look alike.

@@ -74,6 +74,13 @@ std::string current_location() {
     return std::string(innermost->module_) + "." + innermost->procedure_;
 }
 
+std::vector<std::string> current_modules() {
+    std::vector<std::string> modules;
+    for (const TrapScope* each = innermost; each; each = each->outer_)
+        if (each->module_) modules.emplace_back(each->module_);
+    return modules;
+}
+
 void Module::report(ErrorLibrary library, const char* procedure) const noexcept {
     // Building the report can itself run out of memory: then there is nothing left to say it with.
     attempt([&] {

@@ -6,6 +6,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brx {
 
@@ -40,6 +41,10 @@ public:
 /// and where errors are ignored. Checks use it to know which report a failing host call must lead to.
 std::string current_location();
 
+/// The modules whose procedures run on this thread, the innermost first; also where errors are ignored.
+/// Checks use it to know which dialog makes a call.
+std::vector<std::string> current_modules();
+
 /// For its lifetime failures of this thread go to the named procedure's trap, or to nobody when both are
 /// null.
 class TrapScope {
@@ -51,6 +56,7 @@ public:
 
 private:
     friend std::string current_location();
+    friend std::vector<std::string> current_modules();
     const char* module_;
     const char* procedure_;
     const TrapScope* outer_;
