@@ -47,7 +47,7 @@ without_clash() {
 }
 
 # The compiler writes down where its source lay.
-without_folder() { sed '1s# from .*/# from #'; }
+without_folder() { sed -E '1s# from [^ ]*/# from #'; }
 
 kit_interfaces() {
     local kit=$1 made=$brx_build/windows-x64/idl file
