@@ -158,6 +158,40 @@ TEST_F(ListTest, AListBoxScrollsAsFarAsTheWidestLineThatWasSeen) {
     });
 }
 
+TEST_F(ListTest, AListBoxScrollsNoFurtherThanTheSystemCanSay) {
+    ListForm form(environment);
+    form.on_load = [&] { form.Box.add_line(std::string(10'000, 'W')); };
+    show(form, [&](Hands& hands) {
+        hands.form("Lists");
+        hands.wait_until_idle();
+        EXPECT_EQ(extent_of(hands.control("Lists", "Box")), 0x7FFF);
+    });
+}
+
+TEST_F(ListTest, ATextThatAListHasAskedForIsStillThereWhenItAsksForTheNext) {
+    ListForm form(environment);
+    form.on_load = [&] { add_three(form.Box); };
+    show(form, [&](Hands& hands) {
+        hands.form("Lists");
+        const HWND box = hands.control("Lists", "Box");
+        hands.run([&] {
+            const auto ask = [&](int line) {
+                NMLVDISPINFOW question{};
+                question.hdr = {box, static_cast<UINT_PTR>(GetDlgCtrlID(box)), LVN_GETDISPINFOW};
+                question.item.mask = LVIF_TEXT;
+                question.item.iItem = line;
+                SendMessageW(GetParent(box), WM_NOTIFY, question.hdr.idFrom,
+                             reinterpret_cast<LPARAM>(&question));
+                return question.item.pszText;
+            };
+            const wchar_t* const first = ask(0);
+            const wchar_t* const second = ask(1);
+            EXPECT_EQ(from_wide(first), "one");
+            EXPECT_EQ(from_wide(second), "two");
+        });
+    });
+}
+
 TEST_F(ListTest, AListBoxFilledAnewBeginsAtItsFirstLine) {
     ListForm form(environment);
     const auto fill = [&] {

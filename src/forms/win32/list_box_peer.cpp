@@ -43,7 +43,7 @@ void ListBoxPeer::fit_columns() {
     const bool has_bar = (GetWindowLongW(handle(), GWL_STYLE) & WS_VSCROLL) != 0;
     if (!has_bar && list_.count() > static_cast<int>(send(LVM_GETCOUNTPERPAGE)))
         room.right -= GetSystemMetrics(SM_CXVSCROLL);
-    const auto width = std::max(static_cast<int>(room.right), widest_);
+    const auto width = std::min(std::max(static_cast<int>(room.right), widest_), widest_column);
     if (static_cast<int>(send(LVM_GETCOLUMNWIDTH)) != width) send(LVM_SETCOLUMNWIDTH, 0, width);
 }
 

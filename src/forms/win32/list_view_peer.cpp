@@ -54,7 +54,7 @@ void ListViewPeer::fit_columns() {
         ColumnWidth& width = widths_[i];
         const auto now = static_cast<int>(send(LVM_GETCOLUMNWIDTH, i));
         if (now != width.shown && width.shown != 0) width.design = now / shown_by_;
-        width.shown = static_cast<int>(std::lround(width.design * by));
+        width.shown = std::min(static_cast<int>(std::lround(width.design * by)), widest_column);
         if (now != width.shown) send(LVM_SETCOLUMNWIDTH, i, width.shown);
     }
     shown_by_ = by;

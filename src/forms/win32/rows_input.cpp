@@ -39,8 +39,10 @@ LRESULT RowsPeer::notified_of(NMHDR& notification) {
 void RowsPeer::answer(LVITEMW& asked) {
     if ((asked.mask & LVIF_TEXT) == 0) return;
     const bool known = in_range(asked.iItem, asked.iSubItem);
-    to_wide(known ? cell(asked.iItem, asked.iSubItem) : std::string_view(), answered_);
-    asked.pszText = answered_.data();
+    next_answer_ = 1 - next_answer_;
+    std::wstring& text = answers_[next_answer_];
+    to_wide(known ? cell(asked.iItem, asked.iSubItem) : std::string_view(), text);
+    asked.pszText = text.data();
 }
 
 /// Typing looks for a row that begins so.

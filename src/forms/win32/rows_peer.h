@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ public:
     LRESULT notified_of(NMHDR& notification) override;
 
 protected:
+    /// Whoever makes a column wider tells it in 16 bits with a sign.
+    static constexpr int widest_column = 0x7FFF;
+
     /// The style comes to those that every such list has.
     RowsPeer(FormWindow& window, Control& control, DWORD style);
 
@@ -80,8 +84,9 @@ private:
     int selected_index() const;
     int focused_index() const;
 
-    std::wstring answered_; ///< the text that was asked for last
-    POINT mouse_{-1, -1};   ///< where it was last over the rows
+    std::array<std::wstring, 2> answers_; ///< what was asked for last, and before: it is still looked at
+    std::size_t next_answer_ = 0;
+    POINT mouse_{-1, -1}; ///< where it was last over the rows
     std::wstring tip_;
     int shown_count_ = 0;
     int shown_selection_ = -1;  ///< what the window was brought to, or said last
