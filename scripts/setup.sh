@@ -24,7 +24,7 @@ packages=(
 # Only ./package and its check need these.
 packaging=(
     nsis wixl msitools faketime zip unzip cmark-gfm osslsigncode openssl libxml2-utils jq
-    fp-compiler fp-units-fcl fp-units-misc fp-utils
+    fp-compiler fp-units-fcl fp-units-misc fp-utils fpc-source
 )
 
 # SQLite for Windows: its amalgamation, as the npm package better-sqlite3 carries it. A new version needs new sums:

@@ -31,7 +31,7 @@ has_its_files() {
 
 has_samples() {
     local each missing=''
-    for each in scripts/select-server.vbs scripts/configure.vbs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
+    for each in scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp csharp/Pick.cs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
         [ -s "$kit/samples/$each" ] || missing+="error: there is no samples/$each"$'\n'
     done
     [ -z "$missing" ] || { say "$missing" && return 1; }

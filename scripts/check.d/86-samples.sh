@@ -1,0 +1,132 @@
+#!/usr/bin/env bash
+# The samples for the makers of hosts, in each language that can be run here, on real windows.
+# On request only: the compilers of other languages come with what packing needs.
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
+source "$brx_top/scripts/wine-lib.sh"
+source "$brx_top/scripts/package/kit.sh"
+cd "$brx_top"
+
+samples=$brx_top/samples
+work=$brx_build/samples-check
+mingw=x86_64-w64-mingw32
+
+# What the person picks, and what each sample then prints.
+item="Filler.Head 1.Weight"
+picked="Simulation.Packing.1: $item"
+
+register() {
+    local dll
+    for dll in "$brx_dll" sample/objects/brxSample.dll; do
+        wine_run 60 regsvr32 /s "$(wine_path "$brx_build/windows-x64/$dll")" || return
+    done
+}
+
+# wait_for TITLE: until a window has it.
+wait_for() {
+    local tries
+    for ((tries = 0; tries < 300; ++tries)); do
+        xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1 && return 0
+        sleep 0.1
+    done
+    say "error: no window is called $1"
+    return 1
+}
+
+# The first server, and the item by its identifier.
+pick_by_keys() {
+    wait_for "Select OPC Server" && sleep 0.5 && xdotool key Down Return || return
+    wait_for "Select Item.*" && sleep 1 && xdotool key alt+c && xdotool type --delay 30 "$item" && xdotool key Return
+}
+leave_by_keys() { wait_for "Select OPC Server" && sleep 0.5 && xdotool key Escape; }
+
+# shown_by KEYS COMMAND..: what it prints, and "status N", while a person uses the keyboard.
+shown_by() {
+    local keys=$1 status=0 output
+    shift
+    "$keys" >"$work/person" &
+    output=$(wine_run 60 "$@" 2>"$work/errors") || status=$?
+    kill $! 2>/dev/null || true
+    printf '%s\nstatus %d\n' "${output//$'\r'/}" "$status"
+}
+prints() {
+    local wanted=$1 found
+    shift
+    found=$(shown_by "$@")
+    [ "$found" = "$wanted" ] || { say "error: it printed $found" "$(cat "$work/person" "$work/errors")" && return 1; }
+}
+
+# try_sample LANGUAGE COMMAND..
+try_sample() {
+    local language=$1
+    shift
+    rule "$language: the sample picks a server and an item" prints "$picked"$'\nstatus 0' pick_by_keys "$@"
+    rule "$language: the sample ends with 1 when nothing was picked" prints $'\nstatus 1' leave_by_keys "$@"
+}
+
+compile_c() {
+    local include=$work/kit/include
+    "$mingw-gcc" -std=c99 -Wall -Wextra -Werror -static -I "$include" -o "$work/pick-c.exe" \
+        "$samples/c/pick.c" "$include/brxOpcDlgs6_i.c" -lole32 -loleaut32 -luuid
+}
+compile_cpp() {
+    local include=$work/kit/include
+    "$mingw-gcc" -c -o "$work/identifiers.o" "$include/brxOpcDlgs6_i.c"
+    "$mingw-g++" -std=c++17 -Wall -Wextra -Wpedantic -Werror -static -I "$include" -o "$work/pick-cpp.exe" \
+        "$samples/cpp/pick.cpp" "$work/identifiers.o" -lole32 -loleaut32 -luuid
+}
+# Free Pascal's own units for Windows, which Debian has as sources only.
+pascal_sources=$(echo /usr/share/fpcsrc/*)
+pascal_units=$brx_cache/pascal-win64
+pascal() {
+    local rtl=$pascal_sources/rtl folder search=()
+    for folder in win inc objpas objpas/sysutils objpas/classes win64 win/wininc x86_64; do search+=("-Fi$rtl/$folder" "-Fu$rtl/$folder"); done
+    for folder in rtl-objpas/src/{win,inc,common} winunits-base/src fcl-base/src fcl-registry/src; do
+        search+=("-Fi$pascal_sources/packages/$folder" "-Fu$pascal_sources/packages/$folder")
+    done
+    ppcx64 -Twin64 -n -O1 -v0e "${search[@]}" "-Fu$pascal_units" "-FU$pascal_units" "$@"
+}
+make_pascal_units() {
+    [ ! -s "$pascal_units/done" ] || return 0
+    rm -rf "$pascal_units"
+    mkdir -p "$pascal_units"
+    pascal -Us -Sg "$pascal_sources/rtl/win64/system.pp" && pascal "$pascal_sources/rtl/win64/sysinit.pp" &&
+        pascal "$pascal_sources/rtl/win64/buildrtl.pp" && date >"$pascal_units/done"
+}
+compile_pascal() { pascal "-o$work/pick-pascal.exe" "$samples/pascal/pick.pas"; }
+
+parse_python() { python3 -c 'import ast, sys; ast.parse(open(sys.argv[1]).read())' "$samples/python/pick.py"; }
+
+# Each has a page, and the overview leads to it.
+has_pages() {
+    local folder missing=''
+    for folder in "$samples"/*/; do
+        folder=$(basename "$folder")
+        [ -s "$samples/$folder/README.md" ] && grep -q "($folder/README.md)" "$samples/README.md" || missing+=" $folder"
+    done
+    [ -z "$missing" ] || { say "error: no page, or not in samples/README.md:$missing" && return 1; }
+}
+
+rm -rf "$work"
+mkdir -p "$work/kit"
+rule "each sample has a page" has_pages
+need "what packing needs is there" scripts/setup.sh --package
+need "the component and the sample's objects build" build windows-x64 brxOpcDlgs6 brxSample
+need "the headers can be made" kit_interfaces "$work/kit"
+trap wine_end EXIT
+wine_begin 64 wine64-samples
+need "both can be registered" register
+try_sample VBScript cscript //nologo "$(wine_path "$samples/vbscript/pick.vbs")"
+try_sample JScript cscript //nologo "$(wine_path "$samples/jscript/pick.js")"
+need "the sample in C compiles" compile_c
+try_sample C "$work/pick-c.exe"
+need "the sample in C++ compiles" compile_cpp
+try_sample C++ "$work/pick-cpp.exe"
+need "Free Pascal's units for Windows can be made" make_pascal_units
+need "the sample in Object Pascal compiles" compile_pascal
+try_sample "Object Pascal" "$work/pick-pascal.exe"
+rule "the sample in Python can be parsed" parse_python
+for language in "C#" PowerShell "Visual Basic" Python; do
+    skip "$language: the sample is run" "there is nothing here to run it with"
+done
+part_end
