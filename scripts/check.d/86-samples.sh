@@ -38,6 +38,7 @@ pick_by_keys() {
     wait_for "Select OPC Server" && sleep 0.5 && xdotool key Down Return || return
     wait_for "Select Item.*" && sleep 1 && xdotool key alt+c && xdotool type --delay 30 "$item" && xdotool key Return
 }
+third_by_keys() { wait_for "Select OPC Server" && sleep 0.5 && xdotool key Down Down Down Return; }
 leave_by_keys() { wait_for "Select OPC Server" && sleep 0.5 && xdotool key Escape; }
 
 # shown_by KEYS COMMAND..: what it prints, and "status N", while a person uses the keyboard.
@@ -70,10 +71,12 @@ compile_c() {
         "$samples/c/pick.c" "$include/brxOpcDlgs6_i.c" -lole32 -loleaut32 -luuid
 }
 compile_cpp() {
-    local include=$work/kit/include
+    local include=$work/kit/include name
     "$mingw-gcc" -c -o "$work/identifiers.o" "$include/brxOpcDlgs6_i.c"
-    "$mingw-g++" -std=c++17 -Wall -Wextra -Wpedantic -Werror -static -I "$include" -o "$work/pick-cpp.exe" \
-        "$samples/cpp/pick.cpp" "$work/identifiers.o" -lole32 -loleaut32 -luuid
+    for name in pick serve; do
+        "$mingw-g++" -std=c++17 -Wall -Wextra -Wpedantic -Werror -static -I "$include" -o "$work/$name-cpp.exe" \
+            "$samples/cpp/$name.cpp" "$work/identifiers.o" -lole32 -loleaut32 -luuid || return
+    done
 }
 # Free Pascal's own units for Windows, which Debian has as sources only.
 pascal_sources=$(echo /usr/share/fpcsrc/*)
@@ -122,6 +125,8 @@ need "the sample in C compiles" compile_c
 try_sample C "$work/pick-c.exe"
 need "the sample in C++ compiles" compile_cpp
 try_sample C++ "$work/pick-cpp.exe"
+rule "C++: a host with objects of its own has its third server picked" \
+    prints $'Server 3\nstatus 0' third_by_keys "$work/serve-cpp.exe"
 need "Free Pascal's units for Windows can be made" make_pascal_units
 need "the sample in Object Pascal compiles" compile_pascal
 try_sample "Object Pascal" "$work/pick-pascal.exe"

@@ -19,7 +19,7 @@ kit_files() {
         say "licenses/$each.txt"
     done
     printf '%s\n' sbom.spdx.json idl/OPCAutomation_codes.idh idl/OPCAutomation_groups.idh idl/brxOpcAuto6_configuration.idh \
-        idl/reserved.idh LICENSE NOTICE README.html brxOpcDlgs6.chm host.exe.manifest doc/CHANGELOG.html
+        idl/reserved.idh include/brxModel.h LICENSE NOTICE README.html brxOpcDlgs6.chm host.exe.manifest doc/CHANGELOG.html
     for each in "$brx_top"/docs/*.md; do say "doc/$(basename "$each" .md).html"; done
 }
 
@@ -143,6 +143,8 @@ help_leads_somewhere() {
 }
 
 check_contents() {
+    local library
+    library=$(echo /usr/lib/gcc/x86_64-w64-mingw32/*-posix/include/c++)
     rule "the sums agree" sums_agree
     rule "the zip has its files and no others" has_its_files
     rule "the zip has samples" has_samples
@@ -155,7 +157,9 @@ check_contents() {
     rule "gcc takes the headers as C++" headers_compile x86_64-w64-mingw32-g++ -x c++
     rule "gcc takes the headers as C" headers_compile x86_64-w64-mingw32-gcc -x c
     rule "gcc takes the headers in 32 bits" headers_compile i686-w64-mingw32-g++ -x c++
-    rule "clang takes the headers" headers_compile clang --target=x86_64-w64-mingw32 -x c
+    rule "clang takes the headers as C" headers_compile clang --target=x86_64-w64-mingw32 -x c
+    rule "clang takes the headers as C++" headers_compile clang++ --target=x86_64-w64-mingw32 -x c++ \
+        "-stdlib++-isystem$library" "-stdlib++-isystem$library/x86_64-w64-mingw32"
     rule "the 64-bit debug file knows function and line" debug_file_knows x86_64-w64-mingw32 x64
     rule "the 32-bit debug file knows function and line" debug_file_knows i686-w64-mingw32 x86
 }
