@@ -39,6 +39,8 @@ function(brx_check_part name)
     endif()
     file(GENERATE OUTPUT "${BRX_CHECK_PROGRAMS}/${name}"
         CONTENT "${arg_PART} ${arg_SECONDS} $<TARGET_FILE:${name}>\n")
+    set_property(GLOBAL APPEND PROPERTY BRX_CHECK_TARGETS ${name})
+    set_property(GLOBAL PROPERTY BRX_SECONDS_OF_${name} ${arg_SECONDS})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_SECONDS} LABELS ${arg_PART})
     if(WIN32)

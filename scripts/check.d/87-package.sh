@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The package: what is in it, two builds of it, signing, and its installers on machines with nothing but Wine.
+# The package: what is in it, two builds of it, signing, its installers and its check kit on machines with nothing but
+# Wine.
 # On request only: it builds everything twice, once without the compiler cache.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
@@ -12,6 +13,7 @@ work=$brx_build/package-check
 version=$(project_version)
 out=$brx_build/package
 kit=$work/kit/brxOpcDlgs6-$version
+source "$brx_top/scripts/package/kit-trial.sh"
 # Another folder, with a name of another length.
 second=$work/second-tree-elsewhere
 
@@ -41,6 +43,7 @@ all_signed() {
     local file unsigned=''
     rm -rf "$work/signed"
     unzip -q -d "$work/signed" "$second/build/package/brxOpcDlgs6-$version.zip"
+    unzip -q -d "$work/signed" "$second/build/package/brxOpcDlgs6-$version-checks.zip"
     while read -r file; do
         is_signed "$file" || unsigned+="error: not signed: $file"$'\n'
     done < <(find "$work/signed" "$second/build/package" -name '*.dll' -o -name '*.exe' -o -name '*.msi')
@@ -58,6 +61,8 @@ need "the package is made again, elsewhere and from nothing" build_again
 rule "both have the same bytes" same_bytes
 need "the package is made and signed" signed_package
 rule "everything that is loaded or started is signed" all_signed
+
+try_check_kit
 
 trap wine_end EXIT
 need "an earlier version can be packed" make_earlier
