@@ -88,7 +88,7 @@ void Comparison::fail(const std::string& text, std::uint64_t count) {
 bool Comparison::finish() {
     std::map<Key, Group> known;
     for (const Row& row : rows) {
-        if (row.reason && asked_.contains({row.locale, row.function})) {
+        if (row.reason && known_are_met_ && asked_.contains({row.locale, row.function})) {
             known[{row.reason, row.locale, row.function}] = {row.count, row.digest};
         }
     }

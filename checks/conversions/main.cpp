@@ -10,6 +10,7 @@
 #include "com/system_locale.h"
 #include "common/error.h"
 #include "conversions/conversions.h"
+#include "system/this_system.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -53,7 +54,7 @@ int main(int argc, char** argv) {
     const auto given = [&](const char* option) {
         return std::find(arguments.begin(), arguments.end(), option);
     };
-    Comparison comparison(given("--list") != arguments.end());
+    Comparison comparison(given("--list") != arguments.end(), checks::is_wine());
     const auto script = given("--script");
     try {
         if (script == arguments.end()) {

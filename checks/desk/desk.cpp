@@ -40,6 +40,12 @@ void close_everything(DWORD thread) {
     }
 }
 
+bool own_window_is_in_front() {
+    DWORD process = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &process);
+    return process == GetCurrentProcessId();
+}
+
 INPUT key_input(WORD virtual_key, DWORD flags) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
@@ -118,6 +124,9 @@ bool Hands::eventually(const std::function<bool()>& condition) {
 }
 
 void Hands::strike(const std::vector<WORD>& virtual_keys) {
+    // The system gives them to whatever is in front.
+    if (!eventually(own_window_is_in_front))
+        give_up("another program is in front, or none: it would get the keys");
     std::vector<INPUT> inputs;
     for (const WORD each : virtual_keys) inputs.push_back(key_input(each, 0));
     for (auto each = virtual_keys.rbegin(); each != virtual_keys.rend(); ++each)

@@ -1,6 +1,7 @@
 #include "desk/hands.h"
 
 #include "com/bstr.h"
+#include "system/this_system.h"
 
 #include <array>
 
@@ -68,12 +69,19 @@ std::vector<Stroke> strokes_for(const std::string& text) {
 }
 
 void press_down(HWND window, const Stroke& stroke) {
+    // Wine finds the character in the message; Windows keeps it with real input, which a posted message is
+    // not.
+    if (stroke.key == VK_PACKET && !is_wine()) {
+        PostMessageW(window, WM_CHAR, stroke.character, once);
+        return;
+    }
     PostMessageW(window, stroke.alt ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, details_of(stroke));
     // The system itself says so beside the key.
     if (stroke.key == VK_F1) PostMessageW(window, f1_message, 0, 0);
 }
 
 void let_go(HWND window, const Stroke& stroke) {
+    if (stroke.key == VK_PACKET && !is_wine()) return;
     PostMessageW(window, stroke.alt ? WM_SYSKEYUP : WM_KEYUP, stroke.key, details_of(stroke) | released);
 }
 

@@ -1,6 +1,6 @@
 #include "leaks/system_handles.h"
 
-#include <windows.h>
+#include "system/this_system.h"
 
 #include <algorithm>
 #include <vector>
@@ -29,9 +29,19 @@ template <class Handle, class Create, class Destroy> int highest_index(Create&& 
     return highest;
 }
 
+SystemHandles as_windows_counts() {
+    const HANDLE process = GetCurrentProcess();
+    DWORD kernel = 0;
+    GetProcessHandleCount(process, &kernel);
+    return {.user = static_cast<int>(GetGuiResources(process, GR_USEROBJECTS)),
+            .gdi = static_cast<int>(GetGuiResources(process, GR_GDIOBJECTS)),
+            .kernel = static_cast<int>(kernel)};
+}
+
 } // namespace
 
 SystemHandles system_handles() {
+    if (!is_wine()) return as_windows_counts();
     SystemHandles handles;
     handles.user = highest_index<HWND>(
         [] {

@@ -6,6 +6,8 @@
 #include <cstdio>
 
 #ifdef _WIN32
+#include "system/needs.h"
+
 #include <windows.h>
 #endif
 
@@ -35,6 +37,9 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s: unknown argument %s\n", argv[0], argv[1]);
         return 2;
     }
+#ifdef _WIN32
+    brx::checks::skip_what_the_system_lacks();
+#endif
     const bool only_listed = testing::GTEST_FLAG(list_tests);
     const bool succeeded = RUN_ALL_TESTS() == 0;
     if (only_listed) return 0;

@@ -54,7 +54,8 @@ int points_unlike(Hands& hands, HWND control, COLORREF color) {
     hands.run([&] {
         RECT place = place_in_form(control);
         InflateRect(&place, -4, -4);
-        const HDC dc = GetDC(GetParent(control));
+        // Not GetDC, from which Windows cuts the controls out.
+        const HDC dc = GetDCEx(GetParent(control), nullptr, DCX_CACHE);
         for (LONG y = place.top; y < place.bottom; y += 5)
             for (LONG x = place.left; x < place.right; x += 5)
                 if (GetPixel(dc, x, y) != color) ++unlike;

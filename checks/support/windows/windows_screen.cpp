@@ -171,7 +171,9 @@ bool WindowsScreen::answer(std::int32_t button) {
     return done([&] {
         const HWND box = top_window();
         if (!box || !is_message_box(box)) return false;
-        const HWND window = GetDlgItem(box, button);
+        HWND window = GetDlgItem(box, button);
+        // The only button of a box with OK has the number of Cancel on Windows.
+        if (!window && button == IDOK) window = GetDlgItem(box, IDCANCEL);
         return window && click_into(window, centre_of(window));
     });
 }
