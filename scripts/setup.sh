@@ -5,6 +5,7 @@
 #   scripts/setup.sh            everything but the 32-bit root
 #   scripts/setup.sh --all      also the 32-bit root (scripts/wine32.sh make; some minutes and about 1 GB, once)
 #   scripts/setup.sh --package  also what ./package needs
+#   scripts/setup.sh --sqlite   only SQLite for Windows; also on Windows, with MSYS2
 #   scripts/setup.sh --check    changes nothing; exit status 0 when nothing is missing
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
@@ -88,15 +89,16 @@ fetch_sqlite() {
     )
 }
 
-check_only='' with_wine32=''
+check_only='' with_wine32='' only_sqlite=''
 for argument in "$@"; do
     case $argument in
     --all) with_wine32=yes ;;
+    --sqlite) only_sqlite=yes ;;
     --package) packages+=("${packaging[@]}") ;;
     --check) check_only=yes ;;
-    *) die "use: scripts/setup.sh [--all | --package] [--check]" ;;
+    *) die "use: scripts/setup.sh [--all | --package | --sqlite] [--check]" ;;
     esac
 done
-install_packages || exit 1
+[ -n "$only_sqlite" ] || install_packages || exit 1
 fetch_sqlite || exit 1
 if [ -n "$with_wine32" ]; then "$brx_top/scripts/wine32.sh" make; fi
