@@ -50,17 +50,21 @@ run_kit() {
     wine_run "$seconds" cmd /c "$(wine_path "$folder/check.cmd")" "$@"
 }
 
-# A program that does not start, a DLL that is not there.
+# A program that does not start, one that takes too long, a DLL that is not there.
 notices_what_is_spoiled() {
     local arch=$1 spoiled="$work/spoiled kit $1" told status=0
     rm -rf "$spoiled"
     cp -r "$check_kit" "$spoiled"
     say "no program" >"$spoiled/$arch/checks/com/brx_com_checks.exe"
+    sed -i 's/^[0-9]* gtest brx_screen_checks/1 gtest brx_screen_checks/' "$spoiled/$arch/programs.txt"
     rm "$spoiled/$arch/src/dll/brxOpcDlgs6.dll"
-    told=$(run_kit 300 "$spoiled" brx_com_checks brx_server_checks --gtest_filter='TypeLibraryTest.*') || status=$?
+    told=$(run_kit 300 "$spoiled" brx_com_checks brx_screen_checks brx_server_checks \
+        --gtest_filter='TypeLibraryTest.*:WindowsScreenTest.*') || status=$?
     say "$told"
     [ "$status" -eq 1 ] || { say "error: it ended with status $status" && return 1; }
     grep -q '^FAILED: it does not start: error ' <<<"$told" || { say "error: no word of the program" && return 1; }
+    grep -q '^FAILED: it was ended at its time limit, in WindowsScreenTest\.' <<<"$told" ||
+        { say "error: no word of the program that takes too long" && return 1; }
     grep -q '^FAILED: Type library: ' <<<"$told" || { say "error: no word of the DLL" && return 1; }
     tail -n 1 <<<"$told" | grep -qE '^[0-9]+ passed, [1-9][0-9]* failed, [0-9]+ skipped.?$'
 }
