@@ -96,7 +96,19 @@ make_pascal_units() {
     pascal -Us -Sg "$pascal_sources/rtl/win64/system.pp" && pascal "$pascal_sources/rtl/win64/sysinit.pp" &&
         pascal "$pascal_sources/rtl/win64/buildrtl.pp" && date >"$pascal_units/done"
 }
-compile_pascal() { pascal "-o$work/pick-pascal.exe" "$samples/pascal/pick.pas"; }
+compile_pascal() {
+    local name units=$work/pascal
+    # The compiler takes for made what lies where it puts its own.
+    cp -r "$pascal_units" "$units"
+    for name in pick serve; do
+        pascal "-Fu$work/kit/pascal" "-FU$units" "-o$work/$name-pascal.exe" "$samples/pascal/$name.pas" || return
+    done
+}
+# Those that no sample uses.
+compile_pascal_units() {
+    local unit
+    for unit in "$work/kit/pascal/"*.pas; do pascal "-Fu$work/kit/pascal" "-FU$work/pascal" "$unit" || return; done
+}
 
 parse_python() { python3 -c 'import ast, sys; ast.parse(open(sys.argv[1]).read())' "$samples/python/pick.py"; }
 
@@ -129,7 +141,10 @@ rule "C++: a host with objects of its own has its third server picked" \
     prints $'Server 3\nstatus 0' third_by_keys "$work/serve-cpp.exe"
 need "Free Pascal's units for Windows can be made" make_pascal_units
 need "the sample in Object Pascal compiles" compile_pascal
+rule "Object Pascal: the units of the kit compile" compile_pascal_units
 try_sample "Object Pascal" "$work/pick-pascal.exe"
+rule "Object Pascal: a host with objects of its own has its third server picked" \
+    prints $'Server 3\nstatus 0' third_by_keys "$work/serve-pascal.exe"
 rule "the sample in Python can be parsed" parse_python
 for language in "C#" PowerShell "Visual Basic" Python; do
     skip "$language: the sample is run" "there is nothing here to run it with"

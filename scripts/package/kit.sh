@@ -59,6 +59,7 @@ kit_interfaces() {
         without_folder <"$made/${file}_i.c" >"$kit/include/${file}_i.c"
     done
     kit_model_header "$kit"
+    kit_pascal "$kit"
 }
 
 # The base of a C++ host's objects, with a class for each interface.
@@ -68,6 +69,24 @@ kit_model_header() {
     sed -e "/^\/\/ @CLASSES@/{r $classes" -e 'd}' "$brx_top/packaging/brxModel.h" >"$kit/include/brxModel.h"
     rm "$classes"
 }
+
+# Units for Object Pascal: one for each library, and the base of a host's objects.
+kit_pascal() {
+    local kit=$1 file made=$1/pascal/made
+    mkdir -p "$made"
+    for file in "$kit"/idl/*.idl; do
+        file=$(basename "$file" .idl)
+        awk -f "$brx_top/scripts/package/idl.awk" "$kit/idl/$file.idl" >"$made/$file"
+        pascal_part unit pass=1 "$made/$file" pass=2 "$made/$file" >"$kit/pascal/${file}_TLB.pas"
+    done
+    for file in classes bodies; do
+        pascal_part "$file" pass=2 "$made/brxOpcAuto6" "$made/brxDatabase6" "$made/OPCAutomation" >"$made/$file"
+    done
+    sed -e "/^\/\/ @CLASSES@/{r $made/classes" -e 'd}' -e "/^\/\/ @BODIES@/{r $made/bodies" -e 'd}' \
+        "$brx_top/packaging/brxModel.pas" >"$kit/pascal/brxModel.pas"
+    rm -r "$made"
+}
+pascal_part() { awk -v part="$1" -f "$brx_top/scripts/package/pascal.awk" "${@:2}"; }
 
 kit_host_manifest() {
     local version
