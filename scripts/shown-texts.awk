@@ -3,7 +3,7 @@
 # called and what they are for is not among them, nor are paths, formats, and what a trace tells.
 
 function is_shown(text, before) {
-    if (before ~ /\.(caption|tip) *= *$/ || text ~ /^&/) return 0
+    if (before ~ /\.(caption|accessible_name) *= *$/ || text ~ /^&/) return 0
     if (text ~ /\\\\/ || text ~ /^%/ || in_trace) return 0
     if (before ~ /\.(text|title) *= *$/) return text ~ /[[:alpha:]]/
     return text ~ /[[:alpha:]][^[:alpha:]]* +[^[:alpha:]]*[[:alpha:]][[:alpha:]]/

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "apart/server_program.h"
-#include "com/com_ptr.h"
 #include "scenario.h"
+#include "win32/com_ptr.h"
 
 #include <OPCAutomation.h>
 

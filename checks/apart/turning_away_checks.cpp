@@ -1,6 +1,6 @@
-#include "com/com_ptr.h"
-#include "com/counted.h"
 #include "server/calls.h"
+#include "win32/com_ptr.h"
+#include "win32/counted.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "bench/component.h"
 
 #include "com/failure.h"
-#include "com/module.h"
+#include "win32/module.h"
 
 #include <cstring>
 #include <stdexcept>

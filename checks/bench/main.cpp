@@ -18,7 +18,7 @@
 #include "bench/openings.h"
 #include "bench/walk.h"
 
-#include "com/module.h"
+#include "win32/module.h"
 
 #include <cstdio>
 #include <cstdlib>

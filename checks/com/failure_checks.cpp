@@ -1,9 +1,9 @@
 #include "com/failure.h"
 
 #include "com/bstr.h"
-#include "com/com_ptr.h"
-#include "com/counted.h"
 #include "com/describe.h"
+#include "win32/com_ptr.h"
+#include "win32/counted.h"
 
 #include <gtest/gtest.h>
 

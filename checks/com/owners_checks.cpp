@@ -1,11 +1,11 @@
 #include "com/bstr.h"
-#include "com/counted.h"
 #include "com/describe.h"
 #include "com/failure.h"
 #include "com/opc_doubles.h"
 #include "com/owned_variant.h"
 #include "com/round_trip.h"
 #include "com/safe_array.h"
+#include "win32/counted.h"
 
 #include <gtest/gtest.h>
 

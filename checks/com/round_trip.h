@@ -5,8 +5,8 @@
 #include "com/describe.h"
 #include "com/doubles.h"
 #include "com/late_bound.h"
-#include "com/module.h"
 #include "com/type_text.h"
+#include "win32/module.h"
 
 #include <gtest/gtest.h>
 

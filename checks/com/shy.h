@@ -1,6 +1,6 @@
 #pragma once
 
-#include "com/counted.h"
+#include "win32/counted.h"
 
 #include <windows.h>
 

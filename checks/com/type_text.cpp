@@ -1,9 +1,9 @@
 #include "com/type_text.h"
 
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "com/failure.h"
-#include "com/module.h"
+#include "win32/com_ptr.h"
+#include "win32/module.h"
 
 #include <oleauto.h>
 

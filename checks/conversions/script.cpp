@@ -1,9 +1,9 @@
 #include "conversions/script.h"
 
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "common/error.h"
 #include "conversions/reference.h"
+#include "win32/com_ptr.h"
 
 #include <initguid.h>
 

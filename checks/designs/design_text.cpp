@@ -47,7 +47,7 @@ std::string own_text(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control))
         return " '" + button->caption() + "'" + (button->is_default() ? " default" : "") +
                (button->is_cancel() ? " cancel" : "") +
-               (button->tip().empty() ? "" : " tip '" + button->tip() + "'");
+               (button->accessible_name().empty() ? "" : " tip '" + button->accessible_name() + "'");
     if (const auto* box = dynamic_cast<const CheckBox*>(&control))
         return " '" + box->caption() + "' " + std::to_string(box->value());
     if (const auto* frame = dynamic_cast<const Frame*>(&control)) return " '" + frame->caption() + "'";

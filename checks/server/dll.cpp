@@ -1,6 +1,6 @@
 #include "server/dll.h"
 
-#include "com/module.h"
+#include "win32/module.h"
 
 #include <gtest/gtest.h>
 

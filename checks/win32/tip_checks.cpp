@@ -75,7 +75,9 @@ TEST_F(TipTest, AButtonTellsWhatItOpens) {
         explicit Browse(Environment& on)
             : Form(on, {.name = "Browse", .caption = "Browse", .size = {200, 100}}) {}
         Button Pick{
-            *this, "Pick", {.place = {10, 10, 23, 23}, .caption = "...", .tip = "Pick an item", .tab = 1}};
+            *this,
+            "Pick",
+            {.place = {10, 10, 23, 23}, .caption = "...", .accessible_name = "Pick an item", .tab = 1}};
         Button OK{*this, "OK", {.place = {10, 40, 75, 23}, .caption = "OK", .tab = 2}};
     };
     Browse form(environment);

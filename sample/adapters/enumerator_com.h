@@ -1,8 +1,8 @@
 #pragma once
 
-#include "com/counted.h"
 #include "com/failure.h"
 #include "com/wire.h"
+#include "win32/counted.h"
 
 #include <utility>
 

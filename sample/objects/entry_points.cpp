@@ -1,9 +1,9 @@
 #include "adapters/to_com.h"
 #include "com/failure.h"
-#include "com/module.h"
 #include "dll/class_factory.h"
 #include "objects/classes.h"
 #include "objects/registration.h"
+#include "win32/module.h"
 
 #include <windows.h>
 

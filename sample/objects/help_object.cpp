@@ -1,8 +1,8 @@
 #include "objects/help_object.h"
 
 #include "adapters/to_com.h"
-#include "com/module.h"
 #include "common/values/utf16.h"
+#include "win32/module.h"
 
 #include <filesystem>
 

@@ -2,9 +2,9 @@
 
 #include "com/failure.h"
 #include "com/guid_text.h"
-#include "com/module.h"
 #include "dll/registry.h"
 #include "objects/classes.h"
+#include "win32/module.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "com/counted.h"
 #include "server/options.h"
+#include "win32/counted.h"
 
 #include <windows.h>
 

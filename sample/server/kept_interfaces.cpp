@@ -1,7 +1,7 @@
 #include "server/kept_interfaces.h"
 
-#include "com/counted.h"
 #include "com/failure.h"
+#include "win32/counted.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 
 #include "com/failure.h"
 #include "com/guid_text.h"
-#include "com/module.h"
 #include "dll/registry.h"
 #include "server/published.h"
+#include "win32/module.h"
 
 #include <OPCAutomation.h>
 

@@ -1,6 +1,6 @@
 #include "server/window.h"
 
-#include "com/module.h"
+#include "win32/module.h"
 
 #include <cstdlib>
 

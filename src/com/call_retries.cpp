@@ -1,7 +1,7 @@
 #include "com/call_retries.h"
 
-#include "com/counted.h"
 #include "common/trap.h"
+#include "win32/counted.h"
 
 #include <algorithm>
 #include <utility>

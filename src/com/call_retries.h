@@ -1,6 +1,6 @@
 #pragma once
 
-#include "com/com_ptr.h"
+#include "win32/com_ptr.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "com/counted.h"
 #include "com/failure.h"
 #include "com/type_info.h"
+#include "win32/counted.h"
 
 namespace brx {
 

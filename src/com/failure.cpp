@@ -1,9 +1,9 @@
 #include "com/failure.h"
 
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "common/call_gate.h"
 #include "common/trace.h"
+#include "win32/com_ptr.h"
 
 #include <array>
 #include <typeinfo>

@@ -1,7 +1,7 @@
 #include "com/type_info.h"
 
 #include "com/failure.h"
-#include "com/module.h"
+#include "win32/module.h"
 #include "win32/this_module.h"
 
 #include <mutex>

@@ -47,7 +47,8 @@ private:
 
     // clang-format off
     TabStrip   TabStrip1 {*this, "TabStrip1", {.place = {11, 11, 530, 376}, .captions = {"&1. General", "&2. Sampling",
-                                               "&3. Descriptors", "&4. Server Information"}, .tab = 51, .anchor = large,
+                                               "&3. Descriptors", "&4. Server Information"}, .tab = 51,
+                                               .accessible_name = "Pages of the configuration", .anchor = large,
                                                .Click = [this] { TabStrip1_Click(); }}};
     Panel      frmTab0   {*this, "frmTab(0)", {.place = page, .anchor = large}};
     Panel      frmTab1   {*this, "frmTab(1)", {.place = page, .visible = false, .anchor = large}};
@@ -100,7 +101,7 @@ private:
     Label      lblSGEval         {frmSubgroup, "lblSGEval",         {.place = {11, 54, 80, 15}, .caption = "&E. Trigger:", .tab = 28}};
     TextBox    txtSGEval         {frmSubgroup, "txtSGEval",         {.place = {95, 50, 371, 23}, .tab = 29, .display_only = true, .anchor = wide}};
     Button     cmdSubgroupTrigger{frmSubgroup, "cmdSubgroupTrigger",{.place = {466, 50, 23, 23}, .caption = "...",
-                                                                     .tip = "Set the trigger of subgroups", .tab = 30,
+                                                                     .accessible_name = "Set the trigger of subgroups", .tab = 30,
                                                                      .anchor = Anchor::right,
                                                                      .Click = [this] { cmdSubgroupTrigger_Click(); }}};
 
@@ -114,7 +115,7 @@ private:
     Label      lblPieceEval        {frmPiece, "lblPieceEval",      {.place = {11, 54, 80, 15}, .caption = "&H. Trigger:", .tab = 35}};
     TextBox    txtPieceEval        {frmPiece, "txtPieceEval",      {.place = {95, 50, 371, 23}, .tab = 36, .display_only = true, .anchor = wide}};
     Button     cmdPieceTrigger     {frmPiece, "cmdPieceTrigger",   {.place = {466, 50, 23, 23}, .caption = "...",
-                                                                    .tip = "Set the trigger of pieces", .tab = 37,
+                                                                    .accessible_name = "Set the trigger of pieces", .tab = 37,
                                                                     .anchor = Anchor::right,
                                                                     .Click = [this] { cmdPieceTrigger_Click(); }}};
 
@@ -129,7 +130,7 @@ private:
     Button     bnRemoveDesc  {frmDescriptors, "bnRemoveDesc",    {.place = {414, 291, 75, 23}, .caption = "&D. Remove", .tab = 44,
                                                                   .anchor = low, .Click = [this] { bnRemoveDesc_Click(); }}};
 
-    ListView   lvwServerInfo{frmTab3, "lvwServerInfo", {.place = table_frame, .tab = 45, .anchor = large}};
+    ListView   lvwServerInfo{frmTab3, "lvwServerInfo", {.place = table_frame, .tab = 45, .accessible_name = "Server Information", .anchor = large}};
     Timer      Timer1       {*this, "Timer1",          {.interval = 1000, .Timer = [this] { Timer1_Timer(); }}};
     // clang-format on
 

@@ -36,13 +36,13 @@ private:
     TextBox txtGroup  {*this, "txtGroup",   {.place = {75, 11, 272, 23}, .tab = 2,
                                              .Change = [this] { txtGroup_Change(); }}};
     Button  bnGroup   {*this, "bnGroup",    {.place = {347, 11, 23, 23}, .caption = "...",
-                                             .tip = "Browse the server for the group's item", .tab = 3,
+                                             .accessible_name = "Browse the server for the group's item", .tab = 3,
                                              .Click = [this] { bnGroup_Click(); }}};
     Label   lblGeneral{*this, "lblGeneral", {.place = {11, 45, 60, 15}, .caption = "&B. Item:", .tab = 4}};
     TextBox txtItem   {*this, "txtItem",    {.place = {75, 41, 272, 23}, .tab = 5,
                                              .Change = [this] { txtItem_Change(); }}};
     Button  bnItem    {*this, "bnItem",     {.place = {347, 41, 23, 23}, .caption = "...",
-                                             .tip = "Browse the server for an item", .tab = 6,
+                                             .accessible_name = "Browse the server for an item", .tab = 6,
                                              .Click = [this] { bnItem_Click(); }}};
     Button  bnSelect  {*this, "bnSelect",   {.place = {75, 71, 180, 23}, .caption = "&C. Select from Database...", .tab = 7,
                                              .Click = [this] { bnSelect_Click(); }}};

@@ -22,7 +22,8 @@ public:
 
 private:
     // clang-format off
-    ListBox List1   {*this, "List1",    {.place = {11, 11, 218, 149}, .tab = 1, .DblClick = [this] { List1_DblClick(); }}};
+    ListBox List1   {*this, "List1",    {.place = {11, 11, 218, 149}, .tab = 1, .accessible_name = "Types of descriptors",
+                                         .DblClick = [this] { List1_DblClick(); }}};
     Button  bnOK    {*this, "bnOK",     {.place = {72, 171, 75, 23}, .caption = "OK", .tab = 2, .is_default = true,
                                          .Click = [this] { bnOK_Click(); }}};
     Button  bnCancel{*this, "bnCancel", {.place = {154, 171, 75, 23}, .caption = "&Cancel", .tab = 3, .is_cancel = true,

@@ -1,8 +1,8 @@
 #include "dll/class_factory.h"
 
-#include "com/counted.h"
 #include "com/failure.h"
-#include "com/module.h"
+#include "win32/counted.h"
+#include "win32/module.h"
 
 #include <mutex>
 #include <vector>

@@ -1,11 +1,11 @@
 #include "dll/com_error_libraries.h"
 
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "com/failure.h"
 #include "com/owned_variant.h"
 #include "dll/com_object_factory.h"
 #include "forms/turn.h"
+#include "win32/com_ptr.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "com/com_ptr.h"
 #include "common/model/factory.h"
+#include "win32/com_ptr.h"
 
 #include <windows.h>
 

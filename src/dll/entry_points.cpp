@@ -1,8 +1,8 @@
 #include "com/failure.h"
-#include "com/module.h"
 #include "dll/class_factory.h"
 #include "dll/public_classes.h"
 #include "dll/registration.h"
+#include "win32/module.h"
 
 #include <windows.h>
 

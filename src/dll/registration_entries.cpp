@@ -3,9 +3,9 @@
 #include "com/bstr.h"
 #include "com/failure.h"
 #include "com/guid_text.h"
-#include "com/module.h"
 #include "com/type_info.h"
 #include "dll/public_classes.h"
+#include "win32/module.h"
 
 #include <array>
 #include <memory>

@@ -1,7 +1,6 @@
 #include "dll/show.h"
 
 #include "com/call_retries.h"
-#include "com/com_ptr.h"
 #include "com/system_locale.h"
 #include "common/trace.h"
 #include "common/trap.h"
@@ -10,6 +9,7 @@
 #include "dll/trace_file.h"
 #include "forms/turn.h"
 #include "forms/win32/engine.h"
+#include "win32/com_ptr.h"
 
 #include <memory>
 

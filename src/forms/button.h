@@ -7,7 +7,7 @@ namespace brx {
 struct ButtonDesign {
     Place place;
     std::string caption = {};
-    std::string tip = {}; ///< what it opens, where the caption does not say so
+    std::string accessible_name = {}; ///< what it opens, where the caption does not say so; its tip too
     int tab = 0;
     bool enabled = true;
     bool visible = true;
@@ -28,7 +28,6 @@ public:
 
     const std::string& caption() const { return design_.caption; }
     std::string accelerator_text() const override { return caption(); }
-    const std::string& tip() const { return design_.tip; }
     bool is_default() const { return design_.is_default; }
     bool is_cancel() const { return design_.is_cancel; }
     /// Whoever presses it waits for nothing that the form still reads.

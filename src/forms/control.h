@@ -29,19 +29,23 @@ struct Look {
     Anchor anchor = Anchor::top_left;
     Color back_color = color::button_face;
     Color fore_color = color::button_text;
+    std::string accessible_name =
+        {}; ///< what screen readers call it, where neither caption nor label says it
 };
 
 /// What the designs of all kinds say of a control's looks.
 template <class Design>
 Look look_of(const Design& design, Color back_color = color::button_face,
              Color fore_color = color::button_text) {
-    return {.place = design.place,
-            .tab = design.tab,
-            .enabled = design.enabled,
-            .visible = design.visible,
-            .anchor = design.anchor,
-            .back_color = back_color,
-            .fore_color = fore_color};
+    Look look{.place = design.place,
+              .tab = design.tab,
+              .enabled = design.enabled,
+              .visible = design.visible,
+              .anchor = design.anchor,
+              .back_color = back_color,
+              .fore_color = fore_color};
+    if constexpr (requires { design.accessible_name; }) look.accessible_name = design.accessible_name;
+    return look;
 }
 /// The same for what is drawn like the inside of a window.
 template <class Design> Look window_look_of(const Design& design) {
@@ -90,6 +94,8 @@ public:
     /// An engine that reads everything again wants no journal of what changed.
     virtual void forget_changes() {}
 
+    /// Words of its own for screen readers; "" where caption or label do.
+    const std::string& accessible_name() const { return look_.accessible_name; }
     /// The text whose "&" marks the letter that leads here; "" where there is none.
     virtual std::string accelerator_text() const { return {}; }
 

@@ -13,6 +13,7 @@ namespace brx {
 struct ListDesign {
     Place place;
     int tab = 0;
+    std::string accessible_name = {};
     bool enabled = true;
     bool visible = true;
     Anchor anchor = Anchor::top_left;

@@ -58,6 +58,7 @@ private:
 struct ListViewDesign {
     Place place;
     int tab = 0;
+    std::string accessible_name = {};
     bool enabled = true;
     bool visible = true;
     Anchor anchor = Anchor::top_left;

@@ -11,6 +11,7 @@ struct TabStripDesign {
     Place place;
     std::vector<std::string> captions; ///< with their accelerators; there is at least one tab
     int tab = 0;
+    std::string accessible_name = {};
     bool enabled = true;
     bool visible = true;
     Anchor anchor = Anchor::top_left;

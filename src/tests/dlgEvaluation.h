@@ -42,7 +42,7 @@ private:
     ComboBox cboItem      {*this, "cboItem",       {.place = {107, 11, 280, 23}, .tab = 2,
                                                     .Click = [this] { txtItem_Click(); }}};
     Button   bnItem       {*this, "bnItem",        {.place = {387, 11, 23, 23}, .caption = "...",
-                                                    .tip = "Browse the server for an item", .tab = 3,
+                                                    .accessible_name = "Browse the server for an item", .tab = 3,
                                                     .Click = [this] { bnItem_Click(); }}};
     Label    Label2       {*this, "Label2",        {.place = {11, 45, 92, 15}, .caption = "&B. Expression", .tab = 4}};
     ComboBox cboExpression{*this, "cboExpression", {.place = {107, 41, 303, 23}, .tab = 5,

@@ -59,12 +59,12 @@ private:
     Label    lblTest       {*this, "lblTest",        {.place = {11, 15, 92, 15}, .caption = "&A. Test:", .tab = 1}};
     TextBox  txtTest       {*this, "txtTest",        {.place = {107, 11, 280, 23}, .tab = 2, .display_only = true}};
     Button   bnTest        {*this, "bnTest",         {.place = {387, 11, 23, 23}, .caption = "...",
-                                                      .tip = "Choose a test from the database", .tab = 3,
+                                                      .accessible_name = "Choose a test from the database", .tab = 3,
                                                       .Click = [this] { bnTest_Click(); }}};
     Label    lblItem       {*this, "lblItem",        {.place = {11, 45, 92, 15}, .caption = "&B. OPC Item:", .tab = 4}};
     TextBox  txtItem       {*this, "txtItem",        {.place = {107, 41, 280, 23}, .tab = 5, .display_only = true}};
     Button   bnItem        {*this, "bnItem",         {.place = {387, 41, 23, 23}, .caption = "...",
-                                                      .tip = "Browse the server for an item", .tab = 6,
+                                                      .accessible_name = "Browse the server for an item", .tab = 6,
                                                       .Click = [this] { bnItem_Click(); }}};
     Label    lblSaveAs     {*this, "lblSaveAs",      {.place = {11, 75, 92, 15}, .caption = "&C. Save As:", .tab = 7}};
     ComboBox cboSaveAs     {*this, "cboSaveAs",      {.place = {107, 71, 303, 23}, .tab = 8}};

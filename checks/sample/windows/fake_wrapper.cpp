@@ -2,9 +2,9 @@
 
 #include "adapters/opc_unused.h"
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "com/owned_variant.h"
 #include "sample/windows/fake_wrapper_objects.h"
+#include "win32/com_ptr.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "sample/windows/objects_stage.h"
 
 #include "adapters/to_com.h"
-#include "com/module.h"
 #include "common/values/text.h"
+#include "win32/module.h"
 
 #include <fstream>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "com/com_ptr.h"
 #include "com/late_bound.h"
 #include "common/error.h"
+#include "win32/com_ptr.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -2,9 +2,9 @@
 
 #include "adapters/to_com.h"
 #include "com/bstr.h"
-#include "com/com_ptr.h"
 #include "com/failure.h"
 #include "stage.h"
+#include "win32/com_ptr.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/failure.h"
-#include "com/module.h"
+#include "win32/module.h"
 
 #include <array>
 #include <memory>

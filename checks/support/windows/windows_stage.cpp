@@ -1,7 +1,7 @@
 #include "windows/windows_stage.h"
 
-#include "com/module.h"
 #include "desk/native.h"
+#include "win32/module.h"
 
 #include <gtest/gtest.h>
 

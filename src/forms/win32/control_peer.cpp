@@ -1,6 +1,7 @@
 #include "forms/win32/control_peer.h"
 
 #include "common/trap.h"
+#include "forms/accessible_name.h"
 #include "forms/win32/form_window.h"
 #include "forms/win32/visual_styles.h"
 #include "forms/win32/window_name.h"
@@ -11,7 +12,8 @@ namespace brx {
 ControlPeer::ControlPeer(FormWindow& window, Control& control, const NativeControl& native)
     : Peer(control), window_(window), control_(control) {
     const VisualStyles styles;
-    handle_ = CreateWindowExW(native.ex_style, native.window_class, L"",
+    const std::wstring text = native.text_is_hidden ? to_wide(accessible_name_of(control)) : std::wstring();
+    handle_ = CreateWindowExW(native.ex_style, native.window_class, text.c_str(),
                               WS_CHILD | WS_CLIPSIBLINGS | native.style, 0, 0, 0, 0, window.handle(),
                               reinterpret_cast<HMENU>(window.next_id()), this_module(), nullptr);
     if (!handle_ || !set_window_name(handle_, control.name())) {

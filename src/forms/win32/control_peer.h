@@ -17,6 +17,7 @@ struct NativeControl {
     const wchar_t* window_class;
     DWORD style = 0;
     DWORD ex_style = 0;
+    bool text_is_hidden = false; ///< its window's text shows nowhere: there readers find what it is called
 };
 
 /// A control as a window, a direct child of the form's.

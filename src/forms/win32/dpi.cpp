@@ -1,14 +1,10 @@
 #include "forms/win32/dpi.h"
 
+#include "win32/system_function.h"
+
 namespace brx {
 
 namespace {
-
-template <class Function> Function function_of(const wchar_t* dll, const char* name) {
-    const HMODULE module = GetModuleHandleW(dll);
-    if (!module) return nullptr;
-    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(module, name)));
-}
 
 unsigned system_dpi() {
     const HDC screen = GetDC(nullptr);

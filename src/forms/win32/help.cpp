@@ -1,5 +1,7 @@
 #include "forms/win32/help.h"
 
+#include "win32/system_function.h"
+
 #include <htmlhelp.h>
 
 #include <algorithm>
@@ -21,11 +23,8 @@ bool ends_with_ignoring_case(const std::wstring& text, const std::wstring& end) 
 /// The viewer of HTML help, from the system's folder and nowhere else. It stays loaded, its windows need it.
 auto html_help() {
     using Function = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);
-    std::wstring path(MAX_PATH, L'\0');
-    path.resize(GetSystemDirectoryW(path.data(), MAX_PATH));
-    static const HMODULE viewer = LoadLibraryW((path + L"\\hhctrl.ocx").c_str());
-    const FARPROC function = viewer ? GetProcAddress(viewer, "HtmlHelpW") : nullptr;
-    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(function));
+    static const HMODULE viewer = load_of_system(L"hhctrl.ocx");
+    return function_of<Function>(viewer, "HtmlHelpW");
 }
 
 bool is_older(const std::wstring& file) { return ends_with_ignoring_case(file, L".hlp"); }

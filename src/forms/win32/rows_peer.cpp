@@ -21,7 +21,7 @@ constexpr int beside_text = 6;
 
 RowsPeer::RowsPeer(FormWindow& window, Control& control, DWORD style)
     : ControlPeer(window, control,
-                  {common_control(WC_LISTVIEWW), rows_style | style | WS_TABSTOP, WS_EX_CLIENTEDGE}) {
+                  {common_control(WC_LISTVIEWW), rows_style | style | WS_TABSTOP, WS_EX_CLIENTEDGE, true}) {
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, extended_style);
 }
 

@@ -2,6 +2,7 @@
 
 #include "forms/win32/form_window.h"
 #include "forms/win32/gdi.h"
+#include "forms/win32/named_accessible.h"
 
 #include <commctrl.h>
 
@@ -50,11 +51,20 @@ void LabelPeer::show_tip() {
 ButtonPeer::ButtonPeer(FormWindow& window, Button& button)
     : ControlPeer(window, button, {WC_BUTTONW, BS_PUSHBUTTON | WS_TABSTOP}), button_(button) {
     show_text(button.caption());
-    window.set_tip(handle(), to_wide(button.tip()));
+    window.set_tip(handle(), to_wide(button.accessible_name()));
 }
 
 void ButtonPeer::notified(WORD code) {
     if (code == BN_CLICKED) window().deliver([&] { return button_.user_click(); });
+}
+
+LRESULT ButtonPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
+    // Of a button the system tells its caption, which of some is dots.
+    if (message == WM_GETOBJECT && static_cast<LONG>(lparam) == OBJID_CLIENT &&
+        !button_.accessible_name().empty())
+        if (const LRESULT object = named_accessible(handle(), wparam, to_wide(button_.accessible_name())))
+            return object;
+    return ControlPeer::handle_message(message, wparam, lparam);
 }
 
 CheckBoxPeer::CheckBoxPeer(FormWindow& window, CheckBox& box)

@@ -29,6 +29,9 @@ public:
     ButtonPeer(FormWindow& window, Button& button);
     void notified(WORD code) override;
 
+protected:
+    LRESULT handle_message(UINT message, WPARAM wparam, LPARAM lparam) override;
+
 private:
     Button& button_;
 };

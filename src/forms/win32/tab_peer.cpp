@@ -21,7 +21,8 @@ constexpr int upper_edge = 1;
 } // namespace
 
 TabPeer::TabPeer(FormWindow& window, TabStrip& strip)
-    : ControlPeer(window, strip, {common_control(WC_TABCONTROLW), TCS_FOCUSONBUTTONDOWN | WS_TABSTOP}),
+    : ControlPeer(window, strip,
+                  {common_control(WC_TABCONTROLW), TCS_FOCUSONBUTTONDOWN | WS_TABSTOP, 0, true}),
       strip_(strip) {
     for (int tab = 1; tab <= strip.count(); ++tab) {
         std::wstring caption = to_wide(strip.caption(tab));

@@ -49,7 +49,7 @@ private:
 TreePeer::TreePeer(FormWindow& window, TreeView& tree)
     : ControlPeer(window, tree,
                   {WC_TREEVIEWW, TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | WS_TABSTOP | tree_style(tree),
-                   WS_EX_CLIENTEDGE}),
+                   WS_EX_CLIENTEDGE, true}),
       tree_(tree) {}
 
 void TreePeer::show(Aspect aspects) {

@@ -2,6 +2,7 @@
 
 #include "common/trap.h"
 #include "forms/win32/dpi.h"
+#include "win32/system_function.h"
 
 #include <objbase.h>
 
@@ -21,9 +22,7 @@ using CancelCall = HRESULT(WINAPI*)(DWORD thread, ULONG timeout);
 
 /// Of the COM library, where it has it: not every system's has.
 template <class Function> Function com_function(const char* name) {
-    const HMODULE library = GetModuleHandleW(L"ole32.dll");
-    return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
-                   : nullptr;
+    return function_of<Function>(L"ole32.dll", name);
 }
 
 constexpr std::array ways_to_leave = {UINT{WM_LBUTTONDOWN}, UINT{WM_NCLBUTTONDOWN}, UINT{WM_SYSKEYUP},

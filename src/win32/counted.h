@@ -1,7 +1,7 @@
 #pragma once
 
-#include "com/com_ptr.h"
-#include "com/module.h"
+#include "win32/com_ptr.h"
+#include "win32/module.h"
 
 #include <atomic>
 #include <memory>
