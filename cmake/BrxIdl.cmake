@@ -7,6 +7,9 @@
 # and sets BRX_TLB of NAME to the full name of the type library. IMPORTS are brx_idl libraries whose IDL this one
 # imports or whose type library it refers to with importlib.
 #
+# brx_model_header(NAME library...) makes ${CMAKE_BINARY_DIR}/idl/brxModel.h, the base of a host's objects, from the
+# headers of these brx_idl libraries, and NAME, a library to link.
+#
 # A resource script takes the type library with `1 TYPELIB "file.tlb"`: call brx_typelib_resource(TARGET x.rc NAME).
 
 if(NOT WIN32)
@@ -20,7 +23,8 @@ find_file(BRX_STDOLE stdole2.tlb NO_CMAKE_FIND_ROOT_PATH REQUIRED
     PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows /usr/lib/wine/x86_64-windows "$ENV{SystemRoot}/System32")
 find_path(BRX_IDL_INCLUDES oaidl.idl NO_CMAKE_FIND_ROOT_PATH REQUIRED
     PATHS /usr/include/wine/wine/windows PATH_SUFFIXES include)
-mark_as_advanced(BRX_WIDL BRX_STDOLE BRX_IDL_INCLUDES)
+find_program(BRX_AWK NAMES awk gawk mawk REQUIRED)
+mark_as_advanced(BRX_WIDL BRX_STDOLE BRX_IDL_INCLUDES BRX_AWK)
 set(BRX_IDL_DIR "${CMAKE_BINARY_DIR}/idl")
 file(MAKE_DIRECTORY "${BRX_IDL_DIR}")
 
@@ -65,4 +69,27 @@ function(brx_typelib_resource target script name)
     set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES "${BRX_IDL_DIR}" "${CMAKE_SOURCE_DIR}/src"
         "${BRX_CONFIGURED}")
     add_dependencies(${target} ${name}_tlb)
+endfunction()
+
+function(brx_model_header name)
+    set(made "${BRX_IDL_DIR}/brxModel.h")
+    set(frame "${CMAKE_SOURCE_DIR}/packaging/brxModel.h")
+    set(script "${CMAKE_SOURCE_DIR}/scripts/package/model.awk")
+    set(headers)
+    foreach(library IN LISTS ARGN)
+        get_target_property(tlb ${library} BRX_TLB)
+        cmake_path(REPLACE_EXTENSION tlb h OUTPUT_VARIABLE header)
+        list(APPEND headers "${header}")
+    endforeach()
+    add_custom_command(
+        OUTPUT "${made}"
+        COMMAND "${BRX_AWK}" -f "${script}" "${frame}" ${headers} > "${made}"
+        DEPENDS "${script}" "${frame}" ${headers}
+        COMMENT "awk brxModel.h"
+        VERBATIM)
+    add_custom_target(${name}_made ALL DEPENDS "${made}")
+    set_property(GLOBAL APPEND PROPERTY BRX_IDL_TARGETS ${name}_made)
+    add_library(${name} INTERFACE)
+    add_dependencies(${name} ${name}_made)
+    target_link_libraries(${name} INTERFACE ${ARGN})
 endfunction()

@@ -1,8 +1,8 @@
-// What a C++ host implements its objects with: a class for each interface of brxOpcAuto6 and brxDatabase6, in
-// which every member answers E_NOTIMPL. Derive from them and override what your objects have; docs/calls.html
-// says what is called.
+// What a C++ host implements its objects with: a class for each interface of brxOpcAuto6, brxDatabase6 and
+// OPCAutomation, of the same name without its underscore, in which every member answers E_NOTIMPL. Derive
+// from them and override what your objects have; docs/calls.html says what is called.
 //
-//     class Servers : public brx::hlxOPCServers {
+//     class Servers : public brxModel::hlxOPCServers {
 //         HRESULT STDMETHODCALLTYPE get_Count(LONG* count) override {
 //             *count = 2;
 //             return S_OK;
@@ -12,7 +12,13 @@
 //     IDispatch* servers = new Servers; // has one reference; Release takes it back
 //
 // Dialogs call them on the thread that shows the dialog. A member that fails leaves its reason behind for the
-// person: return brx::failed(L"The line is being cleaned.").
+// person: return brxModel::failed(L"The line is being cleaned."). No exception may leave a member.
+//
+// Scripts and other late callers are served as well where the type libraries are resources of your program or
+// DLL, numbered from 1 on:
+//
+//     1 TYPELIB "brxOpcAuto6.tlb"
+//     2 TYPELIB "brxDatabase6.tlb"
 
 #if !defined(BRX_MODEL_H) && defined(__cplusplus)
 #define BRX_MODEL_H
@@ -21,10 +27,11 @@
 
 #include <oleauto.h>
 
+#include <OPCAutomation.h>
 #include <brxDatabase6.h>
 #include <brxOpcAuto6.h>
 
-namespace brx {
+namespace brxModel {
 
 /// Leaves error information for the caller and gives the code back. `source` is who says so, your program as
 /// a rule.
@@ -43,6 +50,9 @@ inline HRESULT failed(const wchar_t* description, HRESULT code = E_FAIL, const w
     return code;
 }
 
+/// What a member answers that nobody has overridden.
+inline HRESULT missing(const wchar_t* description) { return failed(description, E_NOTIMPL, L"brxModel"); }
+
 /// Gives an object out of a member: with a reference of its own, Nothing for a null pointer.
 template <class Given, class Interface> HRESULT give(Given** result, Interface* object) {
     if (!result) return E_POINTER;
@@ -58,17 +68,38 @@ inline HRESULT give(BSTR* result, const wchar_t* text) {
     return *result ? S_OK : E_OUTOFMEMORY;
 }
 
-/// References, the interface, and the promise to leave error information. Scripts and other late callers are
-/// not served: who wants that overrides the members of IDispatch, for instance by the type library.
-template <class Interface> class Object : public Interface, public ISupportErrorInfo {
+/// The description of an interface in the type libraries of the module that this was compiled into.
+inline HRESULT description_of(REFIID iid, ITypeInfo** description) {
+    static const wchar_t here = L' '; // lies in that module
+    const DWORD longest = 0x7FFF;
+    *description = nullptr;
+    BSTR file = SysAllocStringLen(nullptr, longest + 16);
+    if (!file) return E_OUTOFMEMORY;
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       &here, &module);
+    const DWORD length = GetModuleFileNameW(module, file, longest);
+    for (int number = 1; !*description; ++number) {
+        wsprintfW(file + length, L"\\%d", number);
+        ITypeLib* library = nullptr;
+        if (FAILED(LoadTypeLibEx(file, REGKIND_NONE, &library))) break;
+        library->GetTypeInfoOfGuid(iid, description);
+        library->Release();
+    }
+    SysFreeString(file);
+    return *description ? S_OK : TYPE_E_ELEMENTNOTFOUND;
+}
+
+/// References, from any thread, an interface, and the promise to leave error information.
+template <class Interface> class Referenced : public Interface, public ISupportErrorInfo {
 public:
-    Object() = default;
-    Object(const Object&) = delete;
-    Object& operator=(const Object&) = delete;
+    Referenced() = default;
+    Referenced(const Referenced&) = delete;
+    Referenced& operator=(const Referenced&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (!object) return E_POINTER;
-        if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface))
+        if (iid == IID_IUnknown || iid == __uuidof(Interface))
             *object = static_cast<Interface*>(this);
         else if (iid == IID_ISupportErrorInfo)
             *object = static_cast<ISupportErrorInfo*>(this);
@@ -88,32 +119,109 @@ public:
         return static_cast<ULONG>(left);
     }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-        if (!count) return E_POINTER;
-        *count = 0;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                                     UINT*) override {
-        return E_NOTIMPL;
-    }
-
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) override {
         return iid == __uuidof(Interface) ? S_OK : S_FALSE;
     }
 
 protected:
-    virtual ~Object() = default;
+    virtual ~Referenced() = default;
 
 private:
     LONG references_ = 1;
 };
+
+/// An object with an automation interface, early and, by its type library, late bound.
+template <class Interface> class Object : public Referenced<Interface> {
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        return Referenced<Interface>::QueryInterface(iid == IID_IDispatch ? __uuidof(Interface) : iid,
+                                                     object);
+    }
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        if (!count) return E_POINTER;
+        *count = description() ? 1 : 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
+        if (!info) return E_POINTER;
+        *info = nullptr;
+        return index == 0 && description() ? give(info, description()) : DISP_E_BADINDEX;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        return description() ? description()->GetIDsOfNames(names, count, ids) : E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* arguments,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* wrong) override {
+        return description() ? description()->Invoke(static_cast<Interface*>(this), member, flags, arguments,
+                                                     result, exception, wrong)
+                             : E_NOTIMPL;
+    }
+
+    HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) override {
+        return iid == __uuidof(Interface) || iid == IID_IDispatch ? S_OK : S_FALSE;
+    }
+
+protected:
+    ~Object() override {
+        if (description_) description_->Release();
+    }
+
+private:
+    /// Null when the module has no such type library.
+    ITypeInfo* description() {
+        ITypeInfo* found = nullptr;
+        if (!description_ && SUCCEEDED(description_of(__uuidof(Interface), &found)) &&
+            InterlockedCompareExchangePointer(reinterpret_cast<void* volatile*>(&description_), found,
+                                              nullptr))
+            found->Release(); // another thread was first
+        return description_;
+    }
+
+    ITypeInfo* description_ = nullptr;
+};
+
+/// What _NewEnum gives, once through the elements: *result = static_cast<IEnumVARIANT*>(new Elements).
+class Enumeration : public Referenced<IEnumVARIANT> {
+public:
+    HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* elements, ULONG* fetched) override {
+        if (!elements) return E_POINTER;
+        ULONG done = 0;
+        HRESULT result = S_OK;
+        while (done < count && result == S_OK) {
+            VariantInit(&elements[done]);
+            result = next(&elements[done]);
+            if (result == S_OK) ++done;
+        }
+        if (FAILED(result))
+            while (done > 0) VariantClear(&elements[--done]);
+        if (fetched) *fetched = done;
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
+        HRESULT result = S_OK;
+        while (count > 0 && result == S_OK) {
+            VARIANT element;
+            VariantInit(&element);
+            result = next(&element);
+            VariantClear(&element);
+            --count;
+        }
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE Reset() override { return missing(L"IEnumVARIANT::Reset is not implemented."); }
+    HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) override {
+        if (!copy) return E_POINTER;
+        *copy = nullptr;
+        return missing(L"IEnumVARIANT::Clone is not implemented.");
+    }
+
+protected:
+    /// Puts the next element into an empty variant: S_OK, or S_FALSE when there is none.
+    virtual HRESULT next(VARIANT* element) = 0;
+};
 // @CLASSES@
 
-} // namespace brx
+} // namespace brxModel
 
 #endif

@@ -1,7 +1,8 @@
 #include "bench/address_space.h"
 
-#include "adapters/opc_unused.h"
-#include "com/dual.h"
+#include "win32/counted.h"
+
+#include <brxModel.h>
 
 namespace brx::bench {
 
@@ -10,7 +11,7 @@ namespace {
 constexpr LONG hierarchical = 1;
 constexpr LONG flat = 2;
 
-class Browser final : public Dual<::OPCBrowser, UnusedOfOPCBrowser> {
+class Browser final : public brxModel::OPCBrowser {
 public:
     explicit Browser(const AddressSpace& space) : space_(space) {}
 
@@ -69,18 +70,10 @@ private:
     ULONG depth_ = 0;
 };
 
-class Server final : public Dual<::IOPCAutoServer, UnusedOfOPCServer> {
+class Server final : public brxModel::IOPCAutoServer {
 public:
     explicit Server(const AddressSpace& space) : space_(space) {}
 
-    STDMETHODIMP get_StartTime(DATE*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_CurrentTime(DATE*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_LastUpdateTime(DATE*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_MajorVersion(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_MinorVersion(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_BuildNumber(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_VendorInfo(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_ServerState(LONG*) override { return E_NOTIMPL; }
     STDMETHODIMP get_ServerName(BSTR* result) override {
         *result = SysAllocString(L"Bench.Server");
         return S_OK;
@@ -89,25 +82,17 @@ public:
         *result = SysAllocString(L"");
         return S_OK;
     }
-    STDMETHODIMP get_ClientName(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_Bandwidth(LONG*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_OPCGroups(IOPCGroups**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetOPCServers(VARIANT, VARIANT*) override { return E_NOTIMPL; }
     STDMETHODIMP CreateBrowser(::OPCBrowser** result) override {
         *result = make_com<Browser>(space_).detach();
         return S_OK;
     }
-    STDMETHODIMP GetErrorString(LONG, BSTR*) override { return E_NOTIMPL; }
 
 private:
     AddressSpace space_;
 };
 
-class Group final : public Dual<::IOPCGroup, UnusedOfOPCGroup> {
+class Group final : public brxModel::IOPCGroup {
 public:
-    STDMETHODIMP get_Parent(IOPCAutoServer**) override { return E_NOTIMPL; }
-    STDMETHODIMP get_Name(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_OPCItems(::OPCItems**) override { return E_NOTIMPL; }
 };
 
 } // namespace

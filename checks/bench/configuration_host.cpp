@@ -1,12 +1,10 @@
 #include "bench/configuration_host.h"
 
 #include "bench/address_space.h"
-#include "bench/configuration_unused.h"
 
-#include "adapters/opc_unused.h"
-#include "com/dual.h"
+#include "win32/counted.h"
 
-#include <OPCAutomation.h>
+#include <brxModel.h>
 
 #include <algorithm>
 #include <string_view>
@@ -50,19 +48,17 @@ std::vector<com_ptr<Object>> make_elements(int count, const Arguments&... argume
     return elements;
 }
 
-class StatusGroup final : public Dual<::IOPCGroup, UnusedOfOPCGroup> {
+class StatusGroup final : public brxModel::IOPCGroup {
 public:
     explicit StatusGroup(int number) : name_(Names(L"Line07.Station12.Group").of(number)) {}
 
-    STDMETHODIMP get_Parent(IOPCAutoServer**) override { return E_NOTIMPL; }
     STDMETHODIMP get_Name(BSTR* result) override { return give(result, name_); }
-    STDMETHODIMP get_OPCItems(::OPCItems**) override { return E_NOTIMPL; }
 
 private:
     std::wstring name_;
 };
 
-class StatusGroups final : public Dual<::IOPCGroups, UnusedOfOPCGroups> {
+class StatusGroups final : public brxModel::IOPCGroups {
 public:
     StatusGroups(int count, bool fresh) : groups_(make_elements<StatusGroup>(count)), fresh_(fresh) {}
 
@@ -72,9 +68,6 @@ public:
         *result = make_com<StatusGroup>(static_cast<int>(V_I4(&position))).detach();
         return S_OK;
     }
-    STDMETHODIMP Add(VARIANT, IOPCGroup**) override { return E_NOTIMPL; }
-    STDMETHODIMP RemoveAll() override { return E_NOTIMPL; }
-    STDMETHODIMP Remove(VARIANT) override { return E_NOTIMPL; }
 
 private:
     std::vector<com_ptr<StatusGroup>> groups_;
@@ -83,7 +76,7 @@ private:
 
 int groups_asked_for = 0;
 
-class StatusServer final : public Dual<::IOPCAutoServer, UnusedOfOPCServer> {
+class StatusServer final : public brxModel::IOPCAutoServer {
 public:
     explicit StatusServer(const Holdings& holdings)
         : groups_(make_com<StatusGroups>(holdings.groups, holdings.fresh_groups)) {}
@@ -104,15 +97,12 @@ public:
         ++groups_asked_for;
         return give_object(result, groups_.get());
     }
-    STDMETHODIMP GetOPCServers(VARIANT, VARIANT*) override { return E_NOTIMPL; }
-    STDMETHODIMP CreateBrowser(::OPCBrowser**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetErrorString(LONG, BSTR*) override { return E_NOTIMPL; }
 
 private:
     com_ptr<StatusGroups> groups_;
 };
 
-class Entry final : public Dual<_hlxOPCServer, UnusedOfHlxOPCServer> {
+class Entry final : public brxModel::hlxOPCServer {
 public:
     explicit Entry(const Holdings& holdings) : connection_(make_com<StatusServer>(holdings)) {}
 
@@ -124,7 +114,7 @@ private:
     com_ptr<StatusServer> connection_;
 };
 
-class Holder final : public Dual<_hlxOPCServerHolder> {
+class Holder final : public brxModel::hlxOPCServerHolder {
 public:
     explicit Holder(const Holdings& holdings) : entry_(make_com<Entry>(holdings)) {}
 
@@ -136,7 +126,7 @@ private:
     com_ptr<Entry> entry_;
 };
 
-class Test final : public Dual<_hlxOPCTest, UnusedOfHlxOPCTest> {
+class Test final : public brxModel::hlxOPCTest {
 public:
     Test(int number, _hlxOPCTests* owner)
         : name_(Names(L"Diameter ").of(number)), item_(Names::of_leaves().of(number)), owner_(owner) {}
@@ -152,7 +142,7 @@ private:
     _hlxOPCTests* owner_;
 };
 
-class Tests final : public Dual<_hlxOPCTests, UnusedOfHlxOPCTests> {
+class Tests final : public brxModel::hlxOPCTests {
 public:
     Tests(int count, _hlxOPCConfiguration* owner) : tests_(make_elements<Test>(count, this)), owner_(owner) {}
 
@@ -167,7 +157,7 @@ private:
     _hlxOPCConfiguration* owner_;
 };
 
-class Descriptor final : public Dual<_hlxOPCDescriptor, UnusedOfHlxOPCDescriptor> {
+class Descriptor final : public brxModel::hlxOPCDescriptor {
 public:
     explicit Descriptor(int number)
         : item_(Names(L"Order ").of(number)), group_(Names(L"Orders of line ").of(number)) {}
@@ -183,40 +173,27 @@ private:
 
 using DescriptorList = std::vector<com_ptr<Descriptor>>;
 
-class DescriptorEnumerator final : public Counted<IEnumVARIANT> {
+class DescriptorEnumerator final : public brxModel::Enumeration {
 public:
     explicit DescriptorEnumerator(const DescriptorList& elements) : elements_(elements) {}
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (iid != __uuidof(IUnknown) && iid != __uuidof(IEnumVARIANT)) return E_NOINTERFACE;
-        AddRef();
-        *object = this;
-        return S_OK;
-    }
-    STDMETHODIMP Next(ULONG count, VARIANT* elements, ULONG* fetched) override {
-        ULONG done = 0;
-        for (; done < count && next_ < elements_.size(); ++done, ++next_) {
-            V_VT(&elements[done]) = VT_DISPATCH;
-            give_object(&V_DISPATCH(&elements[done]), elements_[next_].get());
-        }
-        if (fetched) *fetched = done;
-        return done == count ? S_OK : S_FALSE;
-    }
-    STDMETHODIMP Skip(ULONG) override { return E_NOTIMPL; }
-    STDMETHODIMP Reset() override { return E_NOTIMPL; }
-    STDMETHODIMP Clone(IEnumVARIANT**) override { return E_NOTIMPL; }
-
 private:
+    HRESULT next(VARIANT* element) override {
+        if (next_ == elements_.size()) return S_FALSE;
+        V_VT(element) = VT_DISPATCH;
+        return give_object(&V_DISPATCH(element), elements_[next_++].get());
+    }
+
     const DescriptorList& elements_;
     std::size_t next_ = 0;
 };
 
-class Descriptors final : public Dual<_hlxOPCDescriptors, UnusedOfHlxOPCDescriptors> {
+class Descriptors final : public brxModel::hlxOPCDescriptors {
 public:
     explicit Descriptors(int count) : elements_(make_elements<Descriptor>(count)) {}
 
     STDMETHODIMP get__NewEnum(IUnknown** result) override {
-        *result = make_com<DescriptorEnumerator>(elements_).detach();
+        *result = static_cast<IEnumVARIANT*>(make_com<DescriptorEnumerator>(elements_).detach());
         return S_OK;
     }
 
@@ -224,7 +201,7 @@ private:
     DescriptorList elements_;
 };
 
-class Configuration final : public Dual<_hlxOPCConfiguration, UnusedOfHlxOPCConfiguration> {
+class Configuration final : public brxModel::hlxOPCConfiguration {
 public:
     explicit Configuration(const Holdings& holdings)
         : server_(make_com<Holder>(holdings)),

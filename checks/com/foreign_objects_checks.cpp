@@ -1,4 +1,3 @@
-#include "adapters/opc_unused.h"
 #include "adapters/to_com.h"
 #include "com/adapters/from_com.h"
 #include "com/bstr.h"
@@ -11,7 +10,9 @@
 #include "com/safe_array.h"
 #include "com/shy.h"
 #include "com/type_info.h"
+#include "win32/counted.h"
 
+#include <brxModel.h>
 #include <gmock/gmock.h>
 
 // Objects that somebody else wrote, with the peculiarities of real ones, and what is to be said about
@@ -23,7 +24,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class ShyItem final : public Shy<UnusedOfOPCItem, ::OPCItem> {
+class ShyItem final : public Shy<brxModel::OPCItem, ::OPCItem> {
 public:
     STDMETHODIMP get_ItemID(BSTR*) override { return S_OK; } // and forgets to write
     STDMETHODIMP get_IsActive(VARIANT_BOOL* result) override {
@@ -37,7 +38,7 @@ public:
 };
 
 /// Looks at every argument as closely as the common wrapper does.
-class StrictItems final : public Shy<UnusedOfOPCItems, ::OPCItems> {
+class StrictItems final : public Shy<brxModel::OPCItems, ::OPCItems> {
 public:
     std::vector<std::string> misfits;
     std::vector<std::string> specifiers;
@@ -90,7 +91,7 @@ private:
 };
 
 /// An item collection that gives `items`.
-class ForeignGroup final : public Shy<UnusedOfOPCGroup, ::IOPCGroup> {
+class ForeignGroup final : public Shy<brxModel::IOPCGroup, ::IOPCGroup> {
 public:
     com_ptr<::OPCItems> items;
     STDMETHODIMP get_Parent(IOPCAutoServer** result) override { return *result = nullptr, S_OK; }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "win32/counted.h"
-
 #include <windows.h>
 
 #include <oleauto.h>
@@ -9,20 +7,13 @@
 namespace brx::checks {
 
 /// An OPC automation object that owns up to its own interface only, as the common wrapper's items and
-/// browsers do, and leaves no error information.
-template <class Unused, class Interface> class Shy : public Counted<Unused> {
+/// browsers do, and promises no error information. `Base` is of the model base.
+template <class Base, class Interface> class Shy : public Base {
 public:
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == __uuidof(IUnknown) || iid == __uuidof(Interface);
-        *object = known ? static_cast<Interface*>(this) : nullptr;
-        if (known) this->AddRef();
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
+        if (iid == __uuidof(IUnknown) || iid == __uuidof(Interface)) return Base::QueryInterface(iid, object);
+        *object = nullptr;
+        return E_NOINTERFACE;
     }
 };
 

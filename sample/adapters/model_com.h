@@ -1,19 +1,20 @@
 #pragma once
 
-#include "com/dual.h"
+#include "com/failure.h"
 #include "com/wire.h"
+#include "win32/counted.h"
+
+#include <brxModel.h>
 
 #include <concepts>
 #include <utility>
 
 namespace brx {
 
-/// What all COM objects that stand for a model object share.
-template <class ModelClass, class Base = InterfaceOf<ModelClass>>
-class ModelCom : public Dual<InterfaceOf<ModelClass>, Base> {
+/// What all COM objects that stand for a model object share. `Base` answers the members that the model lacks.
+template <class ModelClass, class Base> class ModelCom : public Base {
 public:
     using Model = ModelClass;
-    using Interface = InterfaceOf<Model>;
 
     explicit ModelCom(std::shared_ptr<Model> model) : model_(std::move(model)) {}
 
@@ -21,7 +22,9 @@ protected:
     Model& model() const { return *model_; }
 
     /// Runs the body of a member that gives nothing.
-    template <class Body> HRESULT run(Body&& body) noexcept { return guard(__uuidof(Interface), body); }
+    template <class Body> HRESULT run(Body&& body) noexcept {
+        return guard(__uuidof(InterfaceOf<Model>), body);
+    }
 
     /// Runs the body of a member and gives what it returns.
     template <class Raw, std::invocable Body> HRESULT give(Raw* result, Body&& body) noexcept {
@@ -42,10 +45,11 @@ protected:
     }
 
 private:
+    [[no_unique_address]] ModuleLock lock_;
     std::shared_ptr<Model> model_;
 };
 
-/// One member of the interface each, one member of the model each; E_NOTIMPL for what the model lacks.
+/// One member of the interface each, one member of the model each.
 template <class Model> class ToCom;
 
 } // namespace brx

@@ -6,6 +6,7 @@
 #include "adapters/to_com_opc.h"
 #include "adapters/to_com_services.h"
 #include "com/adapters/from_com.h"
+#include "com/dual.h"
 
 #include <memory>
 #include <utility>

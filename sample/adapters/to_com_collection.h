@@ -4,21 +4,13 @@
 
 namespace brx {
 
-template <> class ToCom<hlxApplication> final : public ModelCom<hlxApplication> {
+template <> class ToCom<hlxApplication> final : public ModelCom<hlxApplication, brxModel::hlxApplication> {
 public:
     using ModelCom::ModelCom;
-    STDMETHODIMP Reserved1() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved2() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved3() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved5() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved7() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved8() override { return E_NOTIMPL; }
     STDMETHODIMP get_Database(IDispatch** result) override { return give(result, &Model::Database); }
 };
 
-template <> class ToCom<hlxOPCServers> final : public ModelCom<hlxOPCServers> {
+template <> class ToCom<hlxOPCServers> final : public ModelCom<hlxOPCServers, brxModel::hlxOPCServers> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Parent(IDispatch** result) override { return give(result, &Model::Parent); }
@@ -32,20 +24,17 @@ public:
     STDMETHODIMP get_Count(LONG* result) override { return give(result, &Model::Count); }
 };
 
-template <> class ToCom<hlxOPCServer> final : public ModelCom<hlxOPCServer> {
+template <> class ToCom<hlxOPCServer> final : public ModelCom<hlxOPCServer, brxModel::hlxOPCServer> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ServerName(BSTR* result) override { return give(result, &Model::ServerName); }
     STDMETHODIMP get_Node(BSTR* result) override { return give(result, &Model::Node); }
-    STDMETHODIMP Reserved3() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
     STDMETHODIMP get_Parent(IDispatch** result) override { return give(result, &Model::Parent); }
-    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved7() override { return E_NOTIMPL; }
     STDMETHODIMP get_OPCServer(IDispatch** result) override { return give(result, &Model::OPCServer); }
 };
 
-template <> class ToCom<hlxOPCServerHolder> final : public ModelCom<hlxOPCServerHolder> {
+template <>
+class ToCom<hlxOPCServerHolder> final : public ModelCom<hlxOPCServerHolder, brxModel::hlxOPCServerHolder> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ServerEntry(_hlxOPCServer** result) override {

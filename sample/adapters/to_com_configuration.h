@@ -5,13 +5,11 @@
 
 namespace brx {
 
-template <> class ToCom<hlxOPCConfiguration> final : public ModelCom<hlxOPCConfiguration> {
+template <>
+class ToCom<hlxOPCConfiguration> final : public ModelCom<hlxOPCConfiguration, brxModel::hlxOPCConfiguration> {
 public:
     using ModelCom::ModelCom;
-    STDMETHODIMP Reserved1() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved2() override { return E_NOTIMPL; }
     STDMETHODIMP get_Server(_hlxOPCServerHolder** result) override { return give(result, &Model::Server); }
-    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
     STDMETHODIMP get_OPCGroup(IDispatch** result) override { return give(result, &Model::OPCGroup); }
     STDMETHODIMP get_Descriptors(_hlxOPCDescriptors** result) override {
         return give(result, &Model::Descriptors);
@@ -47,11 +45,8 @@ public:
     STDMETHODIMP put_PieceInterval(LONG value) override { return take(&Model::set_PieceInterval, value); }
     STDMETHODIMP get_PieceTimeUnit(SHORT* result) override { return give(result, &Model::PieceTimeUnit); }
     STDMETHODIMP put_PieceTimeUnit(SHORT value) override { return take(&Model::set_PieceTimeUnit, value); }
-    STDMETHODIMP Reserved22() override { return E_NOTIMPL; }
     STDMETHODIMP get_SyncDateTime(DATE* result) override { return give(result, &Model::SyncDateTime); }
     STDMETHODIMP put_SyncDateTime(DATE value) override { return take(&Model::set_SyncDateTime, value); }
-    STDMETHODIMP Reserved25() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved26() override { return E_NOTIMPL; }
     STDMETHODIMP get_SubgroupTriggerType(SHORT* result) override {
         return give(result, &Model::SubgroupTriggerType);
     }
@@ -76,10 +71,6 @@ public:
     STDMETHODIMP put_PieceTriggerValue(VARIANT value) override {
         return take(&Model::set_PieceTriggerValue, value);
     }
-    STDMETHODIMP Reserved35() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved36() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved37() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved38() override { return E_NOTIMPL; }
     STDMETHODIMP get_Name(BSTR* result) override { return give(result, &Model::Name); }
     STDMETHODIMP put_Name(BSTR value) override { return take(&Model::set_Name, value); }
     STDMETHODIMP get_Active(VARIANT_BOOL* result) override { return give(result, &Model::Active); }
@@ -90,7 +81,7 @@ public:
     STDMETHODIMP put_UpdateRate(LONG value) override { return take(&Model::set_UpdateRate, value); }
 };
 
-template <> class ToCom<hlxOPCTests> final : public ModelCom<hlxOPCTests> {
+template <> class ToCom<hlxOPCTests> final : public ModelCom<hlxOPCTests, brxModel::hlxOPCTests> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP Add(_hlxOPCTest** result) override { return give(result, &Model::Add); }
@@ -99,29 +90,22 @@ public:
     }
     STDMETHODIMP get_Count(LONG* result) override { return give(result, &Model::Count); }
     STDMETHODIMP Remove(LONG position) override { return take(&Model::Remove, position); }
-    STDMETHODIMP Reserved5() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
     STDMETHODIMP get_Parent(_hlxOPCConfiguration** result) override { return give(result, &Model::Parent); }
 };
 
-template <> class ToCom<hlxOPCTest> final : public ModelCom<hlxOPCTest> {
+template <> class ToCom<hlxOPCTest> final : public ModelCom<hlxOPCTest, brxModel::hlxOPCTest> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_State(LONG* result) override { return give(result, &Model::State); }
     STDMETHODIMP put_State(LONG value) override { return take(&Model::set_State, value); }
     STDMETHODIMP get_Parent(_hlxOPCTests** result) override { return give(result, &Model::Parent); }
     STDMETHODIMP get_Index(LONG* result) override { return give(result, &Model::Index); }
-    STDMETHODIMP Reserved5() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved6() override { return E_NOTIMPL; }
     STDMETHODIMP get_TestData(IDispatch** result) override { return give(result, &Model::TestData); }
-    STDMETHODIMP Reserved8() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved9() override { return E_NOTIMPL; }
     STDMETHODIMP get_OPCItemID(BSTR* result) override { return give(result, &Model::OPCItemID); }
     STDMETHODIMP get_ItemText(BSTR* result) override { return give(result, &Model::ItemText); }
     STDMETHODIMP put_OPCItemID(BSTR value) override { return take(&Model::set_OPCItemID, value); }
     STDMETHODIMP get_ClientHandle(LONG* result) override { return give(result, &Model::ClientHandle); }
     STDMETHODIMP put_ClientHandle(LONG value) override { return take(&Model::set_ClientHandle, value); }
-    STDMETHODIMP Reserved15() override { return E_NOTIMPL; }
     STDMETHODIMP put_ItemTrigger(VARIANT_BOOL value) override { return take(&Model::set_ItemTrigger, value); }
     STDMETHODIMP get_ItemTrigger(VARIANT_BOOL* result) override { return give(result, &Model::ItemTrigger); }
     STDMETHODIMP get_TriggerExpression(SHORT* result) override {
@@ -136,15 +120,13 @@ public:
     STDMETHODIMP put_Constant(DOUBLE value) override { return take(&Model::set_Constant, value); }
     STDMETHODIMP get_SaveAs(SHORT* result) override { return give(result, &Model::SaveAs); }
     STDMETHODIMP put_SaveAs(SHORT value) override { return take(&Model::set_SaveAs, value); }
-    STDMETHODIMP Reserved26() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved27() override { return E_NOTIMPL; }
-    STDMETHODIMP Reserved28() override { return E_NOTIMPL; }
     STDMETHODIMP get_CharacteristicName(BSTR* result) override {
         return give(result, &Model::CharacteristicName);
     }
 };
 
-template <> class ToCom<hlxOPCDescriptors> final : public ModelCom<hlxOPCDescriptors> {
+template <>
+class ToCom<hlxOPCDescriptors> final : public ModelCom<hlxOPCDescriptors, brxModel::hlxOPCDescriptors> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get__NewEnum(IUnknown** result) override {
@@ -165,13 +147,12 @@ public:
     STDMETHODIMP Remove(LONG position) override { return take(&Model::Remove, position); }
 };
 
-template <> class ToCom<hlxOPCDescriptor> final : public ModelCom<hlxOPCDescriptor> {
+template <>
+class ToCom<hlxOPCDescriptor> final : public ModelCom<hlxOPCDescriptor, brxModel::hlxOPCDescriptor> {
 public:
     using ModelCom::ModelCom;
-    STDMETHODIMP Reserved1() override { return E_NOTIMPL; }
     STDMETHODIMP get_Index(LONG* result) override { return give(result, &Model::Index); }
     STDMETHODIMP get_Type(LONG* result) override { return give(result, &Model::Type); }
-    STDMETHODIMP Reserved4() override { return E_NOTIMPL; }
     STDMETHODIMP get_ItemName(BSTR* result) override { return give(result, &Model::ItemName); }
     STDMETHODIMP put_ItemName(BSTR value) override { return take(&Model::set_ItemName, value); }
     STDMETHODIMP get_GroupName(BSTR* result) override { return give(result, &Model::GroupName); }

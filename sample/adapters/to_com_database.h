@@ -4,12 +4,12 @@
 
 namespace brx {
 
-template <> class ToCom<hlxDatabase> final : public ModelCom<hlxDatabase> {
+template <> class ToCom<hlxDatabase> final : public ModelCom<hlxDatabase, brxModel::hlxDatabase> {
 public:
     using ModelCom::ModelCom;
 };
 
-template <> class ToCom<hlxTestData> final : public ModelCom<hlxTestData> {
+template <> class ToCom<hlxTestData> final : public ModelCom<hlxTestData, brxModel::hlxTestData> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ID(LONG* result) override { return give(result, &Model::ID); }
@@ -24,7 +24,7 @@ public:
     STDMETHODIMP Save(_hlxDatabase* database) override { return take(&Model::Save, database); }
 };
 
-template <> class ToCom<hlxRecord> final : public ModelCom<hlxRecord> {
+template <> class ToCom<hlxRecord> final : public ModelCom<hlxRecord, brxModel::hlxRecord> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ID(LONG* result) override { return give(result, &Model::ID); }
@@ -39,7 +39,7 @@ public:
     }
 };
 
-template <> class ToCom<hlxSelection> final : public ModelCom<hlxSelection> {
+template <> class ToCom<hlxSelection> final : public ModelCom<hlxSelection, brxModel::hlxSelection> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP Show(_hlxDatabase* database, LONG id, LONG group_id, VARIANT_BOOL* result) override {

@@ -2,11 +2,10 @@
 
 #include "adapters/model_com.h"
 #include "adapters/opc_arguments.h"
-#include "adapters/opc_unused.h"
 
 namespace brx {
 
-template <> class ToCom<OPCServer> : public ModelCom<OPCServer, UnusedOfOPCServer> {
+template <> class ToCom<OPCServer> : public ModelCom<OPCServer, brxModel::IOPCAutoServer> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_StartTime(DATE* result) override { return give(result, &Model::StartTime); }
@@ -31,7 +30,7 @@ public:
     }
 };
 
-template <> class ToCom<OPCGroups> final : public ModelCom<OPCGroups, UnusedOfOPCGroups> {
+template <> class ToCom<OPCGroups> final : public ModelCom<OPCGroups, brxModel::IOPCGroups> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Count(LONG* result) override { return give(result, &Model::Count); }
@@ -45,7 +44,7 @@ public:
     STDMETHODIMP Remove(VARIANT item_specifier) override { return take(&Model::Remove, item_specifier); }
 };
 
-template <> class ToCom<OPCGroup> : public ModelCom<OPCGroup, UnusedOfOPCGroup> {
+template <> class ToCom<OPCGroup> : public ModelCom<OPCGroup, brxModel::IOPCGroup> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Parent(IOPCAutoServer** result) override { return give(result, &Model::Parent); }
@@ -53,7 +52,7 @@ public:
     STDMETHODIMP get_OPCItems(::OPCItems** result) override { return give(result, &Model::OPCItems); }
 };
 
-template <> class ToCom<OPCItems> final : public ModelCom<OPCItems, UnusedOfOPCItems> {
+template <> class ToCom<OPCItems> final : public ModelCom<OPCItems, brxModel::OPCItems> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Count(LONG* result) override { return give(result, &Model::Count); }
@@ -93,7 +92,7 @@ public:
     }
 };
 
-template <> class ToCom<OPCItem> : public ModelCom<OPCItem, UnusedOfOPCItem> {
+template <> class ToCom<OPCItem> : public ModelCom<OPCItem, brxModel::OPCItem> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_ItemID(BSTR* result) override { return give(result, &Model::ItemID); }
@@ -104,7 +103,7 @@ public:
     }
 };
 
-template <> class ToCom<OPCBrowser> final : public ModelCom<OPCBrowser, UnusedOfOPCBrowser> {
+template <> class ToCom<OPCBrowser> final : public ModelCom<OPCBrowser, brxModel::OPCBrowser> {
 public:
     using ModelCom::ModelCom;
     STDMETHODIMP get_Organization(LONG* result) override { return give(result, &Model::Organization); }

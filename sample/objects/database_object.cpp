@@ -1,9 +1,9 @@
 #include "objects/database_object.h"
 
 #include "com/com_object.h"
-#include "com/dual.h"
+#include "win32/counted.h"
 
-#include "brxDatabase6.h"
+#include <brxModel.h>
 
 namespace brx::host {
 
@@ -12,13 +12,13 @@ namespace {
 /// Only objects of this class know this interface; it is nobody else's business, and so is in no library.
 constexpr IID our_own{0x6B1B7E6A, 0x9E0F, 0x4C53, {0x8F, 0x2D, 0x61, 0x0C, 0x5A, 0x44, 0x93, 0x1E}};
 
-class DatabaseObject final : public Dual<_hlxDatabase> {
+class DatabaseObject final : public brxModel::hlxDatabase {
 public:
     explicit DatabaseObject(std::shared_ptr<DatabaseConnection> connection)
         : connection_(std::move(connection)) {}
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (iid != our_own || !object) return Dual::QueryInterface(iid, object);
+        if (iid != our_own || !object) return brxModel::hlxDatabase::QueryInterface(iid, object);
         *object = this;
         AddRef();
         return S_OK;
@@ -26,6 +26,7 @@ public:
     const std::shared_ptr<DatabaseConnection>& connection() const { return connection_; }
 
 private:
+    [[no_unique_address]] ModuleLock lock_;
     std::shared_ptr<DatabaseConnection> connection_;
 };
 

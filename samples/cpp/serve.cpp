@@ -9,19 +9,21 @@
 
 namespace {
 
-class Server : public brx::hlxOPCServer {
+class Server : public brxModel::hlxOPCServer {
 public:
     Server(const wchar_t* node, const wchar_t* name) : node_(node), name_(name) {}
 
-    HRESULT STDMETHODCALLTYPE get_Node(BSTR* node) override { return brx::give(node, node_.c_str()); }
-    HRESULT STDMETHODCALLTYPE get_ServerName(BSTR* name) override { return brx::give(name, name_.c_str()); }
+    HRESULT STDMETHODCALLTYPE get_Node(BSTR* node) override { return brxModel::give(node, node_.c_str()); }
+    HRESULT STDMETHODCALLTYPE get_ServerName(BSTR* name) override {
+        return brxModel::give(name, name_.c_str());
+    }
 
 private:
     std::wstring node_;
     std::wstring name_;
 };
 
-class Servers : public brx::hlxOPCServers {
+class Servers : public brxModel::hlxOPCServers {
 public:
     Servers() {
         servers_.push_back(new Server(L"", L"Mill.Server.1"));
@@ -41,8 +43,8 @@ public:
         VariantInit(&position);
         if (FAILED(VariantChangeType(&position, &index, 0, VT_I4)) || position.lVal < 1 ||
             position.lVal > static_cast<LONG>(servers_.size()))
-            return brx::failed(L"There is no such server.", DISP_E_BADINDEX, L"The C++ sample");
-        return brx::give(server, servers_[static_cast<std::size_t>(position.lVal - 1)]);
+            return brxModel::failed(L"There is no such server.", DISP_E_BADINDEX, L"The C++ sample");
+        return brxModel::give(server, servers_[static_cast<std::size_t>(position.lVal - 1)]);
     }
 
 private:

@@ -58,16 +58,8 @@ kit_interfaces() {
         without_clash <"$made/$file.h" | without_folder >"$kit/include/$file.h"
         without_folder <"$made/${file}_i.c" >"$kit/include/${file}_i.c"
     done
-    kit_model_header "$kit"
+    cp "$made/brxModel.h" "$kit/include/"
     kit_pascal "$kit"
-}
-
-# The base of a C++ host's objects, with a class for each interface.
-kit_model_header() {
-    local kit=$1 classes=$1/classes
-    awk -f "$brx_top/scripts/package/model.awk" "$kit/include/brxOpcAuto6.h" "$kit/include/brxDatabase6.h" >"$classes"
-    sed -e "/^\/\/ @CLASSES@/{r $classes" -e 'd}' "$brx_top/packaging/brxModel.h" >"$kit/include/brxModel.h"
-    rm "$classes"
 }
 
 # Units for Object Pascal: one for each library, and the base of a host's objects.

@@ -1,34 +1,54 @@
-# The classes of brxModel.h, one for each interface of the headers: every member answers E_NOTIMPL.
+# brxModel.h with its classes, one for each interface of the headers: every member answers E_NOTIMPL.
 #
-#   awk -f model.awk HEADER.h..
+#   awk -f model.awk packaging/brxModel.h HEADER.h.. >brxModel.h
 
-function text_of_argument(line, text) {
-    text = line
-    sub(/^ +/, "", text)
-    sub(/,$|\) = 0;$/, "", text)
-    sub(/ = [^ ]*$/, "", text) # its default
-    sub(/[A-Za-z0-9_]+$/, "", text) # its name
-    sub(/ +$/, "", text)
-    return text
+# Inside the classes' namespace an interface may be hidden by a class of its name.
+function type_of(line, type, name) {
+    type = line
+    sub(/^ +/, "", type)
+    sub(/,$|\) = 0;$/, "", type)
+    sub(/ = [^ ]*$/, "", type) # its default
+    sub(/[A-Za-z0-9_]+$/, "", type) # its name
+    sub(/ +$/, "", type)
+    gsub(/ \*/, "*", type)
+    name = type
+    sub(/[ *].*/, "", name)
+    return (name in interfaces ? "::" : "") type
 }
+function add(line) { classes = classes line "\n" }
 
-/^_[A-Za-z]+ : public IDispatch$/ {
-    name = $1
-    printf "\nclass %s : public Object<%s> {\npublic:\n", substr(name, 2), name
-    inside = 1
-    next
+{ sub(/\r$/, "") }
+FNR == 1 { ++file }
+file == 1 { frame[++lines] = $0; next }
+
+/^typedef interface / { interfaces[$3] }
+# Those that an owner of events calls have no members.
+/^[A-Za-z_]+ : public IDispatch$/ && !/^DI/ {
+    interface = $1
+    class = interface
+    sub(/^_/, "", class)
+    add("\nclass " class " : public Object<::" interface "> {\npublic:")
+    member = ""
 }
-inside && /virtual HRESULT STDMETHODCALLTYPE/ {
+interface != "" && /virtual HRESULT STDMETHODCALLTYPE/ {
     member = $4
     sub(/\($/, "", member)
     arguments = ""
     next
 }
-inside && member != "" && /[A-Za-z]/ && !/^ *\) = 0;/ {
-    arguments = arguments (arguments == "" ? "" : ", ") text_of_argument($0)
-}
-inside && member != "" && /\) = 0;$/ {
-    printf "    HRESULT STDMETHODCALLTYPE %s(%s) override { return E_NOTIMPL; }\n", member, arguments
+member != "" && /[A-Za-z]/ && !/^ *\) = 0;/ { arguments = arguments (arguments == "" ? "" : ", ") type_of($0) }
+member != "" && /\) = 0;$/ {
+    add("    HRESULT STDMETHODCALLTYPE " member "(" arguments ") override {")
+    add("        return missing(L\"" class "::" member " is not implemented.\");\n    }")
     member = ""
 }
-inside && /^};/ { print "};"; inside = 0 }
+interface != "" && /^};/ {
+    add("};")
+    interface = ""
+}
+
+END {
+    for (line = 1; line <= lines; ++line)
+        if (frame[line] ~ /^\/\/ @CLASSES@/) printf "%s", classes
+        else print frame[line]
+}

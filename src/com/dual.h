@@ -7,9 +7,8 @@
 namespace brx {
 
 /// What every COM object of ours consists of besides its own members: counted references, its dual interface
-/// early and late bound, and the promise that a failing member leaves its error information. `Base` is
-/// `Interface` or a class that implements a part of it.
-template <class Interface, class Base = Interface> class Dual : public Counted<Base, ISupportErrorInfo> {
+/// early and late bound, and the promise that a failing member leaves its error information.
+template <class Interface> class Dual : public Counted<Interface, ISupportErrorInfo> {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (!object) return E_POINTER;

@@ -26,13 +26,13 @@ public:
     }
 
 private:
-    std::atomic<ULONG> references_ = 0;
+    std::atomic<ULONG> references_ = 1;
     [[no_unique_address]] ModuleLock lock_;
 };
 
-/// A new COM object of a class.
+/// A new COM object of a class whose objects begin with one reference.
 template <class Class, class... Arguments> com_ptr<Class> make_com(Arguments&&... arguments) {
-    return com_ptr<Class>(std::make_unique<Class>(std::forward<Arguments>(arguments)...).release());
+    return com_ptr<Class>::adopt(std::make_unique<Class>(std::forward<Arguments>(arguments)...).release());
 }
 
 } // namespace brx

@@ -1,12 +1,12 @@
 #include "sample/windows/fake_wrapper.h"
 
-#include "adapters/opc_unused.h"
 #include "com/bstr.h"
 #include "com/owned_variant.h"
 #include "sample/windows/fake_wrapper_objects.h"
 #include "win32/com_ptr.h"
+#include "win32/counted.h"
 
-#include <memory>
+#include <brxModel.h>
 
 namespace brx::checks {
 
@@ -18,55 +18,21 @@ constexpr const wchar_t* wrapper_key = L"Software\\Classes\\OPC.Automation";
 /// Some systems look for names in the machine's classes only, and not everybody may write there.
 const HKEY roots[] = {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE};
 
-/// References of an object that lives on the heap.
-template <class Interface, class Base> class CountedFake : public Base {
+class FakeServer final : public brxModel::IOPCAutoServer {
 public:
-    virtual ~CountedFake() = default;
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == __uuidof(IUnknown) || iid == __uuidof(Interface) || iid == also_;
-        *object = known ? static_cast<Interface*>(this) : nullptr;
-        if (known) AddRef();
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override {
-        const ULONG left = --references_;
-        if (left == 0) std::unique_ptr<CountedFake>(this).reset();
-        return left;
-    }
-
-protected:
-    IID also_ = __uuidof(Interface);
-
-private:
-    ULONG references_ = 0;
-};
-
-class FakeServer final : public CountedFake<::IOPCAutoServer, UnusedOfOPCServer> {
-public:
-    FakeServer() { also_ = __uuidof(IDispatch); }
     ~FakeServer() override { groups_->RemoveAll(); }
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (iid != __uuidof(ISupportErrorInfo)) return brxModel::IOPCAutoServer::QueryInterface(iid, object);
+        *object = nullptr;
+        return E_NOINTERFACE;
     }
-    STDMETHODIMP get_StartTime(DATE*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_CurrentTime(DATE*) override { return E_NOTIMPL; }
     STDMETHODIMP get_LastUpdateTime(DATE* time) override { return *time = -109205, S_OK; }
-    STDMETHODIMP get_MajorVersion(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_MinorVersion(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_BuildNumber(SHORT*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_VendorInfo(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP get_ServerState(LONG* state) override {
         *state = server_.empty() ? 6 : 1;
         return S_OK;
     }
     STDMETHODIMP get_ServerName(BSTR* name) override { return *name = Bstr(server_).detach(), S_OK; }
     STDMETHODIMP get_ServerNode(BSTR* node) override { return *node = nullptr, S_OK; }
-    STDMETHODIMP get_ClientName(BSTR*) override { return E_NOTIMPL; }
-    STDMETHODIMP get_Bandwidth(LONG*) override { return E_NOTIMPL; }
     STDMETHODIMP get_OPCGroups(IOPCGroups** groups) override {
         return *groups = com_ptr(groups_).detach(), S_OK;
     }
@@ -77,7 +43,6 @@ public:
     STDMETHODIMP CreateBrowser(::OPCBrowser** browser) override {
         return *browser = make_fake_browser().detach(), S_OK;
     }
-    STDMETHODIMP GetErrorString(LONG, BSTR*) override { return E_NOTIMPL; }
 
     STDMETHODIMP Connect(BSTR program_id, VARIANT node) override {
         const std::string name = text_of(program_id);
@@ -98,12 +63,10 @@ private:
     com_ptr<IOPCGroups> groups_ = make_fake_groups(*this);
 };
 
-class FakeFactory final : public CountedFake<IClassFactory, IClassFactory> {
+class FakeFactory final : public brxModel::Referenced<IClassFactory> {
 public:
     STDMETHODIMP CreateInstance(IUnknown*, REFIID iid, void** object) override {
-        const com_ptr<IUnknown> made(
-            static_cast<::IOPCAutoServer*>(std::make_unique<FakeServer>().release()));
-        return made->QueryInterface(iid, object);
+        return make_com<FakeServer>()->QueryInterface(iid, object);
     }
     STDMETHODIMP LockServer(BOOL) override { return S_OK; }
 };
@@ -121,7 +84,7 @@ FakeWrapper::FakeWrapper() {
     const std::wstring text = wrapper_class_text;
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
     for (HKEY root : roots) RegSetKeyValueW(root, key.c_str(), nullptr, REG_SZ, text.c_str(), size);
-    const com_ptr<IUnknown> factory(static_cast<IUnknown*>(std::make_unique<FakeFactory>().release()));
+    const com_ptr<IClassFactory> factory = make_com<FakeFactory>();
     CoRegisterClassObject(wrapper_class, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
                           &registered_);
 }

@@ -1,12 +1,14 @@
 #include "sample/windows/fake_wrapper_objects.h"
 
 #include "adapters/opc_arguments.h"
-#include "adapters/opc_unused.h"
 #include "com/bstr.h"
 #include "com/failure.h"
 #include "com/owned_variant.h"
 #include "com/shy.h"
 #include "sample/windows/fake_wrapper.h"
+#include "win32/counted.h"
+
+#include <brxModel.h>
 
 #include <algorithm>
 
@@ -37,7 +39,7 @@ struct GroupState {
     FLOAT dead_band = 0;
 };
 
-class FakeItem final : public Shy<UnusedOfOPCItem, ::OPCItem> {
+class FakeItem final : public Shy<brxModel::OPCItem, ::OPCItem> {
 public:
     FakeItem(const GroupState& group, std::string id) : group_(group), id_(std::move(id)) {}
 
@@ -77,7 +79,7 @@ private:
     FakeWrapper::Item kept_{Empty{}, 0};
 };
 
-class FakeItems final : public Shy<UnusedOfOPCItems, ::OPCItems> {
+class FakeItems final : public Shy<brxModel::OPCItems, ::OPCItems> {
 public:
     explicit FakeItems(std::shared_ptr<GroupState> group) : group_(std::move(group)) {}
 
@@ -107,7 +109,6 @@ public:
             *errors = OwnedSafeArray(failures).detach();
         });
     }
-    STDMETHODIMP Remove(LONG, SAFEARRAY**, SAFEARRAY**) override { return E_NOTIMPL; }
     STDMETHODIMP Validate(LONG count, SAFEARRAY** ids, SAFEARRAY** errors, VARIANT, VARIANT) override {
         return guard(__uuidof(::OPCItems), [&] {
             const StringArray asked = first_strings(ids, count);
@@ -129,7 +130,7 @@ private:
     std::vector<com_ptr<FakeItem>> items_;
 };
 
-class FakeGroup final : public Shy<UnusedOfOPCGroup, ::IOPCGroup> {
+class FakeGroup final : public Shy<brxModel::IOPCGroup, ::IOPCGroup> {
 public:
     FakeGroup(::IOPCAutoServer& server, std::string name) : server_(&server), name_(std::move(name)) {}
 
@@ -166,14 +167,13 @@ private:
     com_ptr<FakeItems> items_ = make_com<FakeItems>(state_);
 };
 
-class FakeGroups final : public Shy<UnusedOfOPCGroups, ::IOPCGroups> {
+class FakeGroups final : public Shy<brxModel::IOPCGroups, ::IOPCGroups> {
 public:
     explicit FakeGroups(::IOPCAutoServer& server) : server_(server) {}
 
     STDMETHODIMP get_Count(LONG* result) override {
         return *result = static_cast<LONG>(groups_.size()), S_OK;
     }
-    STDMETHODIMP Item(VARIANT, ::IOPCGroup**) override { return E_NOTIMPL; }
     STDMETHODIMP Add(VARIANT name, ::IOPCGroup** result) override {
         const std::string wanted =
             V_VT(&name) == VT_BSTR ? text_of(V_BSTR(&name)) : "Group" + std::to_string(++made_up_);
@@ -201,7 +201,7 @@ private:
     int made_up_ = 0;
 };
 
-class FakeBrowser final : public Shy<UnusedOfOPCBrowser, ::OPCBrowser> {
+class FakeBrowser final : public Shy<brxModel::OPCBrowser, ::OPCBrowser> {
 public:
     STDMETHODIMP get_Organization(LONG* result) override { return *result = 2, S_OK; } // flat
     STDMETHODIMP get_Count(LONG* result) override { return *result = static_cast<LONG>(names_.size()), S_OK; }

@@ -1,0 +1,153 @@
+#include "com/adapters/from_com.h"
+#include "com/describe.h"
+#include "com/failure.h"
+#include "com/late_bound.h"
+#include "com/round_trip.h"
+#include "win32/counted.h"
+
+#include <brxModel.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <thread>
+
+// The base that the kit gives the makers of hosts.
+
+namespace brx::checks {
+
+namespace {
+
+template <class... Class> constexpr bool all_can_be_made = !(std::is_abstract_v<Class> || ...);
+static_assert(
+    all_can_be_made<brxModel::IOPCAutoServer, brxModel::OPCBrowser, brxModel::IOPCGroups, brxModel::IOPCGroup,
+                    brxModel::OPCItems, brxModel::OPCItem, brxModel::hlxApplication, brxModel::hlxOPCServers,
+                    brxModel::hlxOPCServer, brxModel::hlxOPCServerHolder, brxModel::hlxOPCConfiguration,
+                    brxModel::hlxOPCTests, brxModel::hlxOPCTest, brxModel::hlxOPCDescriptors,
+                    brxModel::hlxOPCDescriptor, brxModel::hlxListTools, brxModel::hlxMessage,
+                    brxModel::hlxFocus, brxModel::hlxBusyCursor, brxModel::hlxHelp, brxModel::hlxDatabase,
+                    brxModel::hlxTestData, brxModel::hlxRecord, brxModel::hlxSelection>);
+
+constexpr const char* last_error_missing =
+    "error -2147467263 | hlxOPCServers::get_LastError is not implemented. | brxModel";
+
+/// Has two servers and says when it is gone.
+class TwoServers final : public brxModel::hlxOPCServers {
+public:
+    explicit TwoServers(bool& gone) : gone_(gone) {}
+    ~TwoServers() override { gone_ = true; }
+    STDMETHODIMP get_Count(LONG* count) override { return *count = 2, S_OK; }
+    STDMETHODIMP get_Item(VARIANT, _hlxOPCServer** server) override {
+        *server = nullptr;
+        return brxModel::failed(L"It is being cleaned.", DISP_E_BADINDEX, L"The line");
+    }
+
+private:
+    bool& gone_;
+};
+
+class PlainObject final : public brxModel::Object<IDispatch> {};
+
+class UpTo final : public brxModel::Enumeration {
+public:
+    explicit UpTo(LONG last, LONG broken = 0) : last_(last), broken_(broken) {}
+
+private:
+    HRESULT next(VARIANT* element) override {
+        if (reached_ == last_) return S_FALSE;
+        if (++reached_ == broken_) return E_FAIL;
+        *element = OwnedVariant(Variant(std::string("Line ") + std::to_string(reached_))).detach();
+        return S_OK;
+    }
+
+    LONG last_;
+    LONG broken_;
+    LONG reached_ = 0;
+};
+
+class ModelBaseTest : public AdapterTest {
+protected:
+    bool gone = false;
+    com_ptr<TwoServers> servers = make_com<TwoServers>(gone);
+};
+
+TEST_F(ModelBaseTest, AnswerWhatNobodyWroteWithErrorInformation) {
+    const auto model = from_com<hlxOPCServers>(servers);
+    EXPECT_EQ(model->Count(), 2);
+    EXPECT_EQ(outcome([&] { return Variant(model->LastError()); }), last_error_missing);
+    EXPECT_EQ(outcome([&] { return ObjectPtr(model->Item(std::int32_t{1})); }),
+              describe(Error(DISP_E_BADINDEX, "It is being cleaned.", "The line")));
+}
+
+TEST_F(ModelBaseTest, ServeLateCallersByTheTypeLibrary) {
+    EXPECT_EQ(outcome([&] { return invoke(servers.get(), "Count", DISPATCH_PROPERTYGET, {}); }), "long 2");
+    EXPECT_EQ(outcome([&] { return invoke(servers.get(), "LastError", DISPATCH_PROPERTYGET, {}); }),
+              last_error_missing);
+}
+
+TEST_F(ModelBaseTest, ServeNoLateCallerWithoutATypeLibrary) {
+    const auto plain = make_com<PlainObject>();
+    UINT count = 1;
+    EXPECT_EQ(plain->GetTypeInfoCount(&count), S_OK);
+    EXPECT_EQ(count, 0u);
+    com_ptr<ITypeInfo> info;
+    EXPECT_EQ(plain->GetTypeInfo(0, 0, info.out()), DISP_E_BADINDEX);
+    EXPECT_EQ(outcome([&] { return invoke(plain.get(), "Count", DISPATCH_PROPERTYGET, {}); }),
+              describe(error_of(E_NOTIMPL)));
+}
+
+TEST_F(ModelBaseTest, KnowItsInterfacesAndNoOthers) {
+    const com_ptr<IUnknown> identity = servers.as<IUnknown>();
+    EXPECT_EQ(servers.as<IDispatch>().as<IUnknown>().get(), identity.get());
+    EXPECT_EQ(servers.as<ISupportErrorInfo>().as<_hlxOPCServers>().as<IUnknown>().get(), identity.get());
+    void* unknown = this;
+    EXPECT_EQ(servers->QueryInterface(__uuidof(_hlxOPCServer), &unknown), E_NOINTERFACE);
+    EXPECT_EQ(unknown, nullptr);
+}
+
+TEST_F(ModelBaseTest, CountReferencesFromAnyThread) {
+    constexpr int often = 200'000;
+    const auto hold_and_release = [this] {
+        for (int i = 0; i < often; ++i) {
+            servers->AddRef();
+            servers->Release();
+        }
+    };
+    std::thread beside(hold_and_release);
+    hold_and_release();
+    beside.join();
+    EXPECT_FALSE(gone);
+    EXPECT_EQ(servers.detach()->Release(), 0u);
+    EXPECT_TRUE(gone);
+}
+
+TEST_F(ModelBaseTest, EnumerateOnceToTheEnd) {
+    const com_ptr<IEnumVARIANT> lines = make_com<UpTo>(4);
+    std::array<VARIANT, 3> raw{};
+    ULONG fetched = 0;
+    EXPECT_EQ(lines->Skip(1), S_OK);
+    EXPECT_EQ(lines->Next(2, raw.data(), &fetched), S_OK);
+    EXPECT_EQ(fetched, 2u);
+    EXPECT_EQ(describe(value_of(raw[1])), "text Line 3");
+    for (VARIANT& each : raw) VariantClear(&each);
+    EXPECT_EQ(lines->Next(3, raw.data(), &fetched), S_FALSE);
+    EXPECT_EQ(fetched, 1u);
+    EXPECT_EQ(describe(value_of(raw[0])), "text Line 4");
+    VariantClear(raw.data());
+    EXPECT_EQ(lines->Next(1, raw.data(), nullptr), S_FALSE);
+    EXPECT_EQ(lines->Skip(1), S_FALSE);
+    EXPECT_EQ(lines->Reset(), E_NOTIMPL);
+    SetErrorInfo(0, nullptr);
+}
+
+TEST_F(ModelBaseTest, GiveNoElementWhenOneFails) {
+    const com_ptr<IEnumVARIANT> lines = make_com<UpTo>(4, 3);
+    std::array<VARIANT, 4> raw{};
+    ULONG fetched = 4;
+    EXPECT_EQ(lines->Next(4, raw.data(), &fetched), E_FAIL);
+    EXPECT_EQ(fetched, 0u);
+    for (const VARIANT& each : raw) EXPECT_EQ(V_VT(&each), VT_EMPTY);
+}
+
+} // namespace
+
+} // namespace brx::checks
