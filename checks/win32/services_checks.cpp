@@ -260,6 +260,17 @@ TEST_F(ServicesTest, RepaintingShowsALineWhileTheHandlerGoesOn) {
     EXPECT_TRUE(looked);
 }
 
+TEST_F(ServicesTest, ALabelOfDataIsAStaticControl) {
+    class Told : public Office {
+    public:
+        explicit Told(Environment& on) : Office(on) {}
+        Label Data{*this, "Data", {.place = {0, 0, 10, 15}, .caption = "R&D", .mnemonic = false}};
+    } form(environment);
+    show(form, [&](Hands& hands) {
+        EXPECT_EQ(SendMessageW(hands.control("Office", "Data"), WM_GETDLGCODE, 0, 0), DLGC_STATIC);
+    });
+}
+
 TEST_F(ServicesTest, ManyShowingsLeaveNothingBehind) {
     const HostWindow main;
     class Brief : public Office {

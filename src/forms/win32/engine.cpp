@@ -34,10 +34,39 @@ std::optional<WPARAM> serve(FormWindow& window) {
     return std::nullopt;
 }
 
-bool is_to_quit() {
-    MSG message{};
-    return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) && message.message == WM_QUIT;
-}
+/// Whether the thread is told to quit while a box of the system is open, whose loop then ends it.
+class QuitWatch {
+public:
+    QuitWatch()
+        : outer_(std::exchange(innermost_, this)),
+          hook_(SetWindowsHookExW(WH_GETMESSAGE, look, nullptr, GetCurrentThreadId())) {}
+    QuitWatch(const QuitWatch&) = delete;
+    QuitWatch& operator=(const QuitWatch&) = delete;
+    ~QuitWatch() {
+        UnhookWindowsHookEx(hook_);
+        innermost_ = outer_;
+    }
+
+    /// The queue alone would not do: some systems keep WM_QUIT back until every other posted message is gone.
+    bool is_to_quit() const { return seen_ || waits_in_queue(); }
+
+private:
+    static bool waits_in_queue() {
+        MSG message{};
+        return PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) && message.message == WM_QUIT;
+    }
+    static LRESULT CALLBACK look(int code, WPARAM removed, LPARAM message) {
+        if (code == HC_ACTION && reinterpret_cast<const MSG*>(message)->message == WM_QUIT)
+            innermost_->seen_ = true;
+        return CallNextHookEx(nullptr, code, removed, message);
+    }
+
+    static inline thread_local QuitWatch* innermost_ = nullptr;
+
+    QuitWatch* outer_;
+    HHOOK hook_;
+    bool seen_ = false;
+};
 
 /// What the close box of a message box answers.
 std::int32_t closed_answer(std::int32_t style) {
@@ -115,17 +144,20 @@ std::int32_t Win32Engine::message_box(const Message& message) {
     const HWND focus_before = GetFocus();
     const auto style = static_cast<UINT>(message.style) | (owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND);
     int pressed = 0;
+    bool quitting = false;
     {
         const std::wstring text = to_wide(message.text);
         const std::wstring title = to_wide(message.shown_title());
         // The box disables its owner itself, and enables it at the right moment.
         const DisabledThreadWindows others(owner);
         const VisualStyles styles;
+        const QuitWatch watch;
         pressed = MessageBoxW(owner, text.c_str(), title.c_str(), style);
+        quitting = watch.is_to_quit();
     }
     // A box that went with its owner, or with the whole thread, has been answered by nobody: some systems say
     // OK.
-    if (is_to_quit() || (owner && !IsWindow(owner))) pressed = closed_answer(message.style);
+    if (quitting || (owner && !IsWindow(owner))) pressed = closed_answer(message.style);
     if (pressed == 0) throw Error(error::invalid_procedure_call);
     if (open_forms_.empty())
         give_focus_back(focus_before);

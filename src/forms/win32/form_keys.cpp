@@ -30,7 +30,10 @@ bool FormWindow::takes(MSG& message) {
     if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE && (message.lParam & again) != 0)
         return true;
     const bool outer = std::exchange(by_key_, is_key(message));
+    const bool outer_character =
+        std::exchange(by_character_, message.message == WM_CHAR || message.message == WM_SYSCHAR);
     const bool taken = takes_key(message) || IsDialogMessageW(handle_, &message);
+    by_character_ = outer_character;
     by_key_ = outer;
     return taken;
 }

@@ -36,6 +36,7 @@ public:
     void deal_with(MSG message);
     /// Does the next of what a person did while code ran; false when there is nothing.
     bool do_held();
+    bool deals_with_character() const { return by_character_; }
     bool holds_deeds() const { return !held_.empty(); }
     /// Something comes before it: the rest of what was being done is not meant for that.
     void miss_held();
@@ -147,6 +148,7 @@ private:
     bool keys_of_then_ = false; ///< those count as held down that were so when the present deed was held back
     bool holds_key_ = false;    ///< the key that was pressed last waits, and its characters with it
     bool by_key_ = false;       ///< a key is dealt with: where the focus comes, it comes from the keyboard
+    bool by_character_ = false; ///< the dialog manager may look for the control that a character presses
 };
 
 } // namespace brx

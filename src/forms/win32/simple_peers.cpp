@@ -34,8 +34,10 @@ void LabelPeer::move_to(const RECT& place) {
 }
 
 LRESULT LabelPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
-    // Not every dialog manager looks for SS_NOPREFIX before it takes an ampersand for an accelerator.
-    if (message == WM_GETDLGCODE && !label_.mnemonic()) return DLGC_WANTCHARS;
+    // Not every dialog manager looks for SS_NOPREFIX before it takes an ampersand for an accelerator, or
+    // passes over what says that it is static too.
+    if (message == WM_GETDLGCODE && !label_.mnemonic() && window().deals_with_character())
+        return DLGC_WANTCHARS;
     return ControlPeer::handle_message(message, wparam, lparam);
 }
 
