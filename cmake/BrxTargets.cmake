@@ -34,10 +34,15 @@ function(brx_library name)
     target_link_libraries(${name} PUBLIC brx_options ${arg_LINK})
 endfunction()
 
-# brx_mapped(TARGET): the linker says what it linked, beside the file, for the package's list of parts.
-function(brx_mapped name)
-    if(MINGW)
-        target_link_options(${name} PRIVATE "-Wl,-Map=$<TARGET_FILE:${name}>.map")
+# brx_debugged(TARGET): the linker makes TARGET.pdb beside the file, for the debuggers of Windows and for the package's
+# list of parts, where it can.
+function(brx_debugged name)
+    if(BRX_PDB)
+        # What is written down of names and folders is the same for every checkout.
+        file(RELATIVE_PATH folder "${CMAKE_BINARY_DIR}" "${CMAKE_CURRENT_BINARY_DIR}")
+        target_link_options(${name} PRIVATE "-Wl,--pdb=${folder}/${name}.pdb,-Xlink=-pdbaltpath:${name}.pdb"
+            "-Wl,-Xlink=-pdbsourcepath:C:\\${name}")
+        set_target_properties(${name} PROPERTIES ADDITIONAL_CLEAN_FILES "${name}.pdb")
     endif()
 endfunction()
 
@@ -54,12 +59,12 @@ function(brx_program name)
     if(MINGW AND (arg_WINDOWED OR arg_WIDE_MAIN))
         target_link_options(${name} PRIVATE -municode)
     endif()
-    brx_mapped(${name})
+    brx_debugged(${name})
 endfunction()
 
 # brx_com_dll(NAME DEF file [SOURCES] file... [LINK library...]): an in-process COM server, NAME.dll. The definition
 # file lists the exports by their plain names, which are what every caller asks for in 32 bits too. The debug
-# information goes to NAME.dll.debug.
+# information goes to NAME.dll.debug and, from compilers that can, to NAME.pdb for the debuggers of Windows.
 function(brx_com_dll name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DEF" "SOURCES;LINK")
     add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES} "${arg_DEF}")
@@ -67,13 +72,14 @@ function(brx_com_dll name)
     cmake_path(ABSOLUTE_PATH arg_DEF OUTPUT_VARIABLE def)
     set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS "${def}")
     target_link_libraries(${name} PRIVATE brx_options ${arg_LINK})
-    brx_mapped(${name})
+    brx_debugged(${name})
     target_link_options(${name} PRIVATE -Wl,--enable-stdcall-fixup,--kill-at,--exclude-all-symbols
         -Wl,--gc-sections)
     # It would write down when it ran.
     set(objcopy "${CMAKE_COMMAND}" -E env SOURCE_DATE_EPOCH=0 "${CMAKE_OBJCOPY}")
+    # The debug file is the whole one: what llvm-objcopy leaves with --only-keep-debug nobody can read.
     add_custom_command(TARGET ${name} POST_BUILD
-        COMMAND ${objcopy} --only-keep-debug "$<TARGET_FILE:${name}>" "$<TARGET_FILE:${name}>.debug"
+        COMMAND "${CMAKE_COMMAND}" -E copy "$<TARGET_FILE:${name}>" "$<TARGET_FILE:${name}>.debug"
         COMMAND ${objcopy} --strip-unneeded "--add-gnu-debuglink=$<TARGET_FILE:${name}>.debug"
                 "$<TARGET_FILE:${name}>"
         VERBATIM)

@@ -1,19 +1,15 @@
-# What both Windows toolchains share; mingw-x64.cmake and mingw-x86.cmake name the processor first.
+# What the Windows toolchains share; mingw-x64.cmake and mingw-x86.cmake name the processor first, mingw-x64-gcc.cmake
+# the compiler too.
 
-if(NOT CMAKE_HOST_WIN32)
+# clang and lld make debug information that the debuggers of Windows read; headers and libraries are gcc's. On Windows
+# the compiler is that of MSYS2.
+if(CMAKE_HOST_WIN32)
+    set(BRX_MINGW_COMPILER gcc)
+else()
     set(CMAKE_SYSTEM_NAME Windows)
-endif()
-
-# Debian has two flavours of each compiler; std::thread and friends exist in the posix one only. Elsewhere (MSYS2)
-# there is one flavour, without a suffix.
-find_program(BRX_MINGW_CC NAMES ${BRX_MINGW_TRIPLE}-gcc-posix ${BRX_MINGW_TRIPLE}-gcc REQUIRED)
-find_program(BRX_MINGW_CXX NAMES ${BRX_MINGW_TRIPLE}-g++-posix ${BRX_MINGW_TRIPLE}-g++ REQUIRED)
-find_program(BRX_MINGW_RC NAMES ${BRX_MINGW_TRIPLE}-windres windres REQUIRED)
-set(CMAKE_C_COMPILER "${BRX_MINGW_CC}")
-set(CMAKE_CXX_COMPILER "${BRX_MINGW_CXX}")
-set(CMAKE_RC_COMPILER "${BRX_MINGW_RC}")
-
-if(NOT CMAKE_HOST_WIN32)
+    if(NOT BRX_MINGW_COMPILER)
+        set(BRX_MINGW_COMPILER clang)
+    endif()
     set(CMAKE_FIND_ROOT_PATH /usr/${BRX_MINGW_TRIPLE})
     set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
     set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
@@ -21,7 +17,6 @@ if(NOT CMAKE_HOST_WIN32)
     set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 endif()
 
-# One file is all that a host has to ship: no run-time DLL of the compiler beside it.
-foreach(kind EXE SHARED MODULE)
-    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -static-libgcc -static-libstdc++")
-endforeach()
+find_program(BRX_MINGW_RC NAMES ${BRX_MINGW_TRIPLE}-windres windres REQUIRED)
+set(CMAKE_RC_COMPILER "${BRX_MINGW_RC}")
+include("${CMAKE_CURRENT_LIST_DIR}/mingw-${BRX_MINGW_COMPILER}.cmake")

@@ -12,7 +12,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 packages=(
     g++ cmake ninja-build ccache git ca-certificates
-    clang clang-format clang-tidy
+    clang clang-format clang-tidy lld llvm
     mingw-w64 mingw-w64-tools
     libgtest-dev libgmock-dev googletest libsqlite3-dev
     wine wine64 libwine-dev fonts-wine

@@ -25,7 +25,12 @@ public:
         const auto* names = at<DWORD>(table.AddressOfNames);
         std::vector<std::string> found;
         for (DWORD i = 0; i < table.NumberOfNames; ++i) found.emplace_back(at<char>(names[i]));
-        if (table.NumberOfFunctions != table.NumberOfNames) found.emplace_back("something without a name");
+        // Some linkers leave the number 0 empty.
+        const auto* places = at<DWORD>(table.AddressOfFunctions);
+        const auto used =
+            std::count_if(places, places + table.NumberOfFunctions, [](DWORD place) { return place != 0; });
+        if (used != static_cast<std::ptrdiff_t>(table.NumberOfNames))
+            found.emplace_back("something without a name");
         return found;
     }
 

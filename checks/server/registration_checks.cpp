@@ -10,9 +10,9 @@ namespace brx::checks {
 
 namespace {
 
-const std::wstring classes = classes_key;
-const std::wstring select_class = classes + L"\\CLSID\\{FFF1633C-31EE-4CFE-BE2F-C0E070EC992B}";
-const std::wstring library = classes + L"\\TypeLib\\{438E101D-A88C-4F38-BC9F-703D56A00BBB}";
+const std::wstring classes_path = classes_key;
+const std::wstring select_class = classes_path + L"\\CLSID\\{FFF1633C-31EE-4CFE-BE2F-C0E070EC992B}";
+const std::wstring library_path = classes_path + L"\\TypeLib\\{438E101D-A88C-4F38-BC9F-703D56A00BBB}";
 const wchar_t* const class_names[] = {L"brxOpcDlgs6.ServerSelect",      L"brxOpcDlgs6.ServerAdd",
                                       L"brxOpcDlgs6.ServerInformation", L"brxOpcDlgs6.LeafSelect",
                                       L"brxOpcDlgs6.TestConfiguration", L"brxOpcDlgs6.ConfigurationSetup"};
@@ -25,8 +25,8 @@ constexpr const wchar_t* platform = L"win32";
 constexpr REGSAM view_of_other_bits = KEY_WOW64_64KEY;
 #endif
 
-RegistrySnapshot machine_classes() { return take_snapshot(HKEY_LOCAL_MACHINE, classes); }
-RegistrySnapshot user_classes() { return take_snapshot(HKEY_CURRENT_USER, classes); }
+RegistrySnapshot machine_classes() { return take_snapshot(HKEY_LOCAL_MACHINE, classes_path); }
+RegistrySnapshot user_classes() { return take_snapshot(HKEY_CURRENT_USER, classes_path); }
 
 /// Tells the lines that differ, and only those.
 void expect_same(const RegistrySnapshot& now, const RegistrySnapshot& expected) {
@@ -43,7 +43,7 @@ RegistrySnapshot with_registration(RegistrySnapshot before, const std::wstring& 
 /// part of the registry.
 com_ptr<IDispatch> create_as_registered(HKEY hive, const std::wstring& name) {
     const auto text = [&](const std::wstring& key) {
-        return registry_text(hive, {classes + L"\\" + key, L""});
+        return registry_text(hive, {classes_path + L"\\" + key, L""});
     };
     const std::wstring id = text(name + L"\\CLSID");
     CLSID clsid{};
@@ -67,14 +67,14 @@ public:
     ~UnwritableName() { RegDeleteKeyW(HKEY_CURRENT_USER, path_.c_str()); }
 
 private:
-    const std::wstring path_ = classes + L"\\brxOpcDlgs6.ServerInformation";
+    const std::wstring path_ = classes_path + L"\\brxOpcDlgs6.ServerInformation";
 };
 
 class RegistrationTest : public testing::Test {
 protected:
     RegistrationTest() {
         // Every user has this key; some systems make it only when it is needed.
-        RegistryKey().create(HKEY_CURRENT_USER, classes);
+        RegistryKey().create(HKEY_CURRENT_USER, classes_path);
         // What a run that was broken off left behind.
         dll.install(false, L"user");
         dll.unregister_for_machine();
@@ -171,7 +171,7 @@ TEST_F(RegistrationTest, WhatOthersAddedStays) {
 
 TEST_F(RegistrationTest, OneThatFailsHalfWayLeavesNothing) {
     RegistryChange lasting(HKEY_CURRENT_USER);
-    lasting.write({classes + L"\\brx.checks", L""}, L"the user has had classes");
+    lasting.write({classes_path + L"\\brx.checks", L""}, L"the user has had classes");
     const UnwritableName obstacle;
     const RegistrySnapshot before = user_classes();
 
@@ -183,7 +183,7 @@ TEST_F(RegistrationTest, OneThatFailsHalfWayLeavesAnEarlierOne) {
     const DllCopy copy(L"brx earlier");
     Dll earlier(copy.path());
     ASSERT_EQ(earlier.install(true, L"user"), S_OK);
-    RegDeleteTreeW(HKEY_CURRENT_USER, (classes + L"\\brxOpcDlgs6.ServerInformation").c_str());
+    RegDeleteTreeW(HKEY_CURRENT_USER, (classes_path + L"\\brxOpcDlgs6.ServerInformation").c_str());
     {
         const UnwritableName obstacle;
         const RegistrySnapshot before = user_classes();
@@ -232,11 +232,11 @@ TEST_F(RegistrationTest, NamesSharedWithTheComponentOfOtherBitsStayForIt) {
     const auto stands = [](const std::wstring& key) {
         return !registry_text(HKEY_LOCAL_MACHINE, {key, L""}).empty();
     };
-    EXPECT_EQ(stands(classes + L"\\brxOpcDlgs6.ServerSelect\\CLSID"), two_views);
-    EXPECT_EQ(stands(classes + L"\\brxOpcDlgs6.ServerSelect.6\\CLSID"), two_views);
-    EXPECT_EQ(stands(library + L"\\6.0"), two_views);
+    EXPECT_EQ(stands(classes_path + L"\\brxOpcDlgs6.ServerSelect\\CLSID"), two_views);
+    EXPECT_EQ(stands(classes_path + L"\\brxOpcDlgs6.ServerSelect.6\\CLSID"), two_views);
+    EXPECT_EQ(stands(library_path + L"\\6.0"), two_views);
     EXPECT_FALSE(stands(select_class));
-    EXPECT_FALSE(stands(library + L"\\6.0\\0\\" + platform));
+    EXPECT_FALSE(stands(library_path + L"\\6.0\\0\\" + platform));
 
     RegDeleteKeyExW(HKEY_LOCAL_MACHINE, server.c_str(), view_of_other_bits, 0);
     RegDeleteKeyExW(HKEY_LOCAL_MACHINE, select_class.c_str(), view_of_other_bits, 0);

@@ -135,27 +135,27 @@ SCENARIO(ConfigurationDialog, ArrowKeysTurnTheTabsWhenTheStripHasTheFocus) {
 SCENARIO(ConfigurationDialog, TheLetterInACaptionLeadsToTheFieldBehindIt) {
     a_filled_configuration(its);
     Configuring dialog(its);
-    using Fields = std::vector<std::pair<char, const char*>>;
+    using Letters = std::vector<std::pair<char, const char*>>;
     // The letter of the dead band is that of the button to close, too.
-    for (const auto& [letter, field] : Fields{{'e', "txtSubgroupSize"},
-                                              {'a', "txtName"},
-                                              {'b', "txtUpdateRate"},
-                                              {'c', "txtDeadband"},
-                                              {'f', "lvwTest"},
-                                              {'d', "chkActive"}}) {
+    for (const auto& [letter, field] : Letters{{'e', "txtSubgroupSize"},
+                                               {'a', "txtName"},
+                                               {'b', "txtUpdateRate"},
+                                               {'c', "txtDeadband"},
+                                               {'f', "lvwTest"},
+                                               {'d', "chkActive"}}) {
         its.person.uses_accelerator(letter);
         EXPECT_TRUE(its.person.has_focus(field)) << field;
     }
     EXPECT_EQ(its.person.sees("chkActive").selected, 0);
     dialog.turns_to_sampling();
-    for (const auto& [letter, field] : Fields{{'a', "dtSyncDate"},
-                                              {'b', "dtSyncTime"},
-                                              {'c', "txtSGInterval"},
-                                              {'d', "cboSGTimeUnit"},
-                                              {'e', "txtSGEval"},
-                                              {'f', "txtPieceTimeInterval"},
-                                              {'g', "cboPieceTimeUnit"},
-                                              {'h', "txtPieceEval"}}) {
+    for (const auto& [letter, field] : Letters{{'a', "dtSyncDate"},
+                                               {'b', "dtSyncTime"},
+                                               {'c', "txtSGInterval"},
+                                               {'d', "cboSGTimeUnit"},
+                                               {'e', "txtSGEval"},
+                                               {'f', "txtPieceTimeInterval"},
+                                               {'g', "cboPieceTimeUnit"},
+                                               {'h', "txtPieceEval"}}) {
         its.person.uses_accelerator(letter);
         EXPECT_TRUE(its.person.has_focus(field)) << field;
     }

@@ -11,7 +11,7 @@ struct Text {
     const char* text;
 };
 
-constexpr auto texts = std::to_array<Text>({
+constexpr auto error_texts = std::to_array<Text>({
     {0, "The operation completed successfully."},
     {0x8000'4001, "Not implemented"},
     {com_error::no_interface, "No such interface supported"},
@@ -42,7 +42,7 @@ constexpr auto texts = std::to_array<Text>({
 } // namespace
 
 std::string failure_text(std::uint32_t code) {
-    for (const Text& known : texts)
+    for (const Text& known : error_texts)
         if (known.code == code) return known.text;
     return {};
 }

@@ -10,7 +10,7 @@ kit_files() {
         for each in brxDatabase6.tlb brxOpcAuto6.tlb brxOpcDlgs6.Assembly.manifest brxOpcDlgs6.dll brxOpcDlgs6.tlb; do
             say "$arch/$each"
         done
-        say "debug/$arch/brxOpcDlgs6.dll.debug"
+        for each in brxOpcDlgs6.dll.debug brxOpcDlgs6.pdb brxResolve.exe; do say "symbols/$arch/$each"; done
     done
     for each in OPCAutomation brxDatabase6 brxError6 brxOpcAuto6 brxOpcDlgs6 hlxER01; do
         printf '%s\n' "idl/$each.idl" "include/$each.h" "include/${each}_i.c" "pascal/${each}_TLB.pas"
@@ -69,21 +69,46 @@ headers_compile() {
 
 manifests_are_sound() { xmllint --noout "$kit"/*/*.manifest "$kit/host.exe.manifest"; }
 
-# debug_file_knows TRIPLE ARCHITECTURE: function and line of an entry point, by its address in the DLL.
+# entry_point ARCHITECTURE: where DllGetClassObject is in the DLL, as it is told without being loaded.
+entry_point() {
+    local base place
+    base=$(llvm-readobj --file-headers "$kit/$1/brxOpcDlgs6.dll" | sed -nE 's/^ *ImageBase: 0x([0-9A-F]+)$/\1/p')
+    place=$(llvm-readobj --coff-exports "$kit/$1/brxOpcDlgs6.dll" | sed -nE '/Name: DllGetClassObject/{n;s/^ *RVA: 0x([0-9A-F]+)$/\1/p}')
+    printf '0x%x\n' $((0x$base + 0x$place))
+}
+is_entry_point() { [[ $1 == DllGetClassObject*entry_points.cpp:[1-9]* ]] || { say "error: it says $1" && return 1; }; }
+
+# debug_file_knows TRIPLE ARCHITECTURE, pdb_knows ARCHITECTURE: function and line of an entry point.
 debug_file_knows() {
-    local base address told
-    base=$("$1-objdump" -p "$kit/$2/brxOpcDlgs6.dll" | sed -nE 's/^ImageBase\s+([0-9a-f]+)$/\1/p')
-    address=$("$1-objdump" -p "$kit/$2/brxOpcDlgs6.dll" |
-        sed -nE '/^Export Address Table/,/^$/s/^\s+\[ *1\] .* ([0-9a-f]+) Export RVA$/\1/p')
-    told=$("$1-addr2line" -Cfe "$kit/debug/$2/brxOpcDlgs6.dll.debug" "$(printf '%x' $((0x$base + 0x$address)))")
-    [[ $told == DllGetClassObject*src/dll/entry_points.cpp:[1-9]* ]] || { say "error: it says $told" && return 1; }
+    is_entry_point "$("$1-addr2line" -Cfe "$kit/symbols/$2/brxOpcDlgs6.dll.debug" "$(entry_point "$2")")"
+}
+pdb_knows() {
+    # It is looked for in the current folder.
+    is_entry_point "$(cd "$kit/symbols/$1" && llvm-symbolizer --obj="$kit/$1/brxOpcDlgs6.dll" "$(entry_point "$1")")"
+}
+
+# Debuggers take a PDB only when the DLL names its GUID and age.
+pdb_belongs_to_dll() {
+    local named has
+    named=$(llvm-readobj --coff-debug-directory "$kit/$1/brxOpcDlgs6.dll" |
+        sed -nE 's/^ *PDBGUID: .([0-9A-F -]+).$/\1/p; s/^ *PDBAge: //p; s/^ *PDBFileName: //p' | tr -d ' -' | tr '\n' ' ')
+    has=$(llvm-pdbutil dump --summary "$kit/symbols/$1/brxOpcDlgs6.pdb" |
+        sed -nE 's/^ *GUID: .*\{(.{8})-(.{4})-(.{4})-(.{4})-(.{12})\}.*/\1 \2 \3 \4\5/p; s/^ *Age: //p' | tr '\n' ' ' |
+        sed -E 's/^(..)(..)(..)(..) (..)(..) (..)(..) /\4\3\2\1\6\5\8\7/')
+    [ "${has}brxOpcDlgs6.pdb " = "$named" ] || { say "error: the DLL names $named, the PDB is $has" && return 1; }
+}
+pdb_is_whole() {
+    local listed
+    listed=$(llvm-pdbutil dump --files "$kit/symbols/$1/brxOpcDlgs6.pdb" | grep -c 'brxOpcDlgs6.src.*\.cpp') || true
+    [ "$listed" -ge 100 ] || { say "error: it has $listed of the component's sources" && return 1; }
+    ! strings -n 8 "$kit/symbols/$1/brxOpcDlgs6.pdb" | grep -F -e "$brx_top" -e "$HOME" | sed 's/^/error: it says /' | grep .
 }
 
 # Of each file the list of parts has the right sum and what is linked into it; SQLite is in the sample alone.
 list_of_parts_is_right() {
     local list=$kit/sbom.spdx.json wrong='' file sum
-    jq -e '.spdxVersion == "SPDX-2.3" and (.files | length) == 12' "$list" >/dev/null ||
-        wrong+='error: it does not have its 12 files'$'\n'
+    jq -e '.spdxVersion == "SPDX-2.3" and (.files | length) == 14' "$list" >/dev/null ||
+        wrong+='error: it does not have its 14 files'$'\n'
     while read -r sum file; do
         [ "$(sha256sum <"$kit/$file" | cut -d ' ' -f 1)" = "$sum" ] || wrong+="error: it has another sum of $file"$'\n'
     done < <(jq -r '.files[] | (.checksums[] | select(.algorithm == "SHA256").checksumValue) + " " + .fileName' "$list")
@@ -101,7 +126,7 @@ list_of_parts_is_right() {
 cmake_installs() {
     local folder=$work/installed each
     cmake --install "$brx_build/windows-x64" --prefix "$folder" --strip >/dev/null || return
-    for each in bin/brxOpcDlgs6.dll bin/brxOpcDlgs6.tlb include/brxOpcDlgs6.h idl/brxOpcDlgs6.idl doc/embedding.md LICENSE; do
+    for each in bin/brxOpcDlgs6.dll bin/brxOpcDlgs6.pdb bin/brxOpcDlgs6.tlb include/brxOpcDlgs6.h idl/brxOpcDlgs6.idl doc/embedding.md LICENSE; do
         [ -s "$folder/$each" ] || { say "error: it does not install $each" && return 1; }
     done
     cpack --config "$brx_build/windows-x64/CPackConfig.cmake" -B "$work/cpack" &&
@@ -143,7 +168,7 @@ help_leads_somewhere() {
 }
 
 check_contents() {
-    local library
+    local library arch
     library=$(echo /usr/lib/gcc/x86_64-w64-mingw32/*-posix/include/c++)
     rule "the sums agree" sums_agree
     rule "the zip has its files and no others" has_its_files
@@ -160,6 +185,11 @@ check_contents() {
     rule "clang takes the headers as C" headers_compile clang --target=x86_64-w64-mingw32 -x c
     rule "clang takes the headers as C++" headers_compile clang++ --target=x86_64-w64-mingw32 -x c++ \
         "-stdlib++-isystem$library" "-stdlib++-isystem$library/x86_64-w64-mingw32"
+    for arch in x64 x86; do
+        rule "the $arch PDB is that of the DLL" pdb_belongs_to_dll "$arch"
+        rule "the $arch PDB has the component's sources and nothing of this machine" pdb_is_whole "$arch"
+        rule "the $arch PDB knows function and line" pdb_knows "$arch"
+    done
     rule "the 64-bit debug file knows function and line" debug_file_knows x86_64-w64-mingw32 x64
     rule "the 32-bit debug file knows function and line" debug_file_knows i686-w64-mingw32 x86
 }

@@ -24,13 +24,16 @@ page() {
         awk -v title="$title" -f "$brx_top/scripts/package/page.awk" >"$2"
 }
 
-# kit_binaries KIT ARCHITECTURE: the DLL, what registers or describes it, its debug file.
+# kit_binaries KIT ARCHITECTURE: the DLL, what registers or describes it, its debug files and
+# what reads them.
 kit_binaries() {
     local kit=$1 arch=$2 products=$brx_build/windows-$2 architecture=amd64 library
     [ "$arch" = x64 ] || architecture=x86
-    mkdir -p "$kit/$arch" "$kit/debug/$arch"
+    mkdir -p "$kit/$arch" "$kit/symbols/$arch"
     cp "$products/$brx_dll" "$kit/$arch/"
-    cp "$products/$brx_dll.debug" "$kit/debug/$arch/"
+    cp "$products/$brx_dll.debug" "$products/${brx_dll%.dll}.pdb" "$products/sample/resolve/brxResolve.exe" \
+        "$kit/symbols/$arch/"
+    llvm-strip "$kit/symbols/$arch/brxResolve.exe"
     for library in brxOpcDlgs6 brxOpcAuto6 brxDatabase6; do cp "$products/idl/$library.tlb" "$kit/$arch/"; done
     registration "$arch" | awk -F '\t' -v architecture="$architecture" -v name="$assembly" -v file=brxOpcDlgs6.dll \
         -f "$brx_top/scripts/package/assembly.awk" >"$kit/$arch/$assembly.manifest"
@@ -108,7 +111,7 @@ kit_samples() {
         cp "$products/$brx_dll" "$products/sample/objects/brxSample.dll" "$products/sample/window/brxSampleHost.exe" \
             "$products/sample/server/brxSampleServer.exe" "$products/sample/describe/brxDescribe.exe" \
             "$kit/samples/$arch/"
-        x86_64-w64-mingw32-strip "$kit/samples/$arch/"*.exe
+        llvm-strip "$kit/samples/$arch/"*.exe
     done
     [ ! -d "$brx_top/samples" ] || cp -r "$brx_top/samples/." "$kit/samples/"
 }

@@ -1,19 +1,23 @@
-# The list of parts (SPDX 2.3), from what the linker says it linked; sourced by ./package.
+# The list of parts (SPDX 2.3), from what the linker tells in its PDB; sourced by ./package.
 # shellcheck shell=bash
 
 source "$(dirname "${BASH_SOURCE[0]}")/kit.sh"
 
-# sbom_binaries: "file in the kit TAB map of the linker" for each file that has linked code.
+# sbom_binaries: "file in the kit TAB its PDB" for each file that has linked code.
 sbom_binaries() {
     local arch each
     for arch in x64 x86; do
-        printf '%s\t%s\n' "$arch/brxOpcDlgs6.dll" "$brx_build/windows-$arch/$brx_dll.map"
-        printf '%s\t%s\n' "samples/$arch/brxOpcDlgs6.dll" "$brx_build/windows-$arch/$brx_dll.map"
+        printf '%s\t%s\n' "$arch/brxOpcDlgs6.dll" "$brx_build/windows-$arch/${brx_dll%.dll}.pdb"
+        printf '%s\t%s\n' "samples/$arch/brxOpcDlgs6.dll" "$brx_build/windows-$arch/${brx_dll%.dll}.pdb"
+        printf '%s\t%s\n' "symbols/$arch/brxResolve.exe" "$brx_build/windows-$arch/sample/resolve/brxResolve.pdb"
         for each in objects/brxSample.dll window/brxSampleHost.exe server/brxSampleServer.exe describe/brxDescribe.exe; do
-            printf '%s\t%s\n' "samples/$arch/$(basename "$each")" "$brx_build/windows-$arch/sample/$each.map"
+            printf '%s\t%s\n' "samples/$arch/$(basename "$each")" "$brx_build/windows-$arch/sample/${each%.*}.pdb"
         done
     done
 }
+
+# linked_files PDB: the objects and archives that were linked.
+linked_files() { llvm-pdbutil dump --modules "$1" | sed -nE 's/^ *Obj: `(.+)`: *$/\1/p' | LC_ALL=C sort -u; }
 
 # sbom_part FILE: "name TAB version TAB licence" of what a linked file belongs to; nothing for the project's own.
 sbom_part() {
@@ -35,10 +39,10 @@ sbom_part() {
 
 # sbom_links: "file in the kit TAB name TAB version TAB licence" for each part of each file.
 sbom_links() {
-    local all parts file map linked part
-    all=$(sbom_binaries | while IFS=$'\t' read -r file map; do
-        [ -s "$map" ] || die "the linker left no ${map#"$brx_top"/}"
-        awk -f "$brx_top/scripts/package/linked.awk" "$map" | sed "s#^#$file\t#"
+    local all parts file pdb linked part
+    all=$(sbom_binaries | while IFS=$'\t' read -r file pdb; do
+        [ -s "$pdb" ] || die "the linker left no ${pdb#"$brx_top"/}"
+        linked_files "$pdb" | sed "s#^#$file\t#"
     done) || return
     # Each is asked for once: that takes its time.
     parts=$(cut -f 2 <<<"$all" | LC_ALL=C sort -u | while read -r linked; do
