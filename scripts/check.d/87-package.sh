@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The package: what is in it, two builds of it, signing, its installers and its check kit on machines with nothing but
-# Wine.
+# The package: what is in it, two builds of it, signing, a crash told by its symbols, its installers and its check kit
+# on machines with nothing but Wine.
 # On request only: it builds everything twice, once without the compiler cache.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../check-lib.sh"
@@ -14,6 +14,7 @@ version=$(project_version)
 out=$brx_build/package
 kit=$work/kit/brxOpcDlgs6-$version
 source "$brx_top/scripts/package/kit-trial.sh"
+source "$brx_top/scripts/package/crash-trial.sh"
 # Another folder, with a name of another length.
 second=$work/second-tree-elsewhere
 
@@ -65,6 +66,12 @@ rule "everything that is loaded or started is signed" all_signed
 try_check_kit
 
 trap wine_end EXIT
+try_crash 64 x64 x86_64-w64-mingw32
+if "$brx_top/scripts/wine32.sh" available; then
+    try_crash 32 x86 i686-w64-mingw32
+else
+    skip "the 32-bit sample that crashes" "there is no 32-bit root here, or it cannot be entered"
+fi
 need "an earlier version can be packed" make_earlier
 try_system 64 x64
 if "$brx_top/scripts/wine32.sh" available; then
