@@ -89,13 +89,15 @@ pdb_knows() {
 
 # Debuggers take a PDB only when the DLL names its GUID and age.
 pdb_belongs_to_dll() {
-    local named has
+    local named summary has
     named=$(llvm-readobj --coff-debug-directory "$kit/$1/brxOpcDlgs6.dll" |
         sed -nE 's/^ *PDBGUID: .([0-9A-F -]+).$/\1/p; s/^ *PDBAge: //p; s/^ *PDBFileName: //p' | tr -d ' -' | tr '\n' ' ')
-    has=$(llvm-pdbutil dump --summary "$kit/symbols/$1/brxOpcDlgs6.pdb" |
-        sed -nE 's/^ *GUID: .*\{(.{8})-(.{4})-(.{4})-(.{4})-(.{12})\}.*/\1 \2 \3 \4\5/p; s/^ *Age: //p' | tr '\n' ' ' |
-        sed -E 's/^(..)(..)(..)(..) (..)(..) (..)(..) /\4\3\2\1\6\5\8\7/')
-    [ "${has}brxOpcDlgs6.pdb " = "$named" ] || { say "error: the DLL names $named, the PDB is $has" && return 1; }
+    summary=$(llvm-pdbutil dump --summary "$kit/symbols/$1/brxOpcDlgs6.pdb")
+    # The first three parts are numbers, which the DLL has with their lowest byte first.
+    has=$(sed -nE 's/^ *GUID: .(.{8})-(.{4})-(.{4})-(.{4})-(.{12}).*/\1\2\3 \4\5/p' <<<"$summary" |
+        sed -E 's/^(..)(..)(..)(..)(..)(..)(..)(..) /\4\3\2\1\6\5\8\7/')
+    has+=" $(sed -nE 's/^ *Age: //p' <<<"$summary") brxOpcDlgs6.pdb "
+    [ "$has" = "$named" ] || { say "error: the DLL names $named, the PDB is $has" && return 1; }
 }
 pdb_is_whole() {
     local listed
