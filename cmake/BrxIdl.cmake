@@ -1,11 +1,12 @@
 # Interface definitions: from one IDL file come the C++ header, the identifiers and the type library.
 #
-# brx_idl(NAME IDL file.idl [IMPORTS library...]) makes for file.idl:
+# brx_idl(NAME IDL file.idl [IMPORTS library...] [RENAMED identifier]) makes for file.idl:
 #   ${CMAKE_BINARY_DIR}/idl/file.h, file_i.c, file.tlb
 #   NAME      a library to link: #include "file.h" as a platform header, the identifiers compiled in
 #   NAME_tlb  a target that stands for the three files
 # and sets BRX_TLB of NAME to the full name of the type library. IMPORTS are brx_idl libraries whose IDL this one
-# imports or whose type library it refers to with importlib.
+# imports or whose type library it refers to with importlib. RENAMED is an identifier of which the header says by
+# cpp_quote that it is called file_identifier in C: the compiler does not put that into file_i.c.
 #
 # brx_model_header(NAME library...) makes ${CMAKE_BINARY_DIR}/idl/brxModel.h, the base of a host's objects, from the
 # headers of these brx_idl libraries, and NAME, a library to link.
@@ -29,12 +30,16 @@ set(BRX_IDL_DIR "${CMAKE_BINARY_DIR}/idl")
 file(MAKE_DIRECTORY "${BRX_IDL_DIR}")
 
 function(brx_idl name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "IDL" "IMPORTS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "IDL;RENAMED" "IMPORTS")
     cmake_path(ABSOLUTE_PATH arg_IDL NORMALIZE OUTPUT_VARIABLE source)
     cmake_path(GET source STEM stem)
     cmake_path(GET source PARENT_PATH folder)
     set(made "${BRX_IDL_DIR}/${stem}.h" "${BRX_IDL_DIR}/${stem}_i.c" "${BRX_IDL_DIR}/${stem}.tlb")
     cmake_path(GET BRX_STDOLE PARENT_PATH stdole_folder)
+    set(rename "${CMAKE_COMMAND}" -E true)
+    if(arg_RENAMED)
+        set(rename sed -i "s/CLSID_${arg_RENAMED}\\b/CLSID_${stem}_${arg_RENAMED}/" "${stem}_i.c")
+    endif()
     set(bits "$<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,--win64,--win32>")
 
     # widl tells no dependencies, so any IDL file or include beside this one counts.
@@ -49,6 +54,7 @@ function(brx_idl name)
         COMMAND "${CMAKE_COMMAND}" -E env WIDL_TIME_OVERRIDE=0 "${BRX_WIDL}" ${bits} "-I${BRX_IDL_INCLUDES}" "-I${folder}" "-I${CMAKE_SOURCE_DIR}/src"
                 "-L${stdole_folder}" "-L${BRX_IDL_DIR}"
                 -h -H "${stem}.h" -u -U "${stem}_i.c" -t -T "${stem}.tlb" "${source}"
+        COMMAND ${rename}
         WORKING_DIRECTORY "${BRX_IDL_DIR}"
         DEPENDS "${source}" ${neighbours} ${imported_tlbs}
         COMMENT "widl ${stem}.idl"

@@ -67,6 +67,7 @@ inline HRESULT give(BSTR* result, const wchar_t* text) {
     *result = SysAllocString(text);
     return *result ? S_OK : E_OUTOFMEMORY;
 }
+inline HRESULT give(BSTR* result, wchar_t* text) { return give(result, static_cast<const wchar_t*>(text)); }
 
 /// The description of an interface in the type libraries of the module that this was compiled into.
 inline HRESULT description_of(REFIID iid, ITypeInfo** description) {
@@ -180,6 +181,67 @@ private:
 
     ITypeInfo* description_ = nullptr;
 };
+
+/// An error class, brxError6.Error or hlxER01.Error: its Show is called by name.
+class ErrorReports : public Referenced<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        if (!count) return E_POINTER;
+        *count = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        if (!names || !ids) return E_POINTER;
+        if (count != 1 || lstrcmpiW(names[0], L"Show") != 0) return DISP_E_UNKNOWNNAME;
+        ids[0] = 1;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*,
+                                     EXCEPINFO*, UINT*) override {
+        if (member != 1) return DISP_E_MEMBERNOTFOUND;
+        if (!arguments || arguments->cArgs != 5) return DISP_E_BADPARAMCOUNT;
+        const VARIANT* last = arguments->rgvarg; // they come from the last to the first
+        if (last[4].vt != VT_I4) return DISP_E_TYPEMISMATCH;
+        for (int i = 0; i < 4; ++i)
+            if (last[i].vt != VT_BSTR) return DISP_E_TYPEMISMATCH;
+        Show(last[4].lVal, text(last[3]), text(last[2]), text(last[1]), text(last[0]));
+        return S_OK;
+    }
+
+protected:
+    /// One error: its number, text and source, the place in the dialogs, and which version reports it.
+    virtual void Show(LONG number, const wchar_t* description, const wchar_t* source, const wchar_t* location,
+                      const wchar_t* application) = 0;
+
+private:
+    static const wchar_t* text(const VARIANT& argument) { return argument.bstrVal ? argument.bstrVal : L""; }
+};
+
+/// Makes objects of a class of yours, for `offer`.
+template <class Class> class Factory : public Referenced<IClassFactory> {
+public:
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
+        if (!object) return E_POINTER;
+        *object = nullptr;
+        if (outer) return CLASS_E_NOAGGREGATION;
+        Class* made = new Class;
+        const HRESULT result = made->QueryInterface(iid, object);
+        made->Release();
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+};
+
+/// Offers a class, to this process alone, that the component creates itself: CLSID_hlxMessage for instance.
+/// Until CoRevokeClassObject gets the cookie.
+template <class Class> HRESULT offer(REFCLSID clsid, DWORD* cookie) {
+    auto* factory = new Factory<Class>;
+    const HRESULT result = CoRegisterClassObject(clsid, static_cast<IClassFactory*>(factory),
+                                                 CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, cookie);
+    factory->Release();
+    return result;
+}
 
 /// What _NewEnum gives, once through the elements: *result = static_cast<IEnumVARIANT*>(new Elements).
 class Enumeration : public Referenced<IEnumVARIANT> {

@@ -5,11 +5,14 @@
 #include "com/round_trip.h"
 #include "win32/counted.h"
 
+#include <brxError6.h>
 #include <brxModel.h>
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
 #include <thread>
+#include <vector>
 
 // The base that the kit gives the makers of hosts.
 
@@ -62,6 +65,18 @@ private:
     LONG last_;
     LONG broken_;
     LONG reached_ = 0;
+};
+
+class NotedReports final : public brxModel::ErrorReports {
+public:
+    static inline std::vector<std::wstring> noted;
+
+private:
+    void Show(LONG number, const wchar_t* description, const wchar_t* source, const wchar_t* location,
+              const wchar_t* application) override {
+        noted.push_back(std::to_wstring(number) + L" | " + description + L" | " + source + L" | " + location +
+                        L" | " + application);
+    }
 };
 
 class ModelBaseTest : public AdapterTest {
@@ -146,6 +161,42 @@ TEST_F(ModelBaseTest, GiveNoElementWhenOneFails) {
     EXPECT_EQ(lines->Next(4, raw.data(), &fetched), E_FAIL);
     EXPECT_EQ(fetched, 0u);
     for (const VARIANT& each : raw) EXPECT_EQ(V_VT(&each), VT_EMPTY);
+}
+
+TEST_F(ModelBaseTest, OfferAnErrorClassThatIsCalledByName) {
+    NotedReports::noted.clear();
+    DWORD cookie = 0;
+    ASSERT_EQ(brxModel::offer<NotedReports>(CLSID_Error, &cookie), S_OK);
+    {
+        com_ptr<IDispatch> reports;
+        void* made = nullptr;
+        ASSERT_EQ(CoCreateInstance(CLSID_Error, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, &made), S_OK);
+        reports = com_ptr<IDispatch>::adopt(static_cast<IDispatch*>(made));
+        const std::vector<Variant> all{std::int32_t{91}, std::string("not set"), std::string("host"),
+                                       std::string("here"), std::string("brxOpcDlgs6")};
+        invoke(reports.get(), "Show", DISPATCH_METHOD, all);
+        EXPECT_EQ(NotedReports::noted, std::vector<std::wstring>{L"91 | not set | host | here | brxOpcDlgs6"});
+        EXPECT_EQ(outcome([&] { return invoke(reports.get(), "Hide", DISPATCH_METHOD, all); }),
+                  describe(error_of(DISP_E_UNKNOWNNAME)));
+        EXPECT_EQ(outcome([&] { return invoke(reports.get(), "Show", DISPATCH_METHOD, {all[1]}); }),
+                  describe(error_of(DISP_E_BADPARAMCOUNT)));
+        EXPECT_EQ(outcome([&] {
+                      return invoke(reports.get(), "Show", DISPATCH_METHOD, {all[1], all[1], all[1], all[1], all[1]});
+                  }),
+                  describe(error_of(DISP_E_TYPEMISMATCH)));
+    }
+    EXPECT_EQ(CoRevokeClassObject(cookie), S_OK);
+    EXPECT_EQ(NotedReports::noted.size(), 1u);
+}
+
+TEST_F(ModelBaseTest, GiveATextOnThatCameAsOne) {
+    BSTR came = SysAllocString(L"Line 1");
+    BSTR given = nullptr;
+    EXPECT_EQ(brxModel::give(&given, came), S_OK);
+    EXPECT_NE(given, came);
+    EXPECT_STREQ(given, L"Line 1");
+    SysFreeString(given);
+    SysFreeString(came);
 }
 
 } // namespace

@@ -31,7 +31,7 @@ has_its_files() {
 
 has_samples() {
     local each missing=''
-    for each in scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp pascal/serve.pas csharp/Pick.cs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
+    for each in brxSampleHost.manifest scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp pascal/serve.pas csharp/Pick.cs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
         [ -s "$kit/samples/$each" ] || missing+="error: there is no samples/$each"$'\n'
     done
     [ -z "$missing" ] || { say "$missing" && return 1; }
@@ -65,6 +65,19 @@ headers_compile() {
             failed+="error: $header does not compile before windows.h"$'\n'
     done
     [ -z "$failed" ] || { say "$failed" && return 1; }
+}
+
+# identifiers_agree COMPILER..: those that the headers name are in the other files, which can be compiled into one.
+identifiers_agree() {
+    local file id
+    {
+        for file in "$kit"/include/*_i.c; do say "#include \"$(basename "$file")\""; done
+        say 'int main(void) { return 0; }'
+    } >"$work/identifiers.c"
+    "$@" -I "$kit/include" -o "$work/identifiers.exe" "$work/identifiers.c" || return
+    for id in $(sed -nE 's/^#define CLSID_[A-Za-z]+ (CLSID_[A-Za-z0-9_]+)$/\1/p' "$kit"/include/*.h); do
+        grep -q "$id" "$kit"/include/*_i.c || { say "error: a header says $id, and nothing defines it" && return 1; }
+    done
 }
 
 manifests_are_sound() { xmllint --noout "$kit"/*/*.manifest "$kit/host.exe.manifest"; }
@@ -183,6 +196,7 @@ check_contents() {
     rule "the manifests are sound" manifests_are_sound
     rule "gcc takes the headers as C++" headers_compile x86_64-w64-mingw32-g++ -x c++
     rule "gcc takes the headers as C" headers_compile x86_64-w64-mingw32-gcc -x c
+    rule "the identifiers are those of the headers" identifiers_agree x86_64-w64-mingw32-gcc
     rule "gcc takes the headers in 32 bits" headers_compile i686-w64-mingw32-g++ -x c++
     rule "clang takes the headers as C" headers_compile clang --target=x86_64-w64-mingw32 -x c
     rule "clang takes the headers as C++" headers_compile clang++ --target=x86_64-w64-mingw32 -x c++ \

@@ -102,6 +102,7 @@ kit_documents() {
 kit_samples() {
     local kit=$1 arch products
     mkdir -p "$kit/samples/scripts"
+    cp "$brx_build/windows-x64/configured/manifests/brxSampleHost.manifest" "$kit/samples/"
     cp "$brx_top"/sample/scripts/*.vbs "$kit/samples/scripts/"
     mkdir -p "$kit/samples/describe"
     cp "$brx_top/sample/describe/main.cpp" "$kit/samples/describe/"
