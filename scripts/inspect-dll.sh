@@ -39,6 +39,9 @@ done
 for section in $(objdump -h "$dll" | awk '{ print $2 }' | grep '^\.debug' || true); do
     problem "it carries debug information ($section)"
 done
+# Who calls it has it linked.
+linked=$(llvm-pdbutil dump --modules "${dll%.dll}.pdb")
+grep -q 'libssp\.a' <<<"$linked" || problem "it is built without the stack protector"
 size=$(stat -c %s "$dll")
 [ "$size" -le $((4 * 1024 * 1024)) ] || problem "it has grown to $size bytes"
 [ "$problems" -eq 0 ]
