@@ -11,7 +11,6 @@
 
 #include <array>
 #include <string>
-#include <thread>
 #include <vector>
 
 // The base that the kit gives the makers of hosts.
@@ -119,17 +118,9 @@ TEST_F(ModelBaseTest, KnowItsInterfacesAndNoOthers) {
     EXPECT_EQ(unknown, nullptr);
 }
 
-TEST_F(ModelBaseTest, CountReferencesFromAnyThread) {
-    constexpr int often = 200'000;
-    const auto hold_and_release = [this] {
-        for (int i = 0; i < often; ++i) {
-            servers->AddRef();
-            servers->Release();
-        }
-    };
-    std::thread beside(hold_and_release);
-    hold_and_release();
-    beside.join();
+TEST_F(ModelBaseTest, BeginWithOneReferenceAndEndWithTheLast) {
+    EXPECT_EQ(servers->AddRef(), 2u);
+    EXPECT_EQ(servers->Release(), 1u);
     EXPECT_FALSE(gone);
     EXPECT_EQ(servers.detach()->Release(), 0u);
     EXPECT_TRUE(gone);
@@ -175,13 +166,15 @@ TEST_F(ModelBaseTest, OfferAnErrorClassThatIsCalledByName) {
         const std::vector<Variant> all{std::int32_t{91}, std::string("not set"), std::string("host"),
                                        std::string("here"), std::string("brxOpcDlgs6")};
         invoke(reports.get(), "Show", DISPATCH_METHOD, all);
-        EXPECT_EQ(NotedReports::noted, std::vector<std::wstring>{L"91 | not set | host | here | brxOpcDlgs6"});
+        EXPECT_EQ(NotedReports::noted,
+                  std::vector<std::wstring>{L"91 | not set | host | here | brxOpcDlgs6"});
         EXPECT_EQ(outcome([&] { return invoke(reports.get(), "Hide", DISPATCH_METHOD, all); }),
                   describe(error_of(DISP_E_UNKNOWNNAME)));
         EXPECT_EQ(outcome([&] { return invoke(reports.get(), "Show", DISPATCH_METHOD, {all[1]}); }),
                   describe(error_of(DISP_E_BADPARAMCOUNT)));
         EXPECT_EQ(outcome([&] {
-                      return invoke(reports.get(), "Show", DISPATCH_METHOD, {all[1], all[1], all[1], all[1], all[1]});
+                      return invoke(reports.get(), "Show", DISPATCH_METHOD,
+                                    {all[1], all[1], all[1], all[1], all[1]});
                   }),
                   describe(error_of(DISP_E_TYPEMISMATCH)));
     }
