@@ -75,9 +75,9 @@ identifiers_agree() {
         say 'int main(void) { return 0; }'
     } >"$work/identifiers.c"
     "$@" -I "$kit/include" -o "$work/identifiers.exe" "$work/identifiers.c" || return
-    for id in $(sed -nE 's/^#define CLSID_[A-Za-z]+ (CLSID_[A-Za-z0-9_]+)$/\1/p' "$kit"/include/*.h); do
+    while read -r id; do
         grep -q "$id" "$kit"/include/*_i.c || { say "error: a header says $id, and nothing defines it" && return 1; }
-    done
+    done < <(sed -nE 's/^#define CLSID_[A-Za-z]+ (CLSID_[A-Za-z0-9_]+)$/\1/p' "$kit"/include/*.h)
 }
 
 manifests_are_sound() { xmllint --noout "$kit"/*/*.manifest "$kit/host.exe.manifest"; }
