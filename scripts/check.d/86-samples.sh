@@ -39,6 +39,18 @@ pick_by_keys() {
     wait_for "Select Item.*" && sleep 1 && xdotool key alt+c && xdotool type --delay 30 "$item" && xdotool key Return
 }
 third_by_keys() { wait_for "Select OPC Server" && sleep 0.5 && xdotool key Down Down Down Return; }
+# Everything that a configuration has, but the times.
+configure_by_keys() {
+    wait_for "Configuration Properties" && sleep 0.5 && xdotool key alt+g || return
+    wait_for "OPC Test Configuration" && sleep 0.5 && xdotool key alt+a Tab space || return
+    wait_for Characteristics && sleep 0.5 && xdotool key Return && sleep 0.5 && xdotool key alt+b Tab space || return
+    wait_for "Select Item.*" && sleep 1 && xdotool key alt+c && xdotool type --delay 30 Filler.Weight || return
+    xdotool key Return && sleep 1 && xdotool key alt+d Return && sleep 1 && xdotool key alt+3 alt+b || return
+    wait_for "Descriptor Type" && sleep 0.5 && xdotool key Home Return || return
+    wait_for "Descriptor Properties.*" && sleep 0.5 && xdotool type --delay 30 Bottles && xdotool key alt+b || return
+    xdotool type --delay 30 "Bottle 1 l" && xdotool key Return && sleep 1 && xdotool key alt+1 alt+a || return
+    xdotool type --delay 30 "Line 9" && xdotool key Return
+}
 leave_by_keys() { wait_for "Select OPC Server" && sleep 0.5 && xdotool key Escape; }
 
 # shown_by KEYS COMMAND..: what it prints, and "status N", while a person uses the keyboard.
@@ -72,10 +84,12 @@ compile_c() {
 }
 compile_cpp() {
     local include=$work/kit/include name
-    "$mingw-gcc" -c -o "$work/identifiers.o" "$include/brxOpcDlgs6_i.c"
-    for name in pick serve; do
-        "$mingw-g++" -std=c++17 -Wall -Wextra -Wpedantic -Werror -static -I "$include" -o "$work/$name-cpp.exe" \
-            "$samples/cpp/$name.cpp" "$work/identifiers.o" -lole32 -loleaut32 -luuid || return
+    for name in brxOpcDlgs6 brxOpcAuto6 brxDatabase6; do
+        "$mingw-gcc" -c -o "$work/$name.o" "$include/${name}_i.c" || return
+    done
+    for name in pick serve configure/configure; do
+        "$mingw-g++" -std=c++17 -Wall -Wextra -Wpedantic -Werror -static -I "$include" -o "$work/${name#*/}-cpp.exe" \
+            "$samples/cpp/$name.cpp" "$work"/*.o -lole32 -loleaut32 -luuid || return
     done
 }
 # Free Pascal's own units for Windows, which Debian has as sources only.
@@ -139,6 +153,8 @@ need "the sample in C++ compiles" compile_cpp
 try_sample C++ "$work/pick-cpp.exe"
 rule "C++: a host with objects of its own has its third server picked" \
     prints $'Server 3\nstatus 0' third_by_keys "$work/serve-cpp.exe"
+rule "C++: a host with a whole model of its own has its configuration set up" \
+    prints $'Line 9\ntest Weight: Filler.Weight\ndescriptor Bottle 1 l\nstatus 0' configure_by_keys "$work/configure-cpp.exe"
 need "Free Pascal's units for Windows can be made" make_pascal_units
 need "the sample in Object Pascal compiles" compile_pascal
 rule "Object Pascal: the units of the kit compile" compile_pascal_units

@@ -31,7 +31,7 @@ has_its_files() {
 
 has_samples() {
     local each missing=''
-    for each in brxSampleHost.manifest scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp pascal/serve.pas csharp/Pick.cs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
+    for each in brxSampleHost.manifest scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp cpp/configure/model.h pascal/serve.pas csharp/Pick.cs {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
         [ -s "$kit/samples/$each" ] || missing+="error: there is no samples/$each"$'\n'
     done
     [ -z "$missing" ] || { say "$missing" && return 1; }
