@@ -1,3 +1,4 @@
+#include "high_contrast.h"
 #include "looks.h"
 #include "sample_form.h"
 
@@ -56,6 +57,34 @@ TEST_F(ColorsTest, ADisabledControlIsLeftToTheSystemsColors) {
             });
         });
         EXPECT_FALSE(paint_of(hands, hands.control("Sample", "Box"), WM_CTLCOLORSTATIC).background == mint);
+    });
+}
+
+TEST_F(ColorsTest, InHighContrastAColorOfItsOwnIsTheSystemsTwoExchanged) {
+    const HighContrast chosen;
+    Sample form(environment);
+    show(form, [&](Hands& hands) {
+        hands.form("Sample");
+        const HWND box = hands.control("Sample", "Box");
+        const auto looks_of = [&](Color text, Color back) {
+            hands.run([&] {
+                form.run_event([&] {
+                    form.Box.set_fore_color(text);
+                    form.Box.set_back_color(back);
+                });
+            });
+            return paint_of(hands, box, WM_CTLCOLOREDIT);
+        };
+        const COLORREF window = GetSysColor(COLOR_WINDOW);
+        const COLORREF window_text = GetSysColor(COLOR_WINDOWTEXT);
+        for (const Paint& paint :
+             {looks_of(color::window_text, color::red), looks_of(color::red, color::window)}) {
+            EXPECT_EQ(paint.text, window);
+            EXPECT_EQ(paint.background, window_text);
+        }
+        const Paint usual = looks_of(color::window_text, color::window);
+        EXPECT_EQ(usual.text, window_text);
+        EXPECT_EQ(usual.background, window);
     });
 }
 

@@ -1,5 +1,6 @@
 // A table as it is shown.
 
+#include "high_contrast.h"
 #include "looks.h"
 #include "pages.h"
 #include "sample_form.h"
@@ -159,6 +160,19 @@ TEST_F(ListViewTest, CellsAreBoldAndRedOneByOne) {
         EXPECT_EQ(red_pixels(hands, list, 2, 2), 0);
         run(hands, form, [&] { form.List.select(2); });
         EXPECT_EQ(red_pixels(hands, list, 1, 2), 0) << "Nothing is red where the selection is.";
+    });
+}
+
+TEST_F(ListViewTest, InHighContrastARedCellIsBoldOnly) {
+    PageForm form(environment);
+    show_rows(form, 2, [&](Hands& hands, HWND list) {
+        const HighContrast chosen;
+        run(hands, form, [&] {
+            form.List.row(2).set_text(2, "WWWWW");
+            form.List.row(2).set_look(2, {.bold = true, .fore_color = color::red});
+        });
+        EXPECT_EQ(table_rows(list, 2), (Rows{"Row 1 | 1 | ", "Row 2 | 2 | *WWWWW*"}));
+        EXPECT_EQ(red_pixels(hands, list, 1, 2), 0);
     });
 }
 

@@ -71,10 +71,14 @@ HBRUSH ControlPeer::set_colors(HDC dc) const {
     // The system knows best how most disabled controls look.
     const bool enabled = IsWindowEnabled(handle_) != FALSE;
     if (!enabled && !colored_when_disabled()) return nullptr;
-    Palette& palette = window_.palette();
-    SetTextColor(dc, enabled ? Palette::rgb(control_.fore_color()) : GetSysColor(COLOR_GRAYTEXT));
-    SetBkColor(dc, Palette::rgb(control_.back_color()));
-    return palette.brush(control_.back_color());
+    // A box that was made red has to stand out in high contrast too, by the system's colours alone.
+    const bool own = !Palette::is_system(control_.fore_color()) || !Palette::is_system(control_.back_color());
+    const bool exchanged = own && Palette::high_contrast();
+    const Color text = exchanged ? color::window : control_.fore_color();
+    const Color back = exchanged ? color::window_text : control_.back_color();
+    SetTextColor(dc, enabled ? Palette::rgb(text) : GetSysColor(COLOR_GRAYTEXT));
+    SetBkColor(dc, Palette::rgb(back));
+    return window_.palette().brush(back);
 }
 
 LRESULT ControlPeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {

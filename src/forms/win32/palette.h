@@ -10,6 +10,8 @@ namespace brx {
 /// Colours as the system shows them at the moment.
 class Palette {
 public:
+    static bool is_system(Color color) { return (color & 0x80000000) != 0; }
+
     static COLORREF rgb(Color color) {
         return is_system(color) ? GetSysColor(index(color)) : color & 0xFFFFFF;
     }
@@ -32,7 +34,6 @@ public:
     }
 
 private:
-    static bool is_system(Color color) { return (color & 0x80000000) != 0; }
     static int index(Color color) { return static_cast<int>(color & 0xFF); }
 
     std::map<Color, BrushHandle> brushes_;
