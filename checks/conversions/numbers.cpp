@@ -159,7 +159,8 @@ std::string magnitude(Random& random, const Locale& locale) {
     default:
         break;
     }
-    std::string text = digits(random, random.between(random.one_in(6) ? 0 : 1, random.one_in(4) ? 12 : 5));
+    const int most = random.one_in(4) ? 12 : 5;
+    std::string text = digits(random, random.between(random.one_in(6) ? 0 : 1, most));
     if (random.one_in(4)) text = grouped(random, locale, text);
     if (random.one_in(2)) text += locale.decimal_separator + digits(random, random.between(0, 5));
     if (random.one_in(4)) text += exponent(random);
@@ -263,9 +264,11 @@ std::vector<double> doubles(std::size_t count) {
         case 2:
             value = static_cast<double>(static_cast<std::int64_t>(random.bits()) >> random.below(60)) / 2;
             break;
-        default:
-            value = std::ldexp(static_cast<double>(random.bits() >> 11), random.between(-100, 40));
+        default: {
+            const int power = random.between(-100, 40);
+            value = std::ldexp(static_cast<double>(random.bits() >> 11), power);
             break;
+        }
         }
         if (std::isfinite(value)) samples.add(value);
     }
