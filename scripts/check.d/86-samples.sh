@@ -78,9 +78,11 @@ try_sample() {
 }
 
 compile_c() {
-    local include=$work/kit/include
-    "$mingw-gcc" -std=c99 -Wall -Wextra -Werror -static -I "$include" -o "$work/pick-c.exe" \
-        "$samples/c/pick.c" "$include/brxOpcDlgs6_i.c" -lole32 -loleaut32 -luuid
+    local include=$work/kit/include name
+    for name in pick serve; do
+        "$mingw-gcc" -std=c99 -Wall -Wextra -Werror -static -I "$include" -o "$work/$name-c.exe" \
+            "$samples/c/$name.c" "$include/brxOpcDlgs6_i.c" "$include/brxOpcAuto6_i.c" -lole32 -loleaut32 -luuid || return
+    done
 }
 compile_cpp() {
     local include=$work/kit/include name
@@ -149,6 +151,8 @@ try_sample VBScript cscript //nologo "$(wine_path "$samples/vbscript/pick.vbs")"
 try_sample JScript cscript //nologo "$(wine_path "$samples/jscript/pick.js")"
 need "the sample in C compiles" compile_c
 try_sample C "$work/pick-c.exe"
+rule "C: a host with objects of its own has its third server picked" \
+    prints $'Server 3\nstatus 0' third_by_keys "$work/serve-c.exe"
 need "the sample in C++ compiles" compile_cpp
 try_sample C++ "$work/pick-cpp.exe"
 rule "C++: a host with objects of its own has its third server picked" \
