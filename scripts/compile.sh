@@ -9,6 +9,7 @@ top=$1
 shift
 build=$(pwd -P)
 up=$(printf '%s' "${build#"$top"/}/" | sed 's#[^/]*/#../#g')
+line=
 for argument; do
     shift
     case $argument in
@@ -25,7 +26,14 @@ for argument; do
         ;;
     esac
     set -- "$@" "$argument"
+    case $argument in
+    CCACHE_*) ;;
+    *) line="$line $argument" ;;
+    esac
 done
+# Two command lines may differ in what changes nothing but themselves: the cache is to tell them apart.
+CCACHE_NAMESPACE=$(printf '%s' "$line" | cksum)
+export CCACHE_NAMESPACE
 # It is for the programs of this machine.
 unset LIBRARY_PATH
 exec "$@"

@@ -8,7 +8,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../wine-lib.sh"
 check_kit="$work/check kit/brxOpcDlgs6-$version-checks"
 
 # What every Windows has had since 7, in the folder of the system.
-system_dlls='advapi32 comctl32 gdi32 kernel32 msvcrt ole32 oleaut32 shell32 user32 uxtheme version'
+system_dlls='advapi32 comctl32 gdi32 kernel32 msvcrt ole32 oleacc oleaut32 shell32 user32 uxtheme version'
 
 needs_only_windows() {
     local file each foreign=''
