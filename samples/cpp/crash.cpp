@@ -13,7 +13,7 @@
 
 namespace {
 
-class Servers : public brx::hlxOPCServers {
+class Servers : public brxModel::hlxOPCServers {
 public:
     HRESULT STDMETHODCALLTYPE get_Count(LONG* count) override {
         volatile LONG* const nowhere = nullptr;
