@@ -26,6 +26,7 @@ packages=(
 packaging=(
     nsis wixl msitools faketime zip unzip cmark-gfm osslsigncode openssl libxml2-utils jq
     fp-compiler fp-units-fcl fp-units-misc fp-utils fpc-source
+    mono-mcs libmono-microsoft-csharp4.0-cil
 )
 
 # SQLite for Windows: its amalgamation, as the npm package better-sqlite3 carries it. A new version needs new sums:

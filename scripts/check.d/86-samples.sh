@@ -126,7 +126,40 @@ compile_pascal_units() {
     for unit in "$work/kit/pascal/"*.pas; do pascal "-Fu$work/kit/pascal" "-FU$work/pascal" "$unit" || return; done
 }
 
-parse_python() { python3 -c 'import ast, sys; ast.parse(open(sys.argv[1]).read())' "$samples/python/pick.py"; }
+csharp() { mcs -langversion:5 -warn:4 -warnaserror -r:Microsoft.CSharp "$@"; }
+compile_csharp() {
+    csharp "-out:$work/Pick.exe" "$samples/csharp/Pick.cs" &&
+        csharp "-out:$work/Serve.exe" "$samples/csharp/Serve.cs" "$work/kit/csharp/"*.cs
+}
+# Where each member lies in its interface's table: as the compiler lays it out, and by the headers for C++.
+csharp_tables() {
+    csharp -target:library "-out:$work/model.dll" "$work/kit/csharp/"*.cs &&
+        csharp "-out:$work/slots.exe" "$brx_top/scripts/package/slots.cs" &&
+        (cd "$work" && mono slots.exe model.dll) | sed 's/^[^.]*\.//; s/ set_/ put_/' | LC_ALL=C sort
+}
+header_tables() {
+    awk '/^[A-Za-z_]+ : public IDispatch/ && !/^DI/ { name = $1; slot = 6 }
+         name != "" && /virtual HRESULT STDMETHODCALLTYPE/ { sub(/\(.*/, "", $4); print name, ++slot, $4 }
+         /^};/ { name = "" }' "$work/kit/include/"*.h | LC_ALL=C sort
+}
+same_tables() {
+    csharp_tables >"$work/tables-cs" || return
+    [ "$(header_tables | wc -l)" -gt 200 ] && diff <(header_tables) "$work/tables-cs"
+}
+
+# Visual Basic wants them all.
+has_members() {
+    local class=$1 name missing=''
+    while read -r name; do
+        grep -q "^Private .* hlx${class}_$name(" "$samples/vba/${class#OPC}.cls" || missing+=" $name"
+    done < <(awk -f scripts/package/idl.awk src/com/idl/brxOpcAuto6.idl |
+        awk -F '\t' -v name="_hlx$class" '$1 == "interface" { inside = $2 == name } inside && $1 == "member" { print $3 }')
+    [ -z "$missing" ] || { say "error: ${class#OPC}.cls lacks$missing" && return 1; }
+}
+
+parse_python() {
+    python3 -c 'import ast, sys; [ast.parse(open(name).read()) for name in sys.argv[1:]]' "$samples/python/"*.py
+}
 
 # Each has a page, and the overview leads to it.
 has_pages() {
@@ -165,7 +198,11 @@ rule "Object Pascal: the units of the kit compile" compile_pascal_units
 try_sample "Object Pascal" "$work/pick-pascal.exe"
 rule "Object Pascal: a host with objects of its own has its third server picked" \
     prints $'Server 3\nstatus 0' third_by_keys "$work/serve-pascal.exe"
-rule "the sample in Python can be parsed" parse_python
+rule "C#: the samples compile, with the base of the kit" compile_csharp
+rule "C#: each interface has its members in the order of its table" same_tables
+rule "Visual Basic: the server has every member that Implements wants" has_members OPCServer
+rule "Visual Basic: the servers have every member that Implements wants" has_members OPCServers
+rule "the samples in Python can be parsed" parse_python
 for language in "C#" PowerShell "Visual Basic" Python; do
     skip "$language: the sample is run" "there is nothing here to run it with"
 done

@@ -5,7 +5,7 @@
 #   library   NAME IDENTIFIER HELP
 #   constant  NAME VALUE                   of an enumeration
 #   interface NAME IDENTIFIER HELP
-#   member    get|put|call NAME HELP       each followed by its arguments
+#   member    get|put|call NAME HELP ID    each followed by its arguments
 #   argument  in|out|inout|result TYPE NAME DEFAULT
 #   events    NAME IDENTIFIER              an interface that its owner calls
 #   class     NAME IDENTIFIER INTERFACE    of those that can be created
@@ -25,12 +25,14 @@ function text_of(file, line, all, name) {
             line = substr(line, 1, RSTART - 1) "help(" helps ")" substr(line, RSTART + RLENGTH)
         }
         if (match(line, /RESERVED\([0-9]+\)/))
-            line = "[hidden] HRESULT Reserved" substr(line, RSTART + 9, RLENGTH - 10) "();"
+            line = "[id(" reserved(line) ")] HRESULT Reserved" reserved(line) "();"
         all = all " " line
     }
     close(file)
     return all
 }
+
+function reserved(line) { return substr(line, RSTART + 9, RLENGTH - 10) }
 
 # taken(PATTERN): cuts what matches off the front of the text; it is in `found`.
 function taken(pattern) {
@@ -66,7 +68,7 @@ function argument(marks, words, name, kind, preset) {
 }
 function member(words, marks) {
     tell("member", attributes ~ /propget/ ? "get" : attributes ~ /propput/ ? "put" : "call", name_in(words),
-        help[attribute("help")])
+        help[attribute("help")], attribute("id"))
     while (match(words, /\[[^]]*\]/)) {
         marks = substr(words, RSTART, RLENGTH)
         words = substr(words, RSTART + RLENGTH)

@@ -62,26 +62,33 @@ kit_interfaces() {
         without_folder <"$made/${file}_i.c" >"$kit/include/${file}_i.c"
     done
     cp "$made/brxModel.h" "$kit/include/"
-    kit_pascal "$kit"
+    kit_languages "$kit"
 }
 
-# Units for Object Pascal: one for each library, and the base of a host's objects.
-kit_pascal() {
-    local kit=$1 file made=$1/pascal/made
-    mkdir -p "$made"
+# What languages with no headers are given: one file for each library, and the base of a host's objects.
+kit_languages() {
+    local kit=$1 file made=$1/made
+    mkdir -p "$made" "$kit/pascal" "$kit/csharp"
     for file in "$kit"/idl/*.idl; do
         file=$(basename "$file" .idl)
         awk -f "$brx_top/scripts/package/idl.awk" "$kit/idl/$file.idl" >"$made/$file"
-        pascal_part unit pass=1 "$made/$file" pass=2 "$made/$file" >"$kit/pascal/${file}_TLB.pas"
+        in_language pascal unit "$made/$file" >"$kit/pascal/${file}_TLB.pas"
+        in_language csharp library "$made/$file" >"$kit/csharp/$file.cs"
     done
-    for file in classes bodies; do
-        pascal_part "$file" pass=2 "$made/brxOpcAuto6" "$made/brxDatabase6" "$made/OPCAutomation" >"$made/$file"
-    done
-    sed -e "/^\/\/ @CLASSES@/{r $made/classes" -e 'd}' -e "/^\/\/ @BODIES@/{r $made/bodies" -e 'd}' \
-        "$brx_top/packaging/brxModel.pas" >"$kit/pascal/brxModel.pas"
+    kit_base pascal pas classes bodies
+    kit_base csharp cs classes
     rm -r "$made"
 }
-pascal_part() { awk -v part="$1" -f "$brx_top/scripts/package/pascal.awk" "${@:2}"; }
+in_language() { awk -v part="$2" -f "$brx_top/scripts/package/$1.awk" pass=1 "${@:3}" pass=2 "${@:3}"; }
+# kit_base LANGUAGE EXTENSION PART..: brxModel with its parts, in what kit_languages has made.
+kit_base() {
+    local part places=()
+    for part in "${@:3}"; do
+        in_language "$1" "$part" "$made"/{brxOpcAuto6,brxDatabase6,OPCAutomation} >"$made/$part"
+        places+=(-e "/^\/\/ @${part^^}@/{r $made/$part" -e 'd}')
+    done
+    sed "${places[@]}" "$brx_top/packaging/brxModel.$2" >"$kit/$1/brxModel.$2"
+}
 
 kit_host_manifest() {
     local version
@@ -114,7 +121,9 @@ kit_samples() {
             "$kit/samples/$arch/"
         llvm-strip "$kit/samples/$arch/"*.exe
     done
-    [ ! -d "$brx_top/samples" ] || cp -r "$brx_top/samples/." "$kit/samples/"
+    cp -r "$brx_top/samples/." "$kit/samples/"
+    # Visual Basic takes a class for a module when its lines end otherwise.
+    sed -i 's/$/\r/' "$kit/samples/vba/"*.{bas,cls}
 }
 
 # make_kit FOLDER

@@ -1,8 +1,8 @@
 # Pascal from the lines of idl.awk, in the form of Delphi's importer: members are safecall.
 #
-#   -v part=unit pass=1 FILE pass=2 FILE   the unit LIBRARY_TLB: interfaces, classes, constants
-#   -v part=classes pass=2 FILE..          for brxModel.pas: a class for each interface
-#   -v part=bodies pass=2 FILE..           for brxModel.pas: its members, which answer E_NOTIMPL
+#   -v part=unit pass=1 FILE pass=2 FILE         the unit LIBRARY_TLB: interfaces, classes, constants
+#   -v part=classes pass=1 FILE.. pass=2 FILE..  for brxModel.pas: a class for each interface
+#   -v part=bodies pass=1 FILE.. pass=2 FILE..   for brxModel.pas: its members, which answer E_NOTIMPL
 
 function type_of(type) {
     if (type ~ /^SAFEARRAY/) return "PSafeArray"
@@ -74,6 +74,7 @@ BEGIN {
 }
 
 # First come the constants and the names of all interfaces, which know each other.
+pass == 1 && part != "unit" { next }
 pass == 1 {
     if ($1 == "library") {
         begin_unit($2, $4)
