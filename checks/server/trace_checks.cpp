@@ -76,7 +76,7 @@ TEST_F(TraceTest, ACallThatFailedIsToldWithItsObjectAndWhoMadeIt) {
     servers->Release();
     const std::vector<std::string> told = lines();
     ASSERT_EQ(told.size(), 4U);
-    EXPECT_THAT(told[1], AllOf(HasSubstr("call of hlxOPCServers failed: error "),
+    EXPECT_THAT(told[1], AllOf(HasSubstr("call of hlxOPCServers.Count failed: error "),
                                HasSubstr("The host failed"), EndsWith(", in dlgServerSelect.BuildList")));
     EXPECT_THAT(told[2], HasSubstr("report to brxError6.Error"));
 }

@@ -85,7 +85,8 @@ void check(HRESULT result, IUnknown* object, REFIID iid) {
     if (FAILED(result)) throw error_left_by(object, iid, result);
 }
 
-void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model) {
+void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model,
+                const char* member) {
     if (SUCCEEDED(result)) return;
     // Cancelled, or turned away and not tried again.
     if (result == RPC_E_CALL_CANCELED || result == RPC_E_CALL_REJECTED ||
@@ -94,9 +95,9 @@ void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_in
     const Error error = error_left_by(object, iid, result);
     const std::string procedure = current_location();
     trace::line([&] {
-        return "call of " + name_of(model) + " failed: error " + std::to_string(error.number()) + ": " +
-               error.description() + " (" + error.source() + "), in " +
-               (procedure.empty() ? "a step that may fail" : procedure);
+        return "call of " + name_of(model) + "." + member + " failed: error " +
+               std::to_string(error.number()) + ": " + error.description() + " (" + error.source() +
+               "), in " + (procedure.empty() ? "a step that may fail" : procedure);
     });
     throw error;
 }

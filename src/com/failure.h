@@ -23,9 +23,10 @@ void check(HRESULT result);
 /// the object left for it.
 void check(HRESULT result, IUnknown* object, REFIID iid);
 
-/// The same for a call of the host's objects, of this interface of the model. One that a person had broken
-/// off throws `Stopped`.
-void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model);
+/// The same for a call of the host's objects, of this member of this interface of the model. One that a
+/// person had broken off throws `Stopped`.
+void check_call(HRESULT result, IUnknown* object, REFIID iid, const std::type_info& model,
+                const char* member);
 
 /// The failure code for an error number, the other way round. A number that is no failure code is E_FAIL.
 HRESULT code_of(const Error& error);

@@ -4,6 +4,7 @@
 #include "com/wire.h"
 #include "common/call_gate.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace brx {
@@ -29,22 +30,24 @@ protected:
         return *object_.get();
     }
 
-    /// Calls a member that gives nothing.
-    template <class... Raws, class... Values>
-    void call(HRESULT (STDMETHODCALLTYPE Interface::*member)(Raws...), const Values&... values) {
-        require((called().*member)(Wire<Values>::own(values).get()...));
+    /// Calls a member that gives a `Result`: call<void>(&Interface::Save)(database). A failure is told as one
+    /// of the member that the caller is named after.
+    template <class Result, class... Raws>
+    auto call(HRESULT (STDMETHODCALLTYPE Interface::*member)(Raws...),
+              const char* name = __builtin_FUNCTION()) {
+        return [this, member, name]<class... Values>(const Values&... values) -> Result {
+            if constexpr (std::is_void_v<Result>) {
+                require((called().*member)(Wire<Values>::own(values).get()...), name);
+            } else {
+                typename Wire<Result>::Owner result{};
+                require((called().*member)(Wire<Values>::own(values).get()..., result.out()), name);
+                return Wire<Result>::model(result.get());
+            }
+        };
     }
 
-    /// Calls a member that gives a `Result`.
-    template <class Result, class... Raws, class... Values>
-    Result get(HRESULT (STDMETHODCALLTYPE Interface::*member)(Raws...), const Values&... values) {
-        typename Wire<Result>::Owner result{};
-        require((called().*member)(Wire<Values>::own(values).get()..., result.out()));
-        return Wire<Result>::model(result.get());
-    }
-
-    void require(HRESULT result) {
-        if (FAILED(result)) check_call(result, object_.get(), __uuidof(Interface), typeid(Model));
+    void require(HRESULT result, const char* name = __builtin_FUNCTION()) {
+        if (FAILED(result)) check_call(result, object_.get(), __uuidof(Interface), typeid(Model), name);
     }
 
 private:

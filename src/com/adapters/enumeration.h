@@ -17,7 +17,7 @@ public:
         call_gate::pass();
         OwnedVariant element;
         const HRESULT result = elements_->Next(1, element.out(), nullptr);
-        check_call(result, elements_.get(), __uuidof(IEnumVARIANT), typeid(Element));
+        check_call(result, elements_.get(), __uuidof(IEnumVARIANT), typeid(Element), "Next");
         if (result != S_OK) return nullptr;
         const Variant value = value_of(element.get());
         const auto* const object = std::get_if<ObjectPtr>(&value);

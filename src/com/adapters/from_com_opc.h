@@ -15,19 +15,19 @@ inline VARIANT position_argument(std::int32_t position) {
 template <> class FromCom<OPCServer> final : public ComModel<OPCServer> {
 public:
     using ComModel::ComModel;
-    Date StartTime() override { return get<Date>(&Interface::get_StartTime); }
-    Date CurrentTime() override { return get<Date>(&Interface::get_CurrentTime); }
-    Date LastUpdateTime() override { return get<Date>(&Interface::get_LastUpdateTime); }
-    std::int16_t MajorVersion() override { return get<std::int16_t>(&Interface::get_MajorVersion); }
-    std::int16_t MinorVersion() override { return get<std::int16_t>(&Interface::get_MinorVersion); }
-    std::int16_t BuildNumber() override { return get<std::int16_t>(&Interface::get_BuildNumber); }
-    std::string VendorInfo() override { return get<std::string>(&Interface::get_VendorInfo); }
-    std::int32_t ServerState() override { return get<std::int32_t>(&Interface::get_ServerState); }
-    std::string ServerName() override { return get<std::string>(&Interface::get_ServerName); }
-    std::string ServerNode() override { return get<std::string>(&Interface::get_ServerNode); }
-    std::string ClientName() override { return get<std::string>(&Interface::get_ClientName); }
-    std::int32_t Bandwidth() override { return get<std::int32_t>(&Interface::get_Bandwidth); }
-    OPCGroupsPtr OPCGroups() override { return get<OPCGroupsPtr>(&Interface::get_OPCGroups); }
+    Date StartTime() override { return call<Date>(&Interface::get_StartTime)(); }
+    Date CurrentTime() override { return call<Date>(&Interface::get_CurrentTime)(); }
+    Date LastUpdateTime() override { return call<Date>(&Interface::get_LastUpdateTime)(); }
+    std::int16_t MajorVersion() override { return call<std::int16_t>(&Interface::get_MajorVersion)(); }
+    std::int16_t MinorVersion() override { return call<std::int16_t>(&Interface::get_MinorVersion)(); }
+    std::int16_t BuildNumber() override { return call<std::int16_t>(&Interface::get_BuildNumber)(); }
+    std::string VendorInfo() override { return call<std::string>(&Interface::get_VendorInfo)(); }
+    std::int32_t ServerState() override { return call<std::int32_t>(&Interface::get_ServerState)(); }
+    std::string ServerName() override { return call<std::string>(&Interface::get_ServerName)(); }
+    std::string ServerNode() override { return call<std::string>(&Interface::get_ServerNode)(); }
+    std::string ClientName() override { return call<std::string>(&Interface::get_ClientName)(); }
+    std::int32_t Bandwidth() override { return call<std::int32_t>(&Interface::get_Bandwidth)(); }
+    OPCGroupsPtr OPCGroups() override { return call<OPCGroupsPtr>(&Interface::get_OPCGroups)(); }
     Variant GetOPCServers(const std::optional<std::string>& node) override {
         const OwnedVariant asked(node ? Variant(*node) : Variant(Missing{}));
         OwnedVariant found;
@@ -35,40 +35,40 @@ public:
         if (std::optional<StringArray> texts = texts_in(found.get())) return *std::move(texts);
         return value_of(found.get());
     }
-    OPCBrowserPtr CreateBrowser() override { return get<OPCBrowserPtr>(&Interface::CreateBrowser); }
+    OPCBrowserPtr CreateBrowser() override { return call<OPCBrowserPtr>(&Interface::CreateBrowser)(); }
     std::string GetErrorString(std::int32_t error_code) override {
-        return get<std::string>(&Interface::GetErrorString, error_code);
+        return call<std::string>(&Interface::GetErrorString)(error_code);
     }
 };
 
 template <> class FromCom<OPCGroups> final : public ComModel<OPCGroups> {
 public:
     using ComModel::ComModel;
-    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    std::int32_t Count() override { return call<std::int32_t>(&Interface::get_Count)(); }
     OPCGroupPtr Item(const Variant& item_specifier) override {
-        return get<OPCGroupPtr>(&Interface::Item, item_specifier);
+        return call<OPCGroupPtr>(&Interface::Item)(item_specifier);
     }
     OPCGroupPtr Add(const std::optional<std::string>& name) override {
-        return get<OPCGroupPtr>(&Interface::Add, name ? Variant(*name) : Variant(Missing{}));
+        return call<OPCGroupPtr>(&Interface::Add)(name ? Variant(*name) : Variant(Missing{}));
     }
-    void RemoveAll() override { call(&Interface::RemoveAll); }
-    void Remove(const Variant& item_specifier) override { call(&Interface::Remove, item_specifier); }
+    void RemoveAll() override { call<void> (&Interface::RemoveAll)(); }
+    void Remove(const Variant& item_specifier) override { call<void> (&Interface::Remove)(item_specifier); }
 };
 
 template <> class FromCom<OPCGroup> final : public ComModel<OPCGroup> {
 public:
     using ComModel::ComModel;
-    OPCServerPtr Parent() override { return get<OPCServerPtr>(&Interface::get_Parent); }
-    std::string Name() override { return get<std::string>(&Interface::get_Name); }
-    OPCItemsPtr OPCItems() override { return get<OPCItemsPtr>(&Interface::get_OPCItems); }
+    OPCServerPtr Parent() override { return call<OPCServerPtr>(&Interface::get_Parent)(); }
+    std::string Name() override { return call<std::string>(&Interface::get_Name)(); }
+    OPCItemsPtr OPCItems() override { return call<OPCItemsPtr>(&Interface::get_OPCItems)(); }
 };
 
 template <> class FromCom<OPCItems> final : public ComModel<OPCItems> {
 public:
     using ComModel::ComModel;
-    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    std::int32_t Count() override { return call<std::int32_t>(&Interface::get_Count)(); }
     OPCItemPtr Item(const Variant& item_specifier) override {
-        return get<OPCItemPtr>(&Interface::Item, item_specifier);
+        return call<OPCItemPtr>(&Interface::Item)(item_specifier);
     }
     AddedItems AddItems(const StringArray& item_ids, const LongArray& client_handles,
                         const std::optional<ShortArray>& requested_data_types,
@@ -109,17 +109,19 @@ private:
 template <> class FromCom<OPCItem> final : public ComModel<OPCItem> {
 public:
     using ComModel::ComModel;
-    std::string ItemID() override { return get<std::string>(&Interface::get_ItemID); }
-    bool IsActive() override { return get<bool>(&Interface::get_IsActive); }
-    void set_IsActive(bool value) override { call(&Interface::put_IsActive, value); }
-    std::int16_t CanonicalDataType() override { return get<std::int16_t>(&Interface::get_CanonicalDataType); }
+    std::string ItemID() override { return call<std::string>(&Interface::get_ItemID)(); }
+    bool IsActive() override { return call<bool>(&Interface::get_IsActive)(); }
+    void set_IsActive(bool value) override { call<void> (&Interface::put_IsActive)(value); }
+    std::int16_t CanonicalDataType() override {
+        return call<std::int16_t>(&Interface::get_CanonicalDataType)();
+    }
 };
 
 template <> class FromCom<OPCBrowser> final : public ComModel<OPCBrowser> {
 public:
     using ComModel::ComModel;
-    std::int32_t Organization() override { return get<std::int32_t>(&Interface::get_Organization); }
-    std::int32_t Count() override { return get<std::int32_t>(&Interface::get_Count); }
+    std::int32_t Organization() override { return call<std::int32_t>(&Interface::get_Organization)(); }
+    std::int32_t Count() override { return call<std::int32_t>(&Interface::get_Count)(); }
     std::string Item(std::int32_t index) override {
         std::string name;
         read_item(index, name);
@@ -127,18 +129,18 @@ public:
     }
     void read_item(std::int32_t index, std::string& name) override {
         Bstr item;
-        require(called().Item(position_argument(index), item.out()));
+        require(called().Item(position_argument(index), item.out()), "Item");
         item.read(name);
     }
-    void ShowBranches() override { call(&Interface::ShowBranches); }
-    void ShowLeafs(bool flat) override { call(&Interface::ShowLeafs, Variant(flat)); }
-    void MoveToRoot() override { call(&Interface::MoveToRoot); }
+    void ShowBranches() override { call<void> (&Interface::ShowBranches)(); }
+    void ShowLeafs(bool flat) override { call<void> (&Interface::ShowLeafs)(Variant(flat)); }
+    void MoveToRoot() override { call<void> (&Interface::MoveToRoot)(); }
     void MoveTo(const StringArray& branches) override {
         OwnedSafeArray path(branches);
         require(called().MoveTo(path.in()));
     }
     std::string GetItemID(const std::string& leaf) override {
-        return get<std::string>(&Interface::GetItemID, leaf);
+        return call<std::string>(&Interface::GetItemID)(leaf);
     }
 };
 

@@ -9,14 +9,14 @@ public:
     using ComModel::ComModel;
     std::int32_t Show(const std::string& text, std::int32_t style, const std::string& title,
                       const Variant& default_button) override {
-        return get<std::int32_t>(&Interface::Show, text, style, title, default_button, Variant(Missing{}));
+        return call<std::int32_t>(&Interface::Show)(text, style, title, default_button, Variant(Missing{}));
     }
 };
 
 template <> class FromCom<hlxHelp> final : public ComModel<hlxHelp> {
 public:
     using ComModel::ComModel;
-    std::string HelpFile() override { return get<std::string>(&Interface::get_HelpFile); }
+    std::string HelpFile() override { return call<std::string>(&Interface::get_HelpFile)(); }
 };
 
 } // namespace brx
