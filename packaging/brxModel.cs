@@ -16,6 +16,7 @@ namespace brxModel
 {
     using System;
     using System.Runtime.InteropServices;
+    using ComTypes = System.Runtime.InteropServices.ComTypes;
 
     [ComVisible(true), ClassInterface(ClassInterfaceType.None)]
     public abstract class ModelObject
@@ -24,6 +25,44 @@ namespace brxModel
         {
             return new NotImplementedException(member + " is not implemented.");
         }
+    }
+
+    /// <summary>What _NewEnum of a collection gives: each of its elements, an object, once.</summary>
+    [ComVisible(true), ClassInterface(ClassInterfaceType.None)]
+    public sealed class Enumeration : ComTypes.IEnumVARIANT
+    {
+        const int S_OK = 0, S_FALSE = 1;
+
+        readonly object[] elements;
+        int next;
+
+        public Enumeration(params object[] elements) : this(elements, 0) { }
+        Enumeration(object[] elements, int next)
+        {
+            this.elements = elements;
+            this.next = next;
+        }
+
+        public int Next(int count, object[] values, IntPtr fetched)
+        {
+            int given = 0;
+            for (; given < count && next < elements.Length; ++given)
+                values[given] = new DispatchWrapper(elements[next++]);
+            if (fetched != IntPtr.Zero) Marshal.WriteInt32(fetched, given);
+            return given == count ? S_OK : S_FALSE;
+        }
+        public int Skip(int count)
+        {
+            int left = elements.Length - next;
+            next += Math.Min(count, left);
+            return count <= left ? S_OK : S_FALSE;
+        }
+        public int Reset()
+        {
+            next = 0;
+            return S_OK;
+        }
+        public ComTypes.IEnumVARIANT Clone() { return new Enumeration(elements, next); }
     }
 // @CLASSES@
 }
