@@ -38,9 +38,9 @@ implementation
 const
   NotImplemented = HResult($80004001);
 
-function NotThere: Exception;
+function Missing(const Member: string): Exception;
 begin
-  Result := EOleSysError.Create('', NotImplemented, 0);
+  Result := EOleSysError.Create(Member + ' is not implemented.', NotImplemented, 0);
 end;
 
 function TModelObject.GetTypeInfoCount(out Count: Integer): HResult;

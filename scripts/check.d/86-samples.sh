@@ -116,8 +116,8 @@ compile_pascal() {
     local name units=$work/pascal
     # The compiler takes for made what lies where it puts its own.
     cp -r "$pascal_units" "$units"
-    for name in pick serve; do
-        pascal "-Fu$work/kit/pascal" "-FU$units" "-o$work/$name-pascal.exe" "$samples/pascal/$name.pas" || return
+    for name in samples/pascal/{pick,serve} scripts/package/missing; do
+        pascal "-Fu$work/kit/pascal" "-FU$units" "-o$work/${name##*/}-pascal.exe" "$name.pas" || return
     done
 }
 # Those that no sample uses.
@@ -198,6 +198,8 @@ rule "Object Pascal: the units of the kit compile" compile_pascal_units
 try_sample "Object Pascal" "$work/pick-pascal.exe"
 rule "Object Pascal: a host with objects of its own has its third server picked" \
     prints $'Server 3\nstatus 0' third_by_keys "$work/serve-pascal.exe"
+told_by_base() { [ "$(wine_run 60 "$work/missing-pascal.exe" | tr -d '\r')" = "80004001 hlxOPCServers.Count is not implemented." ]; }
+rule "Object Pascal: a member that is not there is told by its name" told_by_base
 rule "C#: the samples compile, with the base of the kit" compile_csharp
 rule "C#: each interface has its members in the order of its table" same_tables
 rule "Visual Basic: the server has every member that Implements wants" has_members OPCServer

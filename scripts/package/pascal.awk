@@ -32,7 +32,7 @@ function end_member(prefix, heading) {
     heading = (list == "" ? "" : "(" list ")") (result == "" ? ";" : ": " result ";")
     if (part == "bodies") {
         print (result == "" ? "procedure " : "function ") class "." prefix member heading
-        print "begin\n  raise NotThere;\nend;\n"
+        print "begin\n  raise Missing('" substr(class, 2) "." member "');\nend;\n"
     } else {
         remark("    ", member_help)
         print "    " (result == "" ? "procedure " : "function ") prefix member heading \
