@@ -125,6 +125,33 @@ TEST_F(Trees, TheKeysOpenAndCloseNodes) {
     });
 }
 
+TEST_F(Trees, TheSpaceBarClicksTheSelectedNode) {
+    while_open([&] {
+        EXPECT_EQ(focused(), "Tree");
+        screen().key(Key::space);
+        EXPECT_EQ(told(), "") << "None is selected.";
+        person.hits(Key::down);
+        person.hits(Key::right);
+        told();
+        person.hits(Key::space);
+        EXPECT_EQ(told(), "NodeClick Fruit. Click. ");
+        EXPECT_EQ(selected(), "Fruit");
+        EXPECT_EQ(rows(), open);
+    });
+}
+
+TEST_F(Trees, ABlankWithinWhatIsTypedClicksNothing) {
+    form().on_load = [this] {
+        for (const char* each : {"Head", "Head 1", "Head 2"}) tree().add("", each);
+        tree().select(tree().first());
+    };
+    while_open([&] {
+        person.types("head 2");
+        // Some systems leave the blank out of what they look for (Wine).
+        EXPECT_EQ(told().find(" Click. "), std::string::npos);
+    });
+}
+
 TEST_F(Trees, TypingGoesToTheNodeThatBeginsSo) {
     while_open([&] {
         person.clicks_node("Tree", "Fruit");

@@ -85,7 +85,9 @@ SCENARIO(KeyboardOnly, AnItemIsFoundInTheTreeAndChosen) {
     Browsing dialog(its);
     its.person.uses_accelerator('a');
     EXPECT_TRUE(its.person.has_focus("TrView"));
-    hits(its, {Key::home, Key::right, Key::down}); // Line1, opened, and its first branch
+    hits(its, {Key::home, Key::right, Key::space}); // Line1, opened, and again its items
+    EXPECT_EQ(its.person.lines_of("lstItem"), (Lines{"Running", "Speed"}));
+    its.person.hits(Key::down); // to its first branch
     EXPECT_EQ(its.person.reads("TrView"), "Oven");
     its.person.uses_accelerator('b');
     EXPECT_TRUE(its.person.has_focus("lstItem"));

@@ -121,7 +121,7 @@ public:
     /// The next one in view, going down; null at the end.
     static TreeNode* next_in_view(const TreeNode& node);
 
-    /// A person clicked a node.
+    /// A person clicked a node, or pressed the space bar on the selected one.
     bool user_click(TreeNode& node);
     /// A person moved the selection with the keyboard.
     bool user_select(TreeNode& node);

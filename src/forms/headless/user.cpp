@@ -202,6 +202,7 @@ bool HeadlessUser::space() {
     if (auto* box = as<CheckBox>(focused())) return box->user_toggle();
     if (auto* table = as<ListView>(focused())) return table->selected() != 0 || move(0);
     if (auto* list = as<ListBox>(focused())) return list->selected() >= 0 || move(0);
+    if (auto* tree = as<TreeView>(focused())) return tree->selected() && tree->user_click(*tree->selected());
     return type(" ");
 }
 

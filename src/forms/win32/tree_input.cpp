@@ -44,7 +44,8 @@ LRESULT TreePeer::handle_message(UINT message, WPARAM wparam, LPARAM lparam) {
         if (take_key(wparam)) return 0;
         break;
     case WM_CHAR:
-        if (std::exchange(sign_key_, false)) return 0;
+        if (std::exchange(own_key_, false)) return 0;
+        typed_at_ = GetMessageTime();
         break;
     case WM_SETFOCUS: {
         // A tree without a selection takes the first node for it.
@@ -86,8 +87,10 @@ void TreePeer::press(POINT point, bool twice) {
 
 /// What a tree itself would do with these keys is more than is wanted, or nothing.
 bool TreePeer::take_key(WPARAM key) {
-    sign_key_ = key == VK_ADD || key == VK_SUBTRACT || key == VK_MULTIPLY;
+    const bool clicks = key == VK_SPACE && !is_searching();
+    own_key_ = clicks || key == VK_ADD || key == VK_SUBTRACT || key == VK_MULTIPLY;
     if (TreeNode* const selected = node_of(neighbour(TVGN_CARET))) {
+        if (clicks) return window().deliver([&] { return tree_.user_click(*selected); });
         if (key != VK_MULTIPLY) return false;
         toggle(*selected, true);
         return true;
@@ -95,6 +98,12 @@ bool TreePeer::take_key(WPARAM key) {
     const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
     TreeNode* const first = tree_.first();
     return moves && first && window().deliver([&] { return tree_.user_select(*first); });
+}
+
+/// The tree is looking for a name that is being typed, and a blank may be part of it.
+bool TreePeer::is_searching() const {
+    constexpr LONG pause = 1000; // ms, about where a tree begins anew
+    return typed_at_ && GetMessageTime() - *typed_at_ < pause;
 }
 
 bool TreePeer::toggle(TreeNode& node, bool expanded) {

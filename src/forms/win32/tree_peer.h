@@ -7,6 +7,7 @@
 
 #include <commctrl.h>
 
+#include <optional>
 #include <vector>
 
 namespace brx {
@@ -38,6 +39,7 @@ private:
 
     void press(POINT point, bool twice);
     bool take_key(WPARAM key);
+    bool is_searching() const;
     bool toggle(TreeNode& node, bool expanded);
     bool take_expand(WPARAM action, HTREEITEM item);
 
@@ -51,7 +53,8 @@ private:
     TreeView& tree_;
     std::vector<HTREEITEM> items_; ///< by the node's index
     bool fresh_ = true;            ///< nothing has been shown yet
-    bool sign_key_ = false;        ///< the last key opens and closes, and types nothing
+    bool own_key_ = false;         ///< the last key does something else than type
+    std::optional<LONG> typed_at_; ///< when the last character was typed, as messages are timed
 };
 
 } // namespace brx
