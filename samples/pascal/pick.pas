@@ -6,7 +6,7 @@ program Pick;
 {$apptype console}
 
 uses
-  ActiveX, ComObj, Variants;
+  ActiveX, ComObj, SysUtils, Variants;
 
 function PickItem: Boolean;
 var
@@ -39,7 +39,15 @@ end;
 
 begin
   OleInitialize(nil);
-  if not PickItem then
-    ExitCode := 1;
+  try
+    if not PickItem then
+      ExitCode := 1;
+  except
+    on Problem: EOleSysError do
+    begin
+      WriteLn(ErrOutput, 'Error ', IntToHex(Problem.ErrorCode, 8), ': ', Problem.Message);
+      ExitCode := 2;
+    end;
+  end;
   OleUninitialize;
 end.

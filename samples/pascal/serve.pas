@@ -6,7 +6,7 @@ program Serve;
 {$apptype console}
 
 uses
-  ActiveX, ComObj, SysUtils, brxModel, brxOpcAuto6_TLB, brxOpcDlgs6_TLB;
+  ActiveX, ComObj, SysUtils, brxModel, brxValues, brxOpcAuto6_TLB, brxOpcDlgs6_TLB;
 
 type
   TServer = class(ThlxOPCServer)
@@ -56,13 +56,8 @@ begin
 end;
 
 function TServers.Get_Item(Index: OleVariant): _hlxOPCServer;
-var
-  Position: Integer;
 begin
-  Position := Index;
-  if (Position < 1) or (Position > Length(FServers)) then
-    raise EOleSysError.Create('There is no such server.', HResult($8002000B), 0); { DISP_E_BADINDEX }
-  Result := FServers[Position];
+  Result := FServers[PositionOf(Index, Length(FServers))];
 end;
 
 function ChooseServer: Boolean;
@@ -79,7 +74,15 @@ end;
 
 begin
   OleInitialize(nil);
-  if not ChooseServer then
-    ExitCode := 1;
+  try
+    if not ChooseServer then
+      ExitCode := 1;
+  except
+    on Problem: EOleSysError do
+    begin
+      WriteLn(ErrOutput, 'Error ', IntToHex(Problem.ErrorCode, 8), ': ', Problem.Message);
+      ExitCode := 2;
+    end;
+  end;
   OleUninitialize;
 end.

@@ -19,7 +19,7 @@ kit_files() {
         say "licenses/$each.txt"
     done
     printf '%s\n' sbom.spdx.json idl/OPCAutomation_codes.idh idl/OPCAutomation_groups.idh idl/brxOpcAuto6_configuration.idh \
-        idl/reserved.idh include/brxModel.h pascal/brxModel.pas csharp/brxModel.cs LICENSE NOTICE README.html brxOpcDlgs6.chm host.exe.manifest doc/CHANGELOG.html
+        idl/reserved.idh include/brxModel.h pascal/brxModel.pas pascal/brxValues.pas csharp/brxModel.cs LICENSE NOTICE README.html brxOpcDlgs6.chm host.exe.manifest doc/CHANGELOG.html
     for each in "$brx_top"/docs/*.md; do say "doc/$(basename "$each" .md).html"; done
 }
 
@@ -31,7 +31,7 @@ has_its_files() {
 
 has_samples() {
     local each missing=''
-    for each in brxSampleHost.manifest scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp cpp/configure/model.h pascal/serve.pas csharp/Serve.cs vba/Servers.cls python/serve.py powershell/serve.ps1 {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
+    for each in brxSampleHost.manifest scripts/select-server.vbs scripts/configure.vbs cpp/pick.cpp cpp/configure/model.h pascal/serve.pas pascal/configure/configure.pas csharp/Serve.cs vba/Servers.cls python/serve.py powershell/serve.ps1 {x64,x86}/{brxSample.dll,brxSampleHost.exe,brxSampleServer.exe}; do
         [ -s "$kit/samples/$each" ] || missing+="error: there is no samples/$each"$'\n'
     done
     [ -z "$missing" ] || { say "$missing" && return 1; }

@@ -77,6 +77,7 @@ kit_languages() {
     done
     kit_base pascal pas classes bodies
     kit_base csharp cs classes
+    cp "$brx_top/packaging/brxValues.pas" "$kit/pascal/"
     rm -r "$made"
 }
 in_language() { awk -v part="$2" -f "$brx_top/scripts/package/$1.awk" pass=1 "${@:3}" pass=2 "${@:3}"; }
