@@ -24,8 +24,9 @@ if(BRX_CCACHE)
     set(cache "${CMAKE_COMMAND}" -E env "CCACHE_DIR=${BRX_CACHE}/ccache" "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}"
         CCACHE_NOHASHDIR=1)
     if(BRX_PDB)
-        # It asks a clang that it knows for colours.
-        list(APPEND cache CCACHE_COMPILERTYPE=other)
+        # It asks a clang that it knows for colours. Sums of the sources are debug information, so that a remark counts,
+        # which it sees only by the files that were read.
+        list(APPEND cache CCACHE_COMPILERTYPE=other CCACHE_DEPEND=1)
     endif()
     foreach(language C CXX)
         set(CMAKE_${language}_COMPILER_LAUNCHER ${cache} "${BRX_CCACHE}")
