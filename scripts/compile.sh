@@ -31,8 +31,9 @@ for argument; do
     *) line="$line $argument" ;;
     esac
 done
-# Two command lines may differ in what changes nothing but themselves: the cache is to tell them apart.
-CCACHE_NAMESPACE=$(printf '%s' "$line" | cksum)
+# Two command lines may differ in what changes nothing but themselves: the cache is to tell them apart. What it kept
+# when it looked at preprocessed sources, without their remarks, it would still give: hence the word before.
+CCACHE_NAMESPACE=files-$(printf %s "$line" | cksum)
 export CCACHE_NAMESPACE
 # It is for the programs of this machine.
 unset LIBRARY_PATH
