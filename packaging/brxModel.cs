@@ -1,8 +1,9 @@
 // What a host in C# implements its objects with: a class for each interface of brxOpcAuto6, brxDatabase6 and
-// OPCAutomation, of the same name without its underscore, in which every member answers E_NOTIMPL. Derive from them
+// OPCAutomation, of the same name without its underscore or I, in which every member answers E_NOTIMPL. Derive from them
 // and override what your objects have; doc/calls.html says what is called.
 //
-//     class Servers : brxModel.hlxOPCServers
+//     [ClassInterface(ClassInterfaceType.None)] // late callers get the interface's members, and no others
+//     public class Servers : brxModel.hlxOPCServers
 //     {
 //         public override int Count { get { return 2; } }
 //         ...

@@ -5,6 +5,7 @@ using System.Runtime.InteropServices;
 using brxOpcAuto6;
 using brxOpcDlgs6;
 
+[ClassInterface(ClassInterfaceType.None)]
 public class Server : brxModel.hlxOPCServer
 {
     readonly string node, name;
@@ -19,6 +20,7 @@ public class Server : brxModel.hlxOPCServer
     public override string ServerName { get { return name; } }
 }
 
+[ClassInterface(ClassInterfaceType.None)]
 public class Servers : brxModel.hlxOPCServers
 {
     const int DISP_E_BADINDEX = unchecked((int)0x8002000B);
