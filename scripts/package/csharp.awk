@@ -8,8 +8,9 @@ function array_of(type) {
     gsub(/^SAFEARRAY\(|\)\**$/, "", type)
     return "MarshalAs(UnmanagedType.SafeArray, SafeArraySubType = VarEnum." variants[type] ")"
 }
-# How a value goes over; nothing where the language's own way is the right one.
+# How a value goes over, which only interfaces say; nothing where the language's own way is the right one.
 function way_of(type) {
+    if (part == "classes") return ""
     if (type ~ /^SAFEARRAY/) return array_of(type)
     sub(/\*+$/, "", type)
     return type in ways ? marshalled(ways[type]) : ""
@@ -27,44 +28,33 @@ function escaped(text) {
     return text
 }
 
+function mark(target, text) { return text == "" ? "" : "[" target text "] " }
+
 # Arrays are handed over by reference, whichever way they go.
-function argument(kind, type, name, preset, how, marks) {
+function argument(kind, type, name, preset, how) {
     how = kind == "out" ? "out " : kind == "inout" || type ~ /^SAFEARRAY/ ? "ref " : ""
-    marks = way_of(type)
-    if (part == "classes" || marks == "") marks = ""
-    else marks = "[" marks "] "
     if (part == "classes" || preset == "") preset = ""
     else preset = " = " (type == "VARIANT_BOOL" ? (preset == 0 ? "false" : "true") : preset)
-    return marks how type_of(type) " " plain(name) preset
+    return mark("", way_of(type)) how type_of(type) " " plain(name) preset
 }
 
 function remark(text) {
     if (part == "library" && text != "") print "        /// <summary>" escaped(text) "</summary>"
 }
-function marks_of(at, marks) {
-    if (part == "classes") return ""
-    marks = identifiers[at] == "" ? "" : "[DispId(" identifiers[at] ")] "
-    return marks (result_way[at] == "" || kinds[at] == "put" ? "" : "[return: " result_way[at] "] ")
-}
+function identifier(at) { return part == "classes" || identifiers[at] == "" ? "" : "[DispId(" identifiers[at] ")] " }
+function missing(at) { return "{ throw Missing(\"" interface_class "." names[at] "\"); }" }
 # The way of a property belongs to each of its two halves.
-function reader(at) {
-    if (part == "classes") return " get { throw Missing(\"" interface_class "." names[at] "\"); }"
-    return " " (result_way[at] == "" ? "" : "[return: " result_way[at] "] ") "get;"
-}
-function writer(at) {
-    if (part == "classes") return " set { throw Missing(\"" interface_class "." names[at] "\"); }"
-    return " " (put_way[at] == "" ? "" : "[param: " put_way[at] "] ") "set;"
-}
+function reader(at) { return part == "classes" ? " get " missing(at) : " " mark("return: ", result_way[at]) "get;" }
+function writer(at) { return part == "classes" ? " set " missing(at) : " " mark("param: ", put_way[at]) "set;" }
 function property(at, name, halves) {
-    print "        " (identifiers[at] == "" || part == "classes" ? "" : "[DispId(" identifiers[at] ")] ") opening() \
-        results[at] " " name " {" halves " }"
+    print "        " identifier(at) opening() results[at] " " name " {" halves " }"
 }
 function opening() { return part == "classes" ? "public virtual " : "" }
 # The compiler lays a property's reader out before its writer, one behind the other. Where that is not the interface's
 # order, each is a method.
 function accessor(at) {
     if (kinds[at] == "get") call(at, "get_" names[at], "")
-    else call(at, "set_" names[at], (part == "classes" || put_way[at] == "" ? "" : "[" put_way[at] "] ") results[at] " value")
+    else call(at, "set_" names[at], mark("", put_way[at]) results[at] " value")
 }
 function find_apart(at, place) {
     split("", apart)
@@ -75,8 +65,8 @@ function find_apart(at, place) {
     }
 }
 function call(at, name, list) {
-    print "        " marks_of(at) opening() (kinds[at] == "put" ? "void" : results[at]) " " name "(" list ")" \
-        (part == "classes" ? " { throw Missing(\"" interface_class "." names[at] "\"); }" : ";")
+    print "        " identifier(at) mark("return: ", result_way[at]) opening() \
+        (kinds[at] == "put" ? "void" : results[at]) " " name "(" list ")" (part == "classes" ? " " missing(at) : ";")
 }
 
 function end_interface(at) {
